@@ -1,0 +1,73 @@
+// A client as typed into the client dialog: checks, chart and rows.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "chart/chart_computation.h"
+#include "core/save_result.h"
+#include "core/session.h"
+
+namespace orvex::chart {
+
+// The fields of the client dialog, numbers as texts.
+struct ClientForm {
+  std::string FullName;
+  std::string Email;
+  std::string Mobile;
+  std::string Comments;
+  core::DateTime Birth;
+  std::string Gender = "M";  // "M", "F" or "O"
+  bool Horary = false;
+  std::string HoraryNumber = "1";
+  std::string HoraryQuestion;
+  bool AscendantByHand = false;
+  std::string AscendantDegree;
+  std::int32_t CityId = 0;  // 0: none chosen
+  std::string Latitude;
+  std::string Longitude;
+  std::string Offset;
+};
+
+// The place of a city row, as the dialog copies it into the fields.
+struct CityPlace {
+  std::string Latitude;
+  std::string Longitude;
+  std::string Offset;
+};
+
+// The place of a city that the city lists show; nothing for any other id.
+std::optional<CityPlace> PlaceOfCity(const core::Session& session, std::int32_t cityId);
+
+// The form of a new client: the user city and the present moment.
+ClientForm OpenAddClient(const core::Session& session);
+
+// The form of a stored client; nothing where the client is gone, after the program's message.
+std::optional<ClientForm> OpenEditClient(core::Session& session, std::int32_t clientId);
+
+// Takes the place of the chosen city into the form.
+void SelectCity(const core::Session& session, std::int32_t cityId, ClientForm& form);
+
+// Saves a new client of a group with its chart: one client_master row and nine client_planets rows
+// in one batch. The first failed check, or a chart that can't be computed or written, is refused.
+// The id is found again by the second of creation, so of two clients of one second the first one's
+// is given.
+core::SaveResult SaveNewClient(core::Session& session, const ClientForm& form,
+                               std::int32_t groupId);
+
+// Saves the changes of a stored client. Its group and its moment of creation stay.
+core::SaveResult SaveClientChanges(core::Session& session, const ClientForm& form,
+                                   std::int32_t clientId);
+
+// What a computed chart needs beside its rows to be stored as a client.
+struct ClientRecord {
+  ClientForm Form;
+  std::int32_t GroupId = 0;
+  ChartResult Chart;
+};
+
+// Writes a new client whose chart is computed. StoreError where a statement fails; what was written
+// before it stays.
+std::int32_t InsertClient(core::Session& session, const ClientRecord& record);
+
+}  // namespace orvex::chart

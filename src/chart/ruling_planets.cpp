@@ -1,0 +1,95 @@
+#include "chart/ruling_planets.h"
+
+#include <array>
+#include <cmath>
+
+#include "chart/zodiac_lookups.h"
+#include "core/attempt.h"
+#include "core/exact_numbers.h"
+#include "core/text.h"
+
+namespace orvex::chart {
+
+namespace {
+
+// Sunday first.
+constexpr std::array<const char*, 7> kDayLords = {"Sun",     "Moon",  "Mars",  "Mercury",
+                                                  "Jupiter", "Venus", "Saturn"};
+
+void AddRuler(core::Table& table, const char* description, const std::string& planet) {
+  table.AddRow();
+  const std::size_t row = table.Rows.size() - 1;
+  table.At(row, RulingColumn::Description).Text = description;
+  table.At(row, RulingColumn::Planet).Text = planet;
+}
+
+std::string MoonLord(const HoroscopeModel& model, PlanetColumn column) {
+  std::string lord;
+  core::Attempt([&] { lord = PlanetTag(model, RowOf(PlanetPlace::Moon), column); });
+  return lord;
+}
+
+}  // namespace
+
+std::string DayLord(core::DateTime date) {
+  return kDayLords.at(static_cast<std::size_t>(core::WeekdayNumber(date)) - 1);
+}
+
+void BuildRulingPlanets(HoroscopeModel& model) {
+  core::Table& table = model.RulingPlanets;
+  table = {{{"Description"}, {"Planet"}}, {}};
+  const core::Table& cusps = model.CuspTable;
+  AddRuler(table, "Asc Sign Lord", cusps.At(0, CuspColumn::SignLord).Text);
+  AddRuler(table, "Asc Star Lord", cusps.At(0, CuspColumn::StarLord).Text);
+  AddRuler(table, "Asc Sub Lord", cusps.At(0, CuspColumn::SubLord).Text);
+  AddRuler(table, "Moon Sign Lord", MoonLord(model, PlanetColumn::SignLord));
+  AddRuler(table, "Moon Star Lord", MoonLord(model, PlanetColumn::StarLord));
+  AddRuler(table, "Moon Sub Lord", MoonLord(model, PlanetColumn::SubLord));
+  AddRuler(table, "Day Lord", DayLord(model.Birth));
+
+  std::vector<std::string> names;
+  for (std::size_t row = 0; row < table.Rows.size(); ++row) {
+    names.push_back(table.At(row, RulingColumn::Planet).Text);
+  }
+  model.Captions.RulingPlanetsText = core::Join(names, "*");
+}
+
+float PartOfFortune(float moon, float ascendant, float sun) {
+  float f = moon + ascendant - sun;
+  if (f < 0) {
+    f = 360 + f;
+  } else if (f > 360) {
+    f = 360 - f;
+  }
+  return std::fabs(f);
+}
+
+std::string PointText(const core::ReferenceData& reference, float degree) {
+  const double point = LookupDegree(degree);
+  const core::SubRow& sub = SubOfDegree(reference, point);
+  const StarAndPada star = StarOfDegree(reference, point);
+  return core::TwoDecimals(degree) + "/" +
+         core::FirstCharacters(RashiName(RashiOfDegree(point)), 3) + " (" + sub.RashiLord + "/" +
+         sub.StarLord + "/" + sub.SubLord + ")  |  " + star.Star->StarName + " - Pada " +
+         core::PaddedWhole(star.Pada->Pada, 1);
+}
+
+void WritePartOfFortune(const core::ReferenceData& reference, HoroscopeModel& model) {
+  core::Attempt([&] {
+    const float point =
+        PartOfFortune(core::ToSingle(model.MoonDegree), core::ToSingle(model.CuspDegree1),
+                      core::ToSingle(model.SunDegree));
+    model.Captions.PartOfFortune = PointText(reference, point);
+  });
+}
+
+void WriteBadhakHouse(HoroscopeModel& model) {
+  constexpr std::array<const char*, 3> kHousesBySignType = {"11", "9", "7"};
+  const std::optional<std::int64_t> rashi =
+      core::ParseWhole(HouseText(model, 0, HouseColumn::Rashi));
+  if (rashi && *rashi >= 1 && *rashi <= 12) {
+    model.Captions.BadhakHouse = kHousesBySignType.at(static_cast<std::size_t>(*rashi - 1) % 3);
+  }
+}
+
+}  // namespace orvex::chart

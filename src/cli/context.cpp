@@ -1,0 +1,93 @@
+#include "cli/context.h"
+
+#include <cstdlib>
+#include <iostream>
+
+#include "core/exact_numbers.h"
+#include "core/text.h"
+
+namespace orvex::cli {
+
+namespace {
+
+std::string Environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+}  // namespace
+
+core::MessageAnswer ErrorMessages::ShowMessage(const std::string& text,
+                                               core::MessageButtons buttons,
+                                               core::MessageIcon /*icon*/) {
+  std::cerr << text << "\n";
+  return buttons == core::MessageButtons::YesNo ? core::MessageAnswer::No : core::MessageAnswer::Ok;
+}
+
+std::filesystem::path HomeFolder(const std::string& option) {
+  if (!option.empty()) {
+    return option;
+  }
+  if (const std::string home = Environment("ORVEX_HOME"); !home.empty()) {
+    return home;
+  }
+  const std::filesystem::path program = core::ProgramFolder();
+  std::error_code error;
+  if (std::filesystem::is_directory(program / "Data", error)) {
+    return program;
+  }
+  if (const std::string data = Environment("XDG_DATA_HOME"); !data.empty()) {
+    return std::filesystem::path(data) / "orvex";
+  }
+  return std::filesystem::path(Environment("HOME")) / ".local" / "share" / "orvex";
+}
+
+core::DateTime MomentOption(const std::string& name, const std::string& text) {
+  const std::optional<core::DateTime> moment = core::ParseDateTime(text);
+  if (!moment) {
+    throw CommandFailed(name + ": \"" + core::FirstCharacters(text, 40) +
+                    "\" is no date of the years 100 to 9999 in the form YYYY-MM-DD [HH:MM[:SS]]");
+  }
+  return *moment;
+}
+
+std::int32_t WholeOption(const std::string& name, const std::string& text) {
+  const std::optional<std::int64_t> number = core::ParseWhole(text);
+  if (!number || *number < INT32_MIN || *number > INT32_MAX) {
+    throw CommandFailed(name + ": \"" + core::FirstCharacters(text, 40) + "\" is no whole number");
+  }
+  return static_cast<std::int32_t>(*number);
+}
+
+CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
+                     std::function<void()> run) {
+  CLI::App* command = parent.add_subcommand(name, description);
+  command->callback(std::move(run));
+  return command;
+}
+
+std::int32_t Context::Saved(const core::SaveResult& result) {
+  if (result.Refused) {
+    throw CommandFailed(result.Refused->Text);
+  }
+  return result.Id;
+}
+
+core::Session& Context::Open(core::StartMode mode) {
+  if (!session_) {
+    if (NowOption.empty()) {
+      clock_ = std::make_unique<core::SystemClock>();
+    } else {
+      clock_ = std::make_unique<core::FixedClock>(MomentOption("--now", NowOption));
+    }
+    const core::StartupPlan plan{core::Home{HomeFolder(HomeOption)}, core::ShippedDataFolder(),
+                                 core::MachineSettings::DefaultFile(), mode};
+    session_ = core::RunStartup(plan, *clock_, messages_, ephemeris_);
+    if (!session_) {
+      throw CommandFailed("");
+    }
+  }
+  return *session_;
+}
+
+}  // namespace orvex::cli

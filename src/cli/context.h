@@ -1,0 +1,75 @@
+// What the commands share: the options before the command and the session that it runs in.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "astro/ephemeris_gateway.h"
+#include "core/save_result.h"
+#include "core/session.h"
+#include "core/startup.h"
+
+namespace orvex::cli {
+
+// Ends a command with exit status 1. The text goes to standard error; an empty one was shown before.
+class CommandFailed : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Messages of a run go to standard error; questions are answered with the answer given.
+class ErrorMessages final : public core::Messages {
+ public:
+  core::MessageAnswer ShowMessage(const std::string& text, core::MessageButtons buttons,
+                                  core::MessageIcon icon) override;
+};
+
+class Context {
+ public:
+  std::string HomeOption;
+  std::string NowOption;
+  bool Json = false;
+
+  // The session of a command, started at the first call. CommandFailed where the start is refused.
+  core::Session& Reading() { return Open(core::StartMode::Reader); }
+  core::Session& Writing() { return Open(core::StartMode::Writer); }
+
+  // The id that was saved; CommandFailed with the program's message where the form was refused.
+  static std::int32_t Saved(const core::SaveResult& result);
+
+  // Whether a computation found no ephemeris files.
+  bool EphemerisFellBack() const { return ephemeris_.FellBack(); }
+
+ private:
+  core::Session& Open(core::StartMode mode);
+
+  std::unique_ptr<core::Clock> clock_;
+  ErrorMessages messages_;
+  astro::EphemerisGateway ephemeris_;
+  std::unique_ptr<core::Session> session_;
+};
+
+// The home of a call: the option, else $ORVEX_HOME, else the program's folder if it holds "Data",
+// else the user's data folder.
+std::filesystem::path HomeFolder(const std::string& option);
+
+// The date or moment of an option's text. CommandFailed for a text that names none.
+core::DateTime MomentOption(const std::string& name, const std::string& text);
+
+// The whole number of an option's or argument's text. CommandFailed for any other text.
+std::int32_t WholeOption(const std::string& name, const std::string& text);
+
+// A command below `parent` whose callback runs `run`.
+CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
+                     std::function<void()> run);
+
+void AddStoreCommands(CLI::App& app, Context& context);   // init
+void AddCityCommands(CLI::App& app, Context& context);    // city
+void AddGroupCommands(CLI::App& app, Context& context);   // group
+void AddClientCommands(CLI::App& app, Context& context);  // client
+void AddChartCommands(CLI::App& app, Context& context);   // chart, sun
+
+}  // namespace orvex::cli

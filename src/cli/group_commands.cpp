@@ -1,0 +1,5 @@
+#include "cli/context.h"
+
+namespace orvex::cli {
+void AddGroupCommands(CLI::App&, Context&) {}
+}

@@ -1,0 +1,67 @@
+#include <sys/stat.h>
+
+#include <iostream>
+
+#include "cli/context.h"
+
+namespace {
+
+using orvex::cli::Context;
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1;
+constexpr int kCallOff = 2;
+
+// A command is missing its words where CLI11 says so; help and version are no errors.
+int CallOff(const CLI::App& app, const CLI::ParseError& error) {
+  if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
+    return app.exit(error);
+  }
+  std::cerr << error.what() << "\nUsage: " << app.get_name()
+            << " [--home DIR] [--now \"YYYY-MM-DD HH:MM:SS\"] COMMAND ...  (--help tells more)\n";
+  return kCallOff;
+}
+
+int Run(CLI::App& app, int argc, char** argv) {
+  try {
+    app.parse(argc, argv);
+    return kDone;
+  } catch (const CLI::ParseError& error) {
+    return CallOff(app, error);
+  } catch (const std::exception& error) {
+    if (*error.what() != '\0') {
+      std::cerr << error.what() << "\n";
+    }
+    return kFailed;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // Whatever the program makes holds private data.
+  ::umask(S_IRWXG | S_IRWXO);
+
+  Context context;
+  CLI::App app("Orvex+ at the command line: charts and client records without a window",
+               "orvex-cli");
+  app.set_version_flag("--version", orvex::core::ProgramVersion());
+  app.add_option("--home", context.HomeOption, "the install folder");
+  app.add_option("--now", context.NowOption, "the clock of the run, YYYY-MM-DD HH:MM:SS");
+  app.add_flag("--json", context.Json, "print one JSON document");
+  app.require_subcommand(1);
+  app.fallthrough();
+
+  orvex::cli::AddStoreCommands(app, context);
+  orvex::cli::AddCityCommands(app, context);
+  orvex::cli::AddGroupCommands(app, context);
+  orvex::cli::AddClientCommands(app, context);
+  orvex::cli::AddChartCommands(app, context);
+
+  const int status = Run(app, argc, argv);
+  if (context.EphemerisFellBack()) {
+    std::cerr << "The Swiss Ephemeris files were not found; positions come from the library's own "
+                 "analytical ephemeris.\n";
+  }
+  return status;
+}

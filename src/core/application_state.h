@@ -1,0 +1,77 @@
+// What lives for as long as the process does: the settings as values in memory and the user city.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvex::core {
+
+// The eight aspect angles with the orb and limits of each, in the order in which they are tried.
+struct AspectBand {
+  int Aspect;              // degrees
+  const char* OrbColumn;   // column of the settings row
+  int DefaultOrb;          // degrees
+  bool Good;               // a good aspect, else a hard one
+};
+
+inline constexpr std::size_t kAspectCount = 8;
+
+// clang-format off
+inline constexpr std::array<AspectBand, kAspectCount> kAspects = {{
+    {30,  "Orbit_30",  3, true},
+    {60,  "Orbit_60",  5, true},
+    {120, "Orbit_120", 8, true},
+    {45,  "Orbit_45",  3, false},
+    {90,  "Orbit_90",  5, false},
+    {135, "Orbit_135", 3, false},
+    {150, "Orbit_150", 3, false},
+    {180, "Orbit_180", 8, false},
+}};
+// clang-format on
+
+// Low and high limit of one aspect, whole degrees, both inclusive.
+struct BandLimits {
+  std::int16_t Low = 0;
+  std::int16_t High = 0;
+};
+
+// The limits of the eight aspects, in the order of kAspects.
+using AspectBandLimits = std::array<BandLimits, kAspectCount>;
+
+// The limits that the default orbs give.
+AspectBandLimits DefaultAspectBands();
+
+// The place in kAspects of the first band that holds the angle, both limits inclusive; -1 for none.
+int AspectOfAngle(const AspectBandLimits& bands, float angle);
+
+// The column that lists are ordered by, for a code of the settings row in any case; an unknown or
+// empty code gives "cm.FullName".
+std::string SortColumnOfCode(std::string_view code);
+
+struct ApplicationState {
+  char RahuKetuCalculation = 'M';  // 'M' mean node, 'T' true node
+  char DefaultChartType = 'N';     // 'N' north, 'E' east, 'S' south
+  std::string ChartPath;
+  std::string AstrologerName;
+  std::string AstrologerOrganization;
+  std::string AstrologerContactDetails;
+  std::array<std::int16_t, kAspectCount> Orbs = {};  // degrees, in the order of kAspects
+  AspectBandLimits AspectBands = DefaultAspectBands();
+  char StatusBarDegreeCalc = 'A';  // 'A' actual degree, 'R' degree within the sign
+  std::string SortColumn = "cm.FullName";
+  std::int32_t InstantChartGroupId = 0;
+  std::string InstantChartGroupName;
+  std::int32_t UserCityId = 19;
+  std::string UserCityName = "Dubai";
+  float UserCityLatitude = 25.07725F;    // degrees, north positive
+  float UserCityLongitude = 55.30927F;   // degrees, east positive
+  float UserCityOffset = 4;              // hours east of Greenwich
+  std::vector<std::int32_t> OpenHoroscopes;  // client ids
+  std::string SunriseText;
+  std::string SunsetText;
+};
+
+}  // namespace orvex::core

@@ -1,0 +1,95 @@
+#include "core/home.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <stdexcept>
+#include <thread>
+#include <utility>
+
+namespace orvex::core {
+
+namespace fs = std::filesystem;
+
+bool MakePrivateFolders(const fs::path& folder) {
+  constexpr mode_t kPrivate = 0700;
+  std::error_code error;
+  fs::path made;
+  for (const fs::path& part : fs::absolute(folder)) {
+    made /= part;
+    if (part.empty() || fs::is_directory(made, error)) {
+      continue;
+    }
+    // Another process may make it at the same time.
+    if (::mkdir(made.c_str(), kPrivate) != 0 && !fs::is_directory(made, error)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+bool MayWrite(const fs::path& folder) { return ::access(folder.c_str(), W_OK | X_OK) == 0; }
+
+std::optional<HomeLock> HomeLock::Acquire(const Home& home, std::chrono::milliseconds patience) {
+  constexpr mode_t kPrivate = 0600;
+  constexpr std::chrono::milliseconds kPause{20};
+  const int descriptor = ::open(home.LockFile().c_str(), O_CREAT | O_RDWR | O_CLOEXEC, kPrivate);
+  if (descriptor < 0) {
+    return std::nullopt;
+  }
+  HomeLock lock(descriptor);
+  const auto end = std::chrono::steady_clock::now() + patience;
+  while (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+    if (std::chrono::steady_clock::now() >= end) {
+      return std::nullopt;
+    }
+    std::this_thread::sleep_for(kPause);
+  }
+  return lock;
+}
+
+HomeLock::HomeLock(HomeLock&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+
+HomeLock& HomeLock::operator=(HomeLock&& other) noexcept {
+  std::swap(descriptor_, other.descriptor_);
+  return *this;
+}
+
+HomeLock::~HomeLock() {
+  if (descriptor_ >= 0) {
+    ::close(descriptor_);
+  }
+}
+
+fs::path ProgramFolder() {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  return error ? fs::path() : program.parent_path();
+}
+
+fs::path ShippedDataFolder() {
+  const fs::path installed = ProgramFolder() / ".." / "share" / "orvex";
+  std::error_code error;
+  return fs::is_directory(installed, error) ? fs::canonical(installed) : fs::path(ORVEX_DATA_FOLDER);
+}
+
+void WriteFileSafely(const fs::path& file, const std::string& content) {
+  const fs::path beside = file.string() + ".new";
+  {
+    std::ofstream stream(beside, std::ios::binary | std::ios::trunc);
+    fs::permissions(beside, fs::perms::owner_read | fs::perms::owner_write);
+    stream << content;
+    stream.flush();
+    if (!stream) {
+      std::error_code ignored;
+      fs::remove(beside, ignored);
+      throw std::runtime_error("the file " + file.string() + " could not be written");
+    }
+  }
+  fs::rename(beside, file);
+}
+
+}  // namespace orvex::core

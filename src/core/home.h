@@ -1,0 +1,54 @@
+// The install folder of one practice: its files and the lock that one running program holds on it.
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+
+namespace orvex::core {
+
+struct Home {
+  std::filesystem::path Folder;
+
+  std::filesystem::path DataFolder() const { return Folder / "Data"; }
+  std::filesystem::path StoreFile() const { return DataFolder() / "ORVD.mdb"; }
+  std::filesystem::path ChartFolder() const { return Folder / "Charts"; }
+  std::filesystem::path LockFile() const { return Folder / ".lock"; }
+};
+
+// Makes the folder and those above it that are missing, with the rights 0700. False where one
+// could not be made.
+bool MakePrivateFolders(const std::filesystem::path& folder);
+
+// Whether this user may write in the folder.
+bool MayWrite(const std::filesystem::path& folder);
+
+// The sole right to write in a home. The system releases it when the process ends, however it ends.
+class HomeLock {
+ public:
+  // Nothing where another process holds it for longer than `patience`.
+  static std::optional<HomeLock> Acquire(const Home& home, std::chrono::milliseconds patience);
+
+  HomeLock(HomeLock&& other) noexcept;
+  HomeLock& operator=(HomeLock&& other) noexcept;
+  HomeLock(const HomeLock&) = delete;
+  HomeLock& operator=(const HomeLock&) = delete;
+  ~HomeLock();
+
+ private:
+  explicit HomeLock(int descriptor) : descriptor_(descriptor) {}
+  int descriptor_;
+};
+
+// The folder of the reference tables and templates: beside the installed program, else that of the
+// source tree that it was built from.
+std::filesystem::path ShippedDataFolder();
+
+// The folder of the running program.
+std::filesystem::path ProgramFolder();
+
+// Writes a file beside and renames it, with the rights 0600; the old file stays whole until then.
+// std::runtime_error where it could not be written.
+void WriteFileSafely(const std::filesystem::path& file, const std::string& content);
+
+}  // namespace orvex::core

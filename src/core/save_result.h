@@ -1,0 +1,27 @@
+// What a dialog's save routine gives back.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "core/messages.h"
+
+namespace orvex::core {
+
+// Why a form was not saved: the program's message and the name of the field that gets the focus.
+struct Refusal {
+  std::string Text;
+  MessageIcon Icon = MessageIcon::Information;
+  std::string Field;
+};
+
+// Either the id of what was written or a refusal.
+struct SaveResult {
+  std::int32_t Id = 0;
+  std::optional<Refusal> Refused;
+};
+
+inline constexpr const char* kCouldNotUpdate = "Could not update database.";
+
+}  // namespace orvex::core

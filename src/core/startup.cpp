@@ -1,0 +1,194 @@
+#include "core/startup.h"
+
+#include "core/exact_numbers.h"
+#include "core/store_schema.h"
+#include "core/text.h"
+
+namespace orvex::core {
+
+namespace {
+
+constexpr const char* kNoRights =
+    "You need to have Admin rights to run Orvex+. Please right click on Orvex+.EXE and choose "
+    "'Run as Administrator'.";
+constexpr const char* kOneInstance = "You can run only one instance of Orvex+ at a time.";
+constexpr const char* kNoDatabase =
+    "Orvex+ could not find the database under the Data folder or the database drivers are "
+    "missing/corrupt. Please contact your administrator.";
+constexpr const char* kLaterRelease =
+    "The database was written by a later release of Orvex+. Please install that release to open "
+    "it; nothing was changed.";
+constexpr const char* kReadOnlyDatabase =
+    "The database may not be written. Please give yourself the right to write the file ORVD.mdb "
+    "under the Data folder; nothing was changed.";
+constexpr const char* kStartFailed =
+    "Orvex+ encountered an issue while starting. Please restart Orvex+ and retry.";
+
+constexpr const char* kMachineApp = "Orvex 3.0";
+constexpr const char* kMachineSection = "Settings";
+
+// Carries the message of a refused start to the one place where it is shown.
+struct StartRefusal {
+  const char* Text;
+};
+
+const char* OpenFailureText(StoreFault fault) {
+  switch (fault) {
+    case StoreFault::LaterRelease:
+      return kLaterRelease;
+    case StoreFault::ReadOnly:
+      return kReadOnlyDatabase;
+    default:
+      return kNoDatabase;
+  }
+}
+
+std::optional<HomeLock> LockHome(const StartupPlan& plan) {
+  constexpr std::chrono::milliseconds kNoPatience{0};
+  constexpr std::chrono::milliseconds kPatience{2000};
+  const bool waits = plan.Mode == StartMode::Writer ||
+                     !std::filesystem::exists(plan.Place.StoreFile());
+  std::optional<HomeLock> lock =
+      HomeLock::Acquire(plan.Place, waits ? kPatience : kNoPatience);
+  if (!lock && plan.Mode != StartMode::Reader) {
+    throw StartRefusal{kOneInstance};
+  }
+  return lock;
+}
+
+Store OpenStore(const StartupPlan& plan, bool locked) {
+  try {
+    if (locked && !std::filesystem::exists(plan.Place.StoreFile())) {
+      if (!MakePrivateFolders(plan.Place.DataFolder())) {
+        throw StartRefusal{kNoDatabase};
+      }
+      CreateStore(plan.Place.StoreFile(), plan.ShippedData);
+    }
+    return Store::Open(plan.Place.StoreFile());
+  } catch (const StoreError& error) {
+    throw StartRefusal{OpenFailureText(error.Fault())};
+  } catch (const std::exception&) {
+    throw StartRefusal{kNoDatabase};
+  }
+}
+
+void WriteMachineSettings(const StartupPlan& plan) {
+  const MachineSettings settings(plan.MachineSettingsFile);
+  const auto keep = [&settings](const char* key, const std::string& value) {
+    if (settings.ReadMachineSetting(kMachineApp, kMachineSection, key, "") != value) {
+      settings.SaveMachineSetting(kMachineApp, kMachineSection, key, value);
+    }
+  };
+  keep("InstallFolder", std::filesystem::absolute(plan.Place.Folder).string());
+  keep("CurrentVersion", ProgramVersion());
+}
+
+std::unique_ptr<Session> Start(const StartupPlan& plan, const Clock& clock, Messages& messages,
+                               astro::EphemerisGateway& ephemeris) {
+  if (!MakePrivateFolders(plan.Place.Folder) || !MayWrite(plan.Place.Folder)) {
+    throw StartRefusal{kNoRights};
+  }
+  std::optional<HomeLock> lock = LockHome(plan);
+  Store store = OpenStore(plan, lock.has_value());
+  try {
+    // A reader beside a running program leaves the repairs to that program.
+    if (lock) {
+      ApplyStoreUpgrades(store, plan.ShippedData);
+    }
+    ReferenceData reference = LoadReferenceData(store);
+    auto session = std::make_unique<Session>(Session{plan.Place, std::move(store),
+                                                     std::move(reference), ApplicationState(),
+                                                     clock, messages, ephemeris, std::nullopt});
+    LoadSessionSettings(*session);
+    LoadUserCity(*session);
+    if (lock) {
+      WriteMachineSettings(plan);
+    }
+    if (plan.Mode != StartMode::Reader) {
+      session->Lock = std::move(lock);
+    }
+    return session;
+  } catch (const std::exception&) {
+    throw StartRefusal{kStartFailed};
+  }
+}
+
+char LetterOr(const std::string& text, std::string_view allowed, char fallback) {
+  const bool known = text.size() == 1 && Contains(allowed, text);
+  return known ? text.front() : fallback;
+}
+
+void LoadOrbs(const Result& row, ApplicationState& state) {
+  for (std::size_t i = 0; i < kAspectCount; ++i) {
+    const std::string orb = row.Text(kAspects[i].OrbColumn);
+    if (!orb.empty()) {
+      const auto degrees = static_cast<std::int16_t>(RoundToWhole(ToDouble(orb)));
+      state.AspectBands[i] = {static_cast<std::int16_t>(kAspects[i].Aspect - degrees),
+                              static_cast<std::int16_t>(kAspects[i].Aspect + degrees)};
+    }
+  }
+  for (std::size_t i = 0; i < kAspectCount; ++i) {
+    state.Orbs[i] =
+        static_cast<std::int16_t>(RoundToWhole(ToDouble(row.Text(kAspects[i].OrbColumn))));
+  }
+}
+
+}  // namespace
+
+const char* ProgramVersion() { return ORVEX_VERSION; }
+
+std::unique_ptr<Session> RunStartup(const StartupPlan& plan, const Clock& clock, Messages& messages,
+                                    astro::EphemerisGateway& ephemeris) {
+  try {
+    return Start(plan, clock, messages, ephemeris);
+  } catch (const StartRefusal& refusal) {
+    messages.ShowMessage(refusal.Text, MessageButtons::Ok, MessageIcon::Stop);
+    return nullptr;
+  }
+}
+
+void LoadSessionSettings(Session& session) {
+  ApplicationState& state = session.State;
+  const Result row = session.StoreConnection.Query("Select Top 1 * from settings");
+  state.RahuKetuCalculation = LetterOr(row.Text("RahuKetuCalculation"), "T", 'M');
+  state.DefaultChartType = LetterOr(row.Text("DefaultChartType"), "ES", 'N');
+  state.ChartPath = row.Text("chartpath");
+  if (state.ChartPath.empty()) {
+    state.ChartPath = session.Place.ChartFolder().string();
+  }
+  state.AstrologerName = row.Text("AstrologerName");
+  state.AstrologerOrganization = row.Text("AstrologerOrganization");
+  state.AstrologerContactDetails = row.Text("AstrologerContactDetails");
+  LoadOrbs(row, state);
+  state.StatusBarDegreeCalc = LetterOr(row.Text("StatusBarDegreeCalc"), "R", 'A');
+  state.SortColumn = SortColumnOfCode(row.Text("SortByField"));
+
+  const std::string groupId = row.Text("ICGroupID");
+  const Result group = session.StoreConnection.Query(
+      "Select groupname from group_master where id = " + (groupId.empty() ? "0" : groupId));
+  state.InstantChartGroupId =
+      group.AtEnd() ? 0 : static_cast<std::int32_t>(row.Integer("ICGroupID"));
+  state.InstantChartGroupName = group.AtEnd() ? "" : group.Text("groupname");
+}
+
+void LoadUserCity(Session& session) {
+  const Result city = session.StoreConnection.Query(
+      "Select cm.* from city_master cm, settings s where s.usercityid = cm.id");
+  ApplicationState& state = session.State;
+  if (city.AtEnd()) {
+    const ApplicationState defaults;
+    state.UserCityId = defaults.UserCityId;
+    state.UserCityName = defaults.UserCityName;
+    state.UserCityLatitude = defaults.UserCityLatitude;
+    state.UserCityLongitude = defaults.UserCityLongitude;
+    state.UserCityOffset = defaults.UserCityOffset;
+    return;
+  }
+  state.UserCityId = static_cast<std::int32_t>(city.Integer("id"));
+  state.UserCityName = city.Text("cityname");
+  state.UserCityLatitude = static_cast<float>(city.Number("latitude"));
+  state.UserCityLongitude = static_cast<float>(city.Number("longitude"));
+  state.UserCityOffset = static_cast<float>(city.Number("offset"));
+}
+
+}  // namespace orvex::core
