@@ -145,8 +145,8 @@ double CalcObliquityCorrection(double t) {
 }
 
 double CalcSunDeclination(double t) {
-  const double sine = std::sin(DegToRad(CalcObliquityCorrection(t))) *
-                      std::sin(DegToRad(CalcSunApparentLong(t)));
+  const double sine =
+      std::sin(DegToRad(CalcObliquityCorrection(t))) * std::sin(DegToRad(CalcSunApparentLong(t)));
   return RadToDeg(ArcSin(sine));
 }
 

@@ -42,8 +42,8 @@ std::string FixedSiderealDegree(double tropical) {
 }
 
 std::vector<std::string> DegreesFromAscendant(core::Session& session,
-                                              const astro::EphemerisMoment& moment,
-                                              float ascendant, double latitude) {
+                                              const astro::EphemerisMoment& moment, float ascendant,
+                                              double latitude) {
   const astro::Cusps cusps = CuspsFromAscendant(session.Ephemeris, moment.JulianDayUT, ascendant,
                                                 latitude, kFixedAyanamsa);
   std::vector<std::string> degrees;
@@ -72,8 +72,7 @@ std::vector<std::string> CuspDegrees(core::Session& session, const astro::Epheme
   if (input.Ascendant == AscendantChoice::Computed) {
     return ComputedDegrees(session, moment, latitude, core::ToDouble(input.Longitude));
   }
-  const float entered =
-      core::ToSingle(core::TwoDecimals(core::ToDouble(input.AscendantDegree)));
+  const float entered = core::ToSingle(core::TwoDecimals(core::ToDouble(input.AscendantDegree)));
   return DegreesFromAscendant(session, moment, entered, latitude);
 }
 
@@ -121,8 +120,7 @@ ChartResult Assemble(core::Session& session, const astro::EphemerisMoment& momen
 }  // namespace
 
 std::vector<PlanetRow> PlanetsAt(core::Session& session, astro::JulianDayUt day, int flags) {
-  const int node =
-      session.State.RahuKetuCalculation == 'T' ? astro::kTrueNode : astro::kMeanNode;
+  const int node = session.State.RahuKetuCalculation == 'T' ? astro::kTrueNode : astro::kMeanNode;
   std::vector<PlanetRow> rows;
   for (int number = astro::kFirstPlanet; number <= astro::kTrueNode; ++number) {
     const astro::Position position = session.Ephemeris.CalcUt(day, number, flags);

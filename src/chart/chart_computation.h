@@ -41,13 +41,13 @@ enum class AscendantChoice { Computed, ByHand, Horary };
 
 // Texts are as entered and are known to be numbers.
 struct ChartInput {
-  core::DateTime Birth;       // local clock
-  std::string Offset;         // hours east
-  std::string Latitude;       // degrees, north positive
-  std::string Longitude;      // degrees, east positive
-  double CityOffset = 0;      // hours of the selected city
+  core::DateTime Birth;   // local clock
+  std::string Offset;     // hours east
+  std::string Latitude;   // degrees, north positive
+  std::string Longitude;  // degrees, east positive
+  double CityOffset = 0;  // hours of the selected city
   AscendantChoice Ascendant = AscendantChoice::Computed;
-  int HoraryNumber = 0;       // 1 to 249, for Horary
+  int HoraryNumber = 0;         // 1 to 249, for Horary
   std::string AscendantDegree;  // 0 to 360, for ByHand
 };
 

@@ -215,8 +215,8 @@ ClientForm OpenAddClient(const core::Session& session) {
 }
 
 std::optional<ClientForm> OpenEditClient(core::Session& session, std::int32_t clientId) {
-  const core::Result row = session.StoreConnection.Query(
-      "Select * from client_master where id = " + WholeText(clientId));
+  const core::Result row = session.StoreConnection.Query("Select * from client_master where id = " +
+                                                         WholeText(clientId));
   if (row.AtEnd()) {
     session.Shown.ShowMessage(kNoRecord, core::MessageButtons::Ok, core::MessageIcon::Stop);
     return std::nullopt;

@@ -30,10 +30,15 @@ void FillStar(const core::ReferenceData& reference, double degree, core::Table& 
 void FillCuspTable(const core::ReferenceData& reference, HoroscopeModel& model) {
   core::Table& table = model.CuspTable;
   table = {};
-  table.Columns = {{"House"},        {"Degree"},    {"Sign Lord"},
-                   {"Star Lord"},    {"Sub Lord"},  {"Sub Sub Lord"},
-                   {"Nakshatra"},    {"Pada"},      {"Planet(s) Sig", core::Column::kNoWidth,
-                                                     "Planet(s) Signified"}};
+  table.Columns = {{"House"},
+                   {"Degree"},
+                   {"Sign Lord"},
+                   {"Star Lord"},
+                   {"Sub Lord"},
+                   {"Sub Sub Lord"},
+                   {"Nakshatra"},
+                   {"Pada"},
+                   {"Planet(s) Sig", core::Column::kNoWidth, "Planet(s) Signified"}};
   for (std::size_t row = 0; row < kHouses; ++row) {
     table.AddRow();
     const std::string& stored = HouseText(model, row, HouseColumn::CuspDegree);

@@ -59,10 +59,9 @@ astro::Cusps CuspsFromAscendant(astro::EphemerisGateway& ephemeris, astro::Julia
                                 double ascendant, double latitude, double ayanamsa) {
   const AscendantSearch search{ephemeris, latitude, ephemeris.Obliquity(day),
                                TargetOf(ascendant, ayanamsa)};
-  const int degree = search
-                         .LastBracket(kDegrees,
-                                      [](int i) { return i == kDegrees ? 0.0 : double(i); })
-                         .value_or(kUnbracketed);
+  const int degree =
+      search.LastBracket(kDegrees, [](int i) { return i == kDegrees ? 0.0 : double(i); })
+          .value_or(kUnbracketed);
   const auto thousandth = [degree](int j) { return degree + j / double(kParts); };
   const std::optional<int> j = search.LastBracket(kParts, thousandth);
   const double f = j ? thousandth(*j) : 0;

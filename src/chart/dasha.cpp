@@ -122,8 +122,7 @@ std::size_t MoonQuarter(const HoroscopeModel& model) {
 void FillDashaList(const DashaCycle& cycle, HoroscopeModel& model) {
   const std::size_t quarter = MoonQuarter(model);
   const core::Table& stars = model.StarTable;
-  const DashaPlanet* first =
-      FindDashaPlanet(cycle, stars.At(quarter, StarColumn::StarLord).Text);
+  const DashaPlanet* first = FindDashaPlanet(cycle, stars.At(quarter, StarColumn::StarLord).Text);
   if (first == nullptr) {
     throw LookupError("a star lord outside the cycle");
   }
@@ -132,10 +131,9 @@ void FillDashaList(const DashaCycle& cycle, HoroscopeModel& model) {
       core::ToDouble(stars.At(quarter, StarColumn::StartDegree).Text),
       static_cast<int>(core::ParseWhole(stars.At(quarter, StarColumn::Pada).Text).value()),
       first->Years);
-  model.Captions.DashaBalance = first->Name + " Dasha balance at birth: " +
-                                WholeText(balance.Years) + " Year(s), " +
-                                WholeText(balance.Months) + " Month(s), " +
-                                WholeText(balance.Days) + " Day(s)";
+  model.Captions.DashaBalance =
+      first->Name + " Dasha balance at birth: " + WholeText(balance.Years) + " Year(s), " +
+      WholeText(balance.Months) + " Month(s), " + WholeText(balance.Days) + " Day(s)";
   for (const Period& period : DashaPeriods(cycle, *first, model.Birth, balance)) {
     AddDasha(period, model.Periods.DashaList);
   }
@@ -232,8 +230,7 @@ void GenerateSookshma(const core::Session& session, HoroscopeModel& model) {
   core::Table& list = model.Periods.SookshmaList;
   list = EmptyPeriodList();
   const core::Table& antaras = model.Periods.AntaraList;
-  list = PeriodList(
-      SookshmaPeriods(cycle, PartOfRow(cycle, antaras, NeededSelection(antaras))));
+  list = PeriodList(SookshmaPeriods(cycle, PartOfRow(cycle, antaras, NeededSelection(antaras))));
   SelectRow(list, 0);
   SelectHolding(cycle, list, session.Time.Today());
 }
@@ -251,11 +248,10 @@ void SelectPeriod(const core::Session& session, HoroscopeModel& model, DashaLeve
     }
     case DashaLevel::Bhukti:
       SelectRow(periods.BhuktiList, row);
-      GenerateAntara(session, model,
-                     periods.DashaList
-                         .At(NeededSelection(periods.DashaList), DashaColumn::Planet)
-                         .Text,
-                     false);
+      GenerateAntara(
+          session, model,
+          periods.DashaList.At(NeededSelection(periods.DashaList), DashaColumn::Planet).Text,
+          false);
       break;
     case DashaLevel::Antara:
       SelectRow(periods.AntaraList, row);

@@ -9,16 +9,15 @@ DashaCycle DashaCycleOf(const core::ReferenceData& reference) {
   for (const core::PlanetInfo& planet : reference.Planets) {
     cycle.push_back({planet.PlanetName, planet.DashaYears, planet.DashaSequence});
   }
-  std::sort(cycle.begin(), cycle.end(), [](const DashaPlanet& a, const DashaPlanet& b) {
-    return a.Sequence < b.Sequence;
-  });
+  std::sort(cycle.begin(), cycle.end(),
+            [](const DashaPlanet& a, const DashaPlanet& b) { return a.Sequence < b.Sequence; });
   return cycle;
 }
 
 const DashaPlanet* FindDashaPlanet(const DashaCycle& cycle, const std::string& name) {
-  const auto found =
-      std::find_if(cycle.begin(), cycle.end(),
-                   [&name](const DashaPlanet& planet) { return planet.Name == name; });
+  const auto found = std::find_if(cycle.begin(), cycle.end(), [&name](const DashaPlanet& planet) {
+    return planet.Name == name;
+  });
   return found == cycle.end() ? nullptr : &*found;
 }
 

@@ -74,8 +74,7 @@ std::int64_t CutQuotient(int dividend, int divisor) {
 }  // namespace
 
 DashaBalance BalanceAtBirth(double moonDegree, double quarterBegin, int quarter, int years) {
-  const float traversed =
-      core::ToSingle(core::TwoDecimals(moonDegree - quarterBegin)) * 60.0F;
+  const float traversed = core::ToSingle(core::TwoDecimals(moonDegree - quarterBegin)) * 60.0F;
   const double left = kStarMinutes - kQuarterMinutes * (quarter - 1);
   const double remaining = Hundredths(left - static_cast<double>(traversed));
   const double months = Hundredths(remaining / kStarMinutes * (years * 12));
@@ -118,16 +117,15 @@ std::vector<Period> BhuktiPeriods(const DashaCycle& cycle, const Period& dasha) 
 
 std::vector<Period> AntaraPeriods(const DashaCycle& cycle, const Period& dasha,
                                   const Period& bhukti) {
-  std::vector<Period> parts =
-      PartsOf(RotationFrom(cycle, bhukti.Planet.Name), bhukti.Start,
-              [&](const DashaPlanet& planet, core::DateTime from) {
-                const int product = dasha.Planet.Years * bhukti.Planet.Years * planet.Years;
-                // The first planet of the cycle cuts its days, all others round them.
-                const std::int64_t days = bhukti.Planet.Sequence == 1
-                                              ? CutQuotient(product, 40)
-                                              : core::RoundToWhole(product / 40.0);
-                return DateAdd(DateInterval::Days, days, from);
-              });
+  std::vector<Period> parts = PartsOf(
+      RotationFrom(cycle, bhukti.Planet.Name), bhukti.Start,
+      [&](const DashaPlanet& planet, core::DateTime from) {
+        const int product = dasha.Planet.Years * bhukti.Planet.Years * planet.Years;
+        // The first planet of the cycle cuts its days, all others round them.
+        const std::int64_t days = bhukti.Planet.Sequence == 1 ? CutQuotient(product, 40)
+                                                              : core::RoundToWhole(product / 40.0);
+        return DateAdd(DateInterval::Days, days, from);
+      });
   CloseAt(parts, bhukti.End);
   return parts;
 }

@@ -60,8 +60,8 @@ std::string ConjunctPlanets(const core::ReferenceData& reference, const Horoscop
   if (!house) {
     return "None";
   }
-  const std::string codes = core::Trim(
-      core::ReplaceAll(HouseText(model, *house, HouseColumn::RcPlanets), code, ""));
+  const std::string codes =
+      core::Trim(core::ReplaceAll(HouseText(model, *house, HouseColumn::RcPlanets), code, ""));
   std::string names;
   for (const core::PlanetInfo& other : reference.Planets) {
     if (core::Contains(codes, other.PlanetCode)) {
@@ -90,20 +90,16 @@ void FillLevel(const core::ReferenceData& reference, HoroscopeModel& model, DbaC
 
 void FillPeriods(const core::ReferenceData& reference, HoroscopeModel& model) {
   core::Table& table = model.DBAPeriods;
-  table = {{{"Description", 100},
-            {"Dasha", 150},
-            {"Bhukti", 150},
-            {"Antara", 150},
-            {"Sookshma", 150}},
-           {}};
+  table = {
+      {{"Description", 100}, {"Dasha", 150}, {"Bhukti", 150}, {"Antara", 150}, {"Sookshma", 150}},
+      {}};
   for (const char* description : kDescriptions) {
     table.AddRow().Cells.front().Text = description;
   }
   const auto path = SelectedPath(model.Periods);
   for (std::size_t level = 0; level < kLevels; ++level) {
     if (path.at(level)) {
-      core::Attempt(
-          [&] { FillLevel(reference, model, kLevelColumns.at(level), *path.at(level)); });
+      core::Attempt([&] { FillLevel(reference, model, kLevelColumns.at(level), *path.at(level)); });
     }
   }
 }
@@ -152,8 +148,7 @@ void CountHouses(HoroscopeModel& model, DbaRow source, std::size_t firstRow) {
     const std::string& cell =
         model.DBAPeriods.At(static_cast<std::size_t>(source), kLevelColumns.at(level)).Text;
     for (const std::string& house : HousesOf(model, cell)) {
-      core::Attempt(
-          [&] { AddToCount(CountCell(model, firstRow + level, HouseNumber(house)), 1); });
+      core::Attempt([&] { AddToCount(CountCell(model, firstRow + level, HouseNumber(house)), 1); });
     }
   }
 }

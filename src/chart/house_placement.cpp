@@ -23,8 +23,8 @@ struct CuspSpan {
 std::vector<CuspSpan> SpansOf(const std::vector<CuspRow>& cusps) {
   std::vector<CuspSpan> spans;
   for (const CuspRow& cusp : cusps) {
-    spans.push_back({cusp.Cusp, cusp.RashiHouse, core::ToSingle(cusp.DegStart),
-                     core::ToSingle(cusp.DegEnd)});
+    spans.push_back(
+        {cusp.Cusp, cusp.RashiHouse, core::ToSingle(cusp.DegStart), core::ToSingle(cusp.DegEnd)});
   }
   return spans;
 }

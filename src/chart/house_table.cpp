@@ -60,10 +60,14 @@ int HouseOnFrom(int house, int places) {
 
 void AddHouseRows(HoroscopeModel& model) {
   model.HouseTable = {};
-  model.HouseTable.Columns = {
-      {"House"}, {"BC Planets"}, {"Rashi"}, {"RC Planets"}, {"Rashi Lord"},     {"Cusp Degree"},
-      {"ASP3"},  {"ASP4"},       {"ASP5"},  {"ASP8"},       {"ASP9"},           {"ASP10"},
-      {"KP Chart Rashi"},        {"KP Chart Rashi Owner"},  {"ASP7"},           {"Retro Rashi"}};
+  model.HouseTable.Columns = {{"House"},          {"BC Planets"},
+                              {"Rashi"},          {"RC Planets"},
+                              {"Rashi Lord"},     {"Cusp Degree"},
+                              {"ASP3"},           {"ASP4"},
+                              {"ASP5"},           {"ASP8"},
+                              {"ASP9"},           {"ASP10"},
+                              {"KP Chart Rashi"}, {"KP Chart Rashi Owner"},
+                              {"ASP7"},           {"Retro Rashi"}};
   for (int house = 1; house <= static_cast<int>(kHouses); ++house) {
     model.HouseTable.AddRow();
     const auto row = static_cast<std::size_t>(house) - 1;

@@ -23,10 +23,10 @@ std::string GenderText(const std::string& letter) {
 
 core::Table EmptyTable() {
   core::Table table;
-  table.Columns = {{"Planet"},    {"In"},       {"Rashi"},        {"Type"},   {"Owner"},
-                   {"Sign Lord"}, {"Star Lord"}, {"Sub Lord"},    {"Sub Sub Lord"},
-                   {"Degree"},    {"Nakshatra"}, {"Pada"},        {"Gunas"},  {"S/T/U"},
-                   {"DB/EX"},     {"R"},         {"C"}};
+  table.Columns = {{"Planet"},    {"In"},        {"Rashi"},    {"Type"},         {"Owner"},
+                   {"Sign Lord"}, {"Star Lord"}, {"Sub Lord"}, {"Sub Sub Lord"}, {"Degree"},
+                   {"Nakshatra"}, {"Pada"},      {"Gunas"},    {"S/T/U"},        {"DB/EX"},
+                   {"R"},         {"C"}};
   return table;
 }
 

@@ -14,8 +14,7 @@ void BuildTransitNow(core::Session& session, HoroscopeModel& model) {
   table = {{{"Planet"}, {"Degree"}, {"Rashi"}, {"Star Lord"}, {"Sub Lord"}, {"R"}}, {}};
   const core::DateTime now = PlainMomentUt(session.Time.Now(), session.State.UserCityOffset);
   const astro::EphemerisMoment moment = session.Ephemeris.PrepareMoment(now);
-  for (const PlanetRow& planet :
-       PlanetsAt(session, moment.JulianDayUT, astro::kTransitFlags)) {
+  for (const PlanetRow& planet : PlanetsAt(session, moment.JulianDayUT, astro::kTransitFlags)) {
     table.AddRow();
     const std::size_t row = table.Rows.size() - 1;
     table.At(row, TransitNowColumn::Planet).Text = planet.Planet;

@@ -62,9 +62,8 @@ const auto& Needed(const Found* row, const char* what) {
 }
 
 StarAndPada WithStar(const core::ReferenceData& reference, const core::PadaRow& pada) {
-  const auto* star = FirstRow(reference.Stars, [&pada](const core::StarRow& row) {
-    return row.Sequence == pada.StarId;
-  });
+  const auto* star = FirstRow(
+      reference.Stars, [&pada](const core::StarRow& row) { return row.Sequence == pada.StarId; });
   return {&Needed(star, "a quarter without its star"), &pada};
 }
 
@@ -117,8 +116,7 @@ std::optional<StarAndPada> StarInSign(const core::ReferenceData& reference, int 
   return pada == nullptr ? std::nullopt : std::optional(WithStar(reference, *pada));
 }
 
-StarAndPada StarOfSignDegree(const core::ReferenceData& reference, int rashi,
-                             double degreeInSign) {
+StarAndPada StarOfSignDegree(const core::ReferenceData& reference, int rashi, double degreeInSign) {
   const auto* pada = FirstRow(reference.Padas, [=](const core::PadaRow& row) {
     return row.Rashi == rashi && row.StartDegree <= degreeInSign && degreeInSign <= row.EndDegree;
   });

@@ -54,12 +54,10 @@ std::optional<StarAndPada> StarInSign(const core::ReferenceData& reference, int 
                                       double degree);
 
 // The quarter of the sign that holds a degree within the sign. LookupError where none does.
-StarAndPada StarOfSignDegree(const core::ReferenceData& reference, int rashi,
-                             double degreeInSign);
+StarAndPada StarOfSignDegree(const core::ReferenceData& reference, int rashi, double degreeInSign);
 
 // The planet of a name. LookupError where there is none.
-const core::PlanetInfo& PlanetOfName(const core::ReferenceData& reference,
-                                     const std::string& name);
+const core::PlanetInfo& PlanetOfName(const core::ReferenceData& reference, const std::string& name);
 
 // The code of a planet: the first two letters of its name in upper case.
 std::string PlanetCode(const std::string& planetName);

@@ -32,7 +32,7 @@ double NumberOption(const std::string& name, const std::string& text, double low
   const std::optional<double> number = core::ParseNumber(text);
   if (!number || *number < low || *number > high) {
     throw CommandFailed(name + " takes a number from " + core::DoubleText(low) + " to " +
-                    core::DoubleText(high));
+                        core::DoubleText(high));
   }
   return *number;
 }
@@ -41,13 +41,12 @@ chart::ChartInput InputOf(const ChartOptions& options) {
   constexpr double kFarthestOffset = 27;
   NumberOption("--latitude", options.Latitude, -90, 90);
   NumberOption("--longitude", options.Longitude, -180, 180);
-  const double offset =
-      NumberOption("--offset", options.Offset, -kFarthestOffset, kFarthestOffset);
-  chart::ChartInput input{MomentOption("--birth", options.Birth), options.Offset,
-                          options.Latitude, options.Longitude, offset};
+  const double offset = NumberOption("--offset", options.Offset, -kFarthestOffset, kFarthestOffset);
+  chart::ChartInput input{MomentOption("--birth", options.Birth), options.Offset, options.Latitude,
+                          options.Longitude, offset};
   if (!options.CityOffset.empty()) {
-    input.CityOffset = NumberOption("--city-offset", options.CityOffset, -kFarthestOffset,
-                                    kFarthestOffset);
+    input.CityOffset =
+        NumberOption("--city-offset", options.CityOffset, -kFarthestOffset, kFarthestOffset);
   }
   if (!options.Horary.empty()) {
     input.Ascendant = chart::AscendantChoice::Horary;

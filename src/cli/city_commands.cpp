@@ -2,4 +2,4 @@
 
 namespace orvex::cli {
 void AddCityCommands(CLI::App&, Context&) {}
-}
+}  // namespace orvex::cli

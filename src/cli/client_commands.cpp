@@ -268,8 +268,8 @@ void AddClientCommands(CLI::App& app, Context& context) {
   client->require_subcommand(1);
   const auto add = [&](const char* name, const char* description, auto run) {
     auto options = std::make_shared<ClientOptions>();
-    CLI::App* command =
-        AddCommand(*client, name, description, [&context, options, run] { run(context, *options); });
+    CLI::App* command = AddCommand(*client, name, description,
+                                   [&context, options, run] { run(context, *options); });
     return std::pair(command, options);
   };
 

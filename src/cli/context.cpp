@@ -45,8 +45,9 @@ std::filesystem::path HomeFolder(const std::string& option) {
 core::DateTime MomentOption(const std::string& name, const std::string& text) {
   const std::optional<core::DateTime> moment = core::ParseDateTime(text);
   if (!moment) {
-    throw CommandFailed(name + ": \"" + core::FirstCharacters(text, 40) +
-                    "\" is no date of the years 100 to 9999 in the form YYYY-MM-DD [HH:MM[:SS]]");
+    throw CommandFailed(
+        name + ": \"" + core::FirstCharacters(text, 40) +
+        "\" is no date of the years 100 to 9999 in the form YYYY-MM-DD [HH:MM[:SS]]");
   }
   return *moment;
 }

@@ -14,7 +14,8 @@
 
 namespace orvex::cli {
 
-// Ends a command with exit status 1. The text goes to standard error; an empty one was shown before.
+// Ends a command with exit status 1. The text goes to standard error; an empty one was shown
+// before.
 class CommandFailed : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -2,4 +2,4 @@
 
 namespace orvex::cli {
 void AddGroupCommands(CLI::App&, Context&) {}
-}
+}  // namespace orvex::cli

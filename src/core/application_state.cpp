@@ -43,9 +43,8 @@ int AspectOfAngle(const AspectBandLimits& bands, float angle) {
 
 std::string SortColumnOfCode(std::string_view code) {
   const std::string upper = UpperCase(code);
-  const auto* found =
-      std::find_if(kSortColumns.begin(), kSortColumns.end(),
-                   [&upper](const auto& entry) { return entry.first == upper; });
+  const auto* found = std::find_if(kSortColumns.begin(), kSortColumns.end(),
+                                   [&upper](const auto& entry) { return entry.first == upper; });
   return found == kSortColumns.end() ? kDefaultSortColumn : found->second;
 }
 

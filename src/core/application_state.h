@@ -11,10 +11,10 @@ namespace orvex::core {
 
 // The eight aspect angles with the orb and limits of each, in the order in which they are tried.
 struct AspectBand {
-  int Aspect;              // degrees
-  const char* OrbColumn;   // column of the settings row
-  int DefaultOrb;          // degrees
-  bool Good;               // a good aspect, else a hard one
+  int Aspect;             // degrees
+  const char* OrbColumn;  // column of the settings row
+  int DefaultOrb;         // degrees
+  bool Good;              // a good aspect, else a hard one
 };
 
 inline constexpr std::size_t kAspectCount = 8;
@@ -66,9 +66,9 @@ struct ApplicationState {
   std::string InstantChartGroupName;
   std::int32_t UserCityId = 19;
   std::string UserCityName = "Dubai";
-  float UserCityLatitude = 25.07725F;    // degrees, north positive
-  float UserCityLongitude = 55.30927F;   // degrees, east positive
-  float UserCityOffset = 4;              // hours east of Greenwich
+  float UserCityLatitude = 25.07725F;        // degrees, north positive
+  float UserCityLongitude = 55.30927F;       // degrees, east positive
+  float UserCityOffset = 4;                  // hours east of Greenwich
   std::vector<std::int32_t> OpenHoroscopes;  // client ids
   std::string SunriseText;
   std::string SunsetText;

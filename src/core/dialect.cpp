@@ -13,7 +13,8 @@ namespace {
 constexpr char kDateDelimiter = '#';
 constexpr std::string_view kSelectTop = "select top ";
 
-// The literal that begins at `open`, as a quoted stored text; `open` is moved to its last character.
+// The literal that begins at `open`, as a quoted stored text; `open` is moved to its last
+// character.
 std::string TranslateDate(std::string_view statement, std::size_t& open) {
   const std::size_t close = statement.find(kDateDelimiter, open + 1);
   if (close == std::string_view::npos) {

@@ -73,7 +73,8 @@ fs::path ProgramFolder() {
 fs::path ShippedDataFolder() {
   const fs::path installed = ProgramFolder() / ".." / "share" / "orvex";
   std::error_code error;
-  return fs::is_directory(installed, error) ? fs::canonical(installed) : fs::path(ORVEX_DATA_FOLDER);
+  return fs::is_directory(installed, error) ? fs::canonical(installed)
+                                            : fs::path(ORVEX_DATA_FOLDER);
 }
 
 void WriteFileSafely(const fs::path& file, const std::string& content) {

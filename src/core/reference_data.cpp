@@ -18,23 +18,12 @@ std::vector<RowType> ReadAll(const Store& store, std::string_view statement, Rea
 }
 
 SignRow ReadSign(const Result& row) {
-  return {Whole(row, "rashi"),
-          row.Text("zodiac"),
-          row.Text("element"),
-          row.Text("startdegree"),
-          row.Text("enddegree"),
-          row.Text("gender"),
-          row.Text("signtype"),
-          row.Flag("barren"),
-          row.Flag("mute"),
-          row.Flag("fruitful"),
-          row.Flag("voice"),
-          row.Text("exaltedplanet"),
-          row.Text("debilitatedplanet"),
-          row.Text("beneficplanets"),
-          row.Text("maleficplanets"),
-          row.Text("neutralplanets"),
-          row.Text("rulingplanet")};
+  return {Whole(row, "rashi"),           row.Text("zodiac"),         row.Text("element"),
+          row.Text("startdegree"),       row.Text("enddegree"),      row.Text("gender"),
+          row.Text("signtype"),          row.Flag("barren"),         row.Flag("mute"),
+          row.Flag("fruitful"),          row.Flag("voice"),          row.Text("exaltedplanet"),
+          row.Text("debilitatedplanet"), row.Text("beneficplanets"), row.Text("maleficplanets"),
+          row.Text("neutralplanets"),    row.Text("rulingplanet")};
 }
 
 StarRow ReadStar(const Result& row) {
@@ -43,14 +32,14 @@ StarRow ReadStar(const Result& row) {
 }
 
 PadaRow ReadPada(const Result& row) {
-  return {Whole(row, "starid"),       Whole(row, "pada"),          Whole(row, "rashi"),
-          row.Number("startdegree"),  row.Number("enddegree"),     row.Number("startcdegree"),
+  return {Whole(row, "starid"),      Whole(row, "pada"),      Whole(row, "rashi"),
+          row.Number("startdegree"), row.Number("enddegree"), row.Number("startcdegree"),
           row.Number("endcdegree")};
 }
 
 SubRow ReadSub(const Result& row) {
-  return {Whole(row, "ascno"),        row.Number("ascpointbegin"), row.Number("ascpointend"),
-          row.Text("rashilord"),      Whole(row, "rasilordno"),    row.Text("starlord"),
+  return {Whole(row, "ascno"),   row.Number("ascpointbegin"), row.Number("ascpointend"),
+          row.Text("rashilord"), Whole(row, "rasilordno"),    row.Text("starlord"),
           row.Text("sublord")};
 }
 

@@ -46,10 +46,9 @@ const char* OpenFailureText(StoreFault fault) {
 std::optional<HomeLock> LockHome(const StartupPlan& plan) {
   constexpr std::chrono::milliseconds kNoPatience{0};
   constexpr std::chrono::milliseconds kPatience{2000};
-  const bool waits = plan.Mode == StartMode::Writer ||
-                     !std::filesystem::exists(plan.Place.StoreFile());
-  std::optional<HomeLock> lock =
-      HomeLock::Acquire(plan.Place, waits ? kPatience : kNoPatience);
+  const bool waits =
+      plan.Mode == StartMode::Writer || !std::filesystem::exists(plan.Place.StoreFile());
+  std::optional<HomeLock> lock = HomeLock::Acquire(plan.Place, waits ? kPatience : kNoPatience);
   if (!lock && plan.Mode != StartMode::Reader) {
     throw StartRefusal{kOneInstance};
   }

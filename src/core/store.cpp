@@ -41,8 +41,9 @@ Header ReadHeader(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   stream.read(reinterpret_cast<char*>(header.data()), kHeaderSize);
   const bool whole = stream.gcount() == static_cast<std::streamsize>(kHeaderSize);
-  if (!whole || !std::equal(kMagic.begin(), kMagic.end(), header.begin(),
-                            [](char a, unsigned char b) { return static_cast<unsigned char>(a) == b; })) {
+  if (!whole ||
+      !std::equal(kMagic.begin(), kMagic.end(), header.begin(),
+                  [](char a, unsigned char b) { return static_cast<unsigned char>(a) == b; })) {
     throw StoreError(StoreFault::Foreign, "not a database");
   }
   return header;
@@ -118,7 +119,9 @@ void RegisterFunctions(sqlite3* connection) {
   add("ucase", &UpperCaseFunction);
 }
 
-bool IsBlank(std::string_view text) { return text.find_first_not_of(" \t\r\n;") == std::string_view::npos; }
+bool IsBlank(std::string_view text) {
+  return text.find_first_not_of(" \t\r\n;") == std::string_view::npos;
+}
 
 std::string Translated(std::string_view statement) {
   try {
@@ -130,8 +133,7 @@ std::string Translated(std::string_view statement) {
 
 sqlite3* OpenConnection(const std::filesystem::path& file) {
   sqlite3* connection = nullptr;
-  const int opened =
-      sqlite3_open_v2(file.c_str(), &connection, SQLITE_OPEN_READWRITE, nullptr);
+  const int opened = sqlite3_open_v2(file.c_str(), &connection, SQLITE_OPEN_READWRITE, nullptr);
   if (opened != SQLITE_OK) {
     sqlite3_close(connection);
     throw StoreError(StoreFault::Missing, "the database could not be opened");
@@ -154,8 +156,7 @@ Result::Result(StatementHandle statement) : statement_(std::move(statement)) { N
 void Result::Next() {
   const int stepped = atEnd_ ? SQLITE_DONE : sqlite3_step(statement_.get());
   if (stepped != SQLITE_ROW && stepped != SQLITE_DONE) {
-    throw StoreError(StoreFault::Statement,
-                     sqlite3_errmsg(sqlite3_db_handle(statement_.get())));
+    throw StoreError(StoreFault::Statement, sqlite3_errmsg(sqlite3_db_handle(statement_.get())));
   }
   atEnd_ = stepped == SQLITE_DONE;
 }
@@ -182,8 +183,7 @@ std::string Result::Text(std::string_view field) const {
   if (sqlite3_column_type(statement_.get(), column) == SQLITE_FLOAT) {
     return DoubleText(sqlite3_column_double(statement_.get(), column));
   }
-  const auto* text =
-      reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
+  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
   return text == nullptr ? "" : text;
 }
 

@@ -99,8 +99,7 @@ void FillReferenceTables(Store& store, const fs::path& shippedData) {
   Fill(store, "zodiac_master", signs);
   Fill(store, "star_master", ReadTsv(shippedData / "star_master.tsv"));
   Fill(store, "timezone_master", zones);
-  Fill(store, "city_master",
-       CitiesWithOffsets(ReadTsv(shippedData / "city_master.tsv"), zones));
+  Fill(store, "city_master", CitiesWithOffsets(ReadTsv(shippedData / "city_master.tsv"), zones));
   FillDivisions(store, planets, signs);
   store.Execute("insert into planet_positions (planetname) select planetname from planet_master");
 }
@@ -139,8 +138,7 @@ std::set<std::string> AddMissingColumns(Store& store) {
 
 // The debilitations of early releases were wrong in six signs.
 void RepairSignTable(Store& store) {
-  store.Execute(
-      "Update zodiac_master set debilitatedplanet = '' where rashi in (2, 3, 5, 9, 11)");
+  store.Execute("Update zodiac_master set debilitatedplanet = '' where rashi in (2, 3, 5, 9, 11)");
   store.Execute("Update zodiac_master set debilitatedplanet = 'Jupiter' where rashi = 10");
 }
 

@@ -8,9 +8,15 @@ namespace {
 
 core::Table EmptyList() {
   core::Table table;
-  table.Columns = {{"Client Name", 140}, {"Gen", 60},         {"Birth/Horary Date", 150},
-                   {"#", 50},            {"City", 195},       {"Created On", 100},
-                   {"Mobile", 120},      {"Email", 150},      {"Comments", 200}};
+  table.Columns = {{"Client Name", 140},
+                   {"Gen", 60},
+                   {"Birth/Horary Date", 150},
+                   {"#", 50},
+                   {"City", 195},
+                   {"Created On", 100},
+                   {"Mobile", 120},
+                   {"Email", 150},
+                   {"Comments", 200}};
   return table;
 }
 

@@ -61,3 +61,4 @@ const std::array<NameGroup, 5> kRajjus = {{
 }};
 // clang-format on
 
+}  // namespace orvex::vedic

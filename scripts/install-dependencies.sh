@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Installs what building and running needs from Debian's packages; does nothing where all is there.
+# With --dev also what checking the code needs.
+set -euo pipefail
+
+packages=(
+  build-essential cmake ninja-build ccache pkg-config
+  libswe-dev swe-basic-data swe-standard-data
+  libsqlite3-dev libfmt-dev nlohmann-json3-dev libcli11-dev
+  libhowardhinnant-date-dev tzdata
+  libgtest-dev libgmock-dev libbenchmark-dev python3
+)
+development=(clang-format-14 clang-tidy-14 clang-tools-14)
+if [ "${1:-}" = "--dev" ]; then packages+=("${development[@]}"); fi
+
+missing=()
+for package in "${packages[@]}"; do
+  state=$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)
+  [ "$state" = "install ok installed" ] || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  if ! command -v sudo >/dev/null; then
+    echo "These packages are missing: ${missing[*]}" >&2
+    echo "Please run this as root, or install sudo." >&2
+    exit 1
+  fi
+  as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+  apt-get install -y -qq --no-install-recommends "${missing[@]}"

@@ -1,0 +1,43 @@
+#include "vedic/lal_kitab.h"
+
+#include "core/attempt.h"
+#include "core/exact_numbers.h"
+#include "vedic/lal_kitab_years.h"
+
+namespace orvex::vedic {
+
+namespace {
+
+constexpr int kYears = 120;
+
+core::Table EmptyTable() {
+  core::Table table;
+  table.Columns = {{"House"}, {"Planets"}};
+  for (std::size_t row = 0; row < chart::kHouses; ++row) {
+    table.AddRow();
+    table.At(row, LalKitabColumn::House).Text =
+        core::PaddedWhole(static_cast<std::int64_t>(row) + 1, 1);
+  }
+  return table;
+}
+
+}  // namespace
+
+int RunningYearOfAge(int age) { return age % kYears + 1; }
+
+void ShowLalKitabYear(chart::HoroscopeModel& model, int year) {
+  const std::array<int, chart::kHouses>& houses =
+      kLalKitabYears.at(static_cast<std::size_t>(year) - 1);
+  if (model.LalKitabYear.Rows.empty()) {
+    model.LalKitabYear = EmptyTable();
+  }
+  for (std::size_t natal = 0; natal < chart::kHouses; ++natal) {
+    core::Attempt([&] {
+      const auto annual = static_cast<std::size_t>(houses.at(natal)) - 1;
+      model.LalKitabYear.At(annual, LalKitabColumn::Planets).Text =
+          chart::HouseText(model, natal, chart::HouseColumn::RcPlanets);
+    });
+  }
+}
+
+}  // namespace orvex::vedic
