@@ -1,5 +1,6 @@
 #include "chart/client_checks.h"
 
+#include "chart/place_checks.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 
@@ -7,11 +8,9 @@ namespace orvex::chart {
 
 namespace {
 
-using core::IsNumeric;
 using core::Refusal;
 using core::Trim;
 
-constexpr double kFarthestOffset = 27;
 constexpr double kFullCircle = 360;
 constexpr int kLastHoraryNumber = 249;
 
@@ -46,28 +45,16 @@ std::optional<Refusal> CheckPlace(const core::Session& session, const ClientForm
   if (form.CityId == 0) {
     return Refuse("Please select a City from the list.", "cityList");
   }
-  if (!IsNumeric(form.Offset)) {
-    return Refuse("Please enter a numeric value.", "offset");
-  }
-  if (!IsWithin(form.Offset, -kFarthestOffset, kFarthestOffset)) {
-    return Refuse("Incorrect Offset Value entered.", "offset");
+  if (std::optional<Refusal> refused = CheckOffset(form.Offset)) {
+    return refused;
   }
   if (!PlaceOfCity(session, form.CityId)) {
     return Refuse("No City selected. Cannot proceed.", "citySearch");
   }
-  if (Trim(form.Latitude).empty()) {
-    return Refuse("Latitude is a mandatory field.", "latitude");
+  if (std::optional<Refusal> refused = CheckLatitude(form.Latitude)) {
+    return refused;
   }
-  if (!IsNumeric(form.Latitude)) {
-    return Refuse("Latitude is a numeric field.", "latitude");
-  }
-  if (Trim(form.Longitude).empty()) {
-    return Refuse("Longitude is a mandatory field.", "longitude");
-  }
-  if (!IsNumeric(form.Longitude)) {
-    return Refuse("Longitude is a numeric field.", "longitude");
-  }
-  return std::nullopt;
+  return CheckLongitude(form.Longitude);
 }
 
 }  // namespace
@@ -76,7 +63,7 @@ std::optional<Refusal> CheckClient(const core::Session& session, const ClientFor
   if (Trim(form.FullName).empty()) {
     return Refuse("Client Name is a mandatory field.", "fullName");
   }
-  if (const std::optional<Refusal> refused = CheckQuery(form)) {
+  if (std::optional<Refusal> refused = CheckQuery(form)) {
     return refused;
   }
   return CheckPlace(session, form);

@@ -2,6 +2,7 @@
 // is read off the stored rows of a client; the chart is not computed again.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -162,6 +163,10 @@ struct HoroscopeModel {
   int FirstRashiHouse = 0;
   int RunningYear = 1;  // year of life shown, 1 to 120
   int RotatedTo = 1;    // the house that counts as the first
+  float BhriguBinduDegree = 0;
+  // By number 1 to 9: how often it occurs, and the report's text of its cell ("*" between lines).
+  std::array<int, 10> LoShuCount{};
+  std::array<std::string, 10> LoShuCellText;
 
   HoroscopeCaptions Captions;
 

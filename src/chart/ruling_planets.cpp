@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "chart/zodiac_lookups.h"
+#include "chart/point_text.h"
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
@@ -54,32 +54,22 @@ void BuildRulingPlanets(HoroscopeModel& model) {
   model.Captions.RulingPlanetsText = core::Join(names, "*");
 }
 
-float PartOfFortune(float moon, float ascendant, float sun) {
-  float f = moon + ascendant - sun;
+double PartOfFortune(double moon, double ascendant, double sun) {
+  double f = moon + ascendant - sun;
   if (f < 0) {
     f = 360 + f;
   } else if (f > 360) {
     f = 360 - f;
   }
-  return std::fabs(f);
-}
-
-std::string PointText(const core::ReferenceData& reference, float degree) {
-  const double point = LookupDegree(degree);
-  const core::SubRow& sub = SubOfDegree(reference, point);
-  const StarAndPada star = StarOfDegree(reference, point);
-  return core::TwoDecimals(degree) + "/" +
-         core::FirstCharacters(RashiName(RashiOfDegree(point)), 3) + " (" + sub.RashiLord + "/" +
-         sub.StarLord + "/" + sub.SubLord + ")  |  " + star.Star->StarName + " - Pada " +
-         core::PaddedWhole(star.Pada->Pada, 1);
+  return core::ToDouble(core::DoubleText(std::fabs(f)));
 }
 
 void WritePartOfFortune(const core::ReferenceData& reference, HoroscopeModel& model) {
   core::Attempt([&] {
-    const float point =
-        PartOfFortune(core::ToSingle(model.MoonDegree), core::ToSingle(model.CuspDegree1),
-                      core::ToSingle(model.SunDegree));
-    model.Captions.PartOfFortune = PointText(reference, point);
+    model.Captions.PartOfFortune = PointText(
+        reference, PartOfFortune(core::ToDouble(model.MoonDegree),
+                                 core::ToDouble(model.CuspDegree1),
+                                 core::ToDouble(model.SunDegree)));
   });
 }
 

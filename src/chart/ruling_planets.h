@@ -12,12 +12,9 @@ std::string DayLord(core::DateTime date);
 // The seven rulers, and their names joined with "*" as caption.
 void BuildRulingPlanets(HoroscopeModel& model);
 
-// Moon plus Ascendant less Sun, in degrees of single precision. Above 360 the excess counts.
-float PartOfFortune(float moon, float ascendant, float sun);
-
-// A point of the zodiac in words: degree, sign, lords, star and quarter. LookupError where no row
-// holds it.
-std::string PointText(const core::ReferenceData& reference, float degree);
+// Moon plus Ascendant less Sun, in degrees without the noise of binary fractions. Above 360 the
+// excess counts.
+double PartOfFortune(double moon, double ascendant, double sun);
 
 // The caption of the Part of Fortune.
 void WritePartOfFortune(const core::ReferenceData& reference, HoroscopeModel& model);

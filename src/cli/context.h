@@ -72,5 +72,6 @@ void AddCityCommands(CLI::App& app, Context& context);    // city
 void AddGroupCommands(CLI::App& app, Context& context);   // group
 void AddClientCommands(CLI::App& app, Context& context);  // client
 void AddChartCommands(CLI::App& app, Context& context);   // chart, sun
+void AddHoroscopeCommands(CLI::App& app, Context& context);  // horoscope, rectify
 
 }  // namespace orvex::cli

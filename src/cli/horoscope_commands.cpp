@@ -6,6 +6,7 @@
 #include "core/exact_numbers.h"
 #include "horoscope/catalogue.h"
 #include "horoscope/create_horoscope.h"
+#include "horoscope/recalculation.h"
 
 namespace orvex::cli {
 
@@ -95,6 +96,59 @@ void RunHoroscope(Context& context, const HoroscopeOptions& options) {
   }
 }
 
+struct RectifyOptions {
+  std::string Id;
+  std::optional<std::string> Offset;
+  std::optional<std::string> Latitude;
+  std::optional<std::string> Longitude;
+  std::string Days = "0";
+  std::string Hours = "0";
+  std::string Minutes = "0";
+  std::string Seconds = "0";
+};
+
+void RunRectify(Context& context, const RectifyOptions& options) {
+  const horoscope::OpenedHoroscope opened = Open(context, {options.Id, "", "", ""});
+  horoscope::RecalculationForm form = horoscope::OpenRecalculation(opened.Model);
+  form.Offset = options.Offset.value_or(form.Offset);
+  form.Latitude = options.Latitude.value_or(form.Latitude);
+  form.Longitude = options.Longitude.value_or(form.Longitude);
+  form.Shift = {WholeOption("--days", options.Days), WholeOption("--hours", options.Hours),
+                WholeOption("--minutes", options.Minutes),
+                WholeOption("--seconds", options.Seconds)};
+  const horoscope::Recalculation result =
+      horoscope::Recalculate(context.Reading(), opened.Model, form);
+  if (result.Refused) {
+    throw CommandFailed(result.Refused->Text);
+  }
+  const std::string birth = core::StoredDateTimeText(result.Birth);
+  if (context.Json) {
+    PrintJson({{"birth", birth},
+               {"cusps", TableJson(result.Cusps)},
+               {"planets", TableJson(result.Planets)}});
+    return;
+  }
+  std::cout << birth << "\n\n";
+  PrintTable(result.Cusps);
+  std::cout << "\n";
+  PrintTable(result.Planets);
+}
+
+void AddRectifyCommand(CLI::App& app, Context& context) {
+  auto options = std::make_shared<RectifyOptions>();
+  CLI::App* command =
+      AddCommand(app, "rectify", "a client's chart for a moved birth; nothing is saved",
+                 [&context, options] { RunRectify(context, *options); });
+  command->add_option("ID", options->Id, "id of the client")->required();
+  command->add_option("--offset", options->Offset, "hours east of Greenwich");
+  command->add_option("--latitude", options->Latitude, "degrees north");
+  command->add_option("--longitude", options->Longitude, "degrees east");
+  command->add_option("--days", options->Days, "days to move the birth by");
+  command->add_option("--hours", options->Hours, "hours to move the birth by");
+  command->add_option("--minutes", options->Minutes, "minutes to move the birth by");
+  command->add_option("--seconds", options->Seconds, "seconds to move the birth by");
+}
+
 }  // namespace
 
 void AddHoroscopeCommands(CLI::App& app, Context& context) {
@@ -106,6 +160,7 @@ void AddHoroscopeCommands(CLI::App& app, Context& context) {
   command->add_option("--aspects", options->Aspects, "aspects listed: all, good or hard")
       ->check(CLI::IsMember({"all", "good", "hard"}));
   command->add_option("--year", options->Year, "year of life of the annual chart, 1 to 120");
+  AddRectifyCommand(app, context);
 }
 
 }  // namespace orvex::cli

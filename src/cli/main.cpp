@@ -57,6 +57,7 @@ int main(int argc, char** argv) {
   orvex::cli::AddGroupCommands(app, context);
   orvex::cli::AddClientCommands(app, context);
   orvex::cli::AddChartCommands(app, context);
+  orvex::cli::AddHoroscopeCommands(app, context);
 
   const int status = Run(app, argc, argv);
   if (context.EphemerisFellBack()) {

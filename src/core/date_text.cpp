@@ -136,8 +136,8 @@ DateParts PartsOf(DateTime moment) {
 }
 
 DateTime DateAdd(DateInterval interval, std::int64_t count, DateTime moment) {
-  constexpr std::int64_t kMostMinutes = std::int64_t{kLastYear} * 366 * 24 * 60;
-  if (count < -kMostMinutes || count > kMostMinutes) {
+  constexpr std::int64_t kMostSeconds = std::int64_t{kLastYear} * 366 * 24 * 60 * 60;
+  if (count < -kMostSeconds || count > kMostSeconds) {
     throw DateRangeError("a date outside the years 100 to 9999");
   }
   switch (interval) {
@@ -147,8 +147,12 @@ DateTime DateAdd(DateInterval interval, std::int64_t count, DateTime moment) {
       return AddMonths(count, moment);
     case DateInterval::Days:
       return Checked(moment + std::chrono::days(count));
+    case DateInterval::Hours:
+      return Checked(moment + std::chrono::hours(count));
     case DateInterval::Minutes:
       return Checked(moment + std::chrono::minutes(count));
+    case DateInterval::Seconds:
+      return Checked(moment + std::chrono::seconds(count));
   }
   return moment;
 }

@@ -28,7 +28,7 @@ class DateRangeError : public std::out_of_range {
   using std::out_of_range::out_of_range;
 };
 
-enum class DateInterval { Years, Months, Days, Minutes };
+enum class DateInterval { Years, Months, Days, Hours, Minutes, Seconds };
 
 // The moment of calendar parts; nothing where they name no moment of the years 100 to 9999.
 std::optional<DateTime> MakeDateTime(const DateParts& parts);

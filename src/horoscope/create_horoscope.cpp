@@ -71,7 +71,7 @@ void BuildHouseAnalyses(const core::ApplicationState& state, HoroscopeModel& mod
 // The classical side tables, in their order.
 void BuildVedicTables(const core::Session& session, HoroscopeModel& model) {
   Attempt([&] { vedic::ComputeAshtakavarga(model); });
-  Attempt([&] { vedic::WriteBirthStarAttributes(session.Reference, model); });
+  Attempt([&] { vedic::FillBirthStarAttributes(session.Reference, model); });
   Attempt([&] { vedic::BuildKarakaTable(model); });
   Attempt([&] { vedic::BuildBnnTable(model); });
   Attempt([&] { vedic::BuildLoShu(session.Reference, model); });
@@ -91,7 +91,7 @@ void Assemble(core::Session& session, HoroscopeModel& model,
   BuildChartTables(session, model);
   Attempt([&] { chart::BuildRulingPlanets(model); });
   Attempt([&] { chart::FillDignity(reference, model); });
-  Attempt([&] { vedic::WriteNumerology(reference, model); });
+  Attempt([&] { vedic::FillNumerology(reference, model); });
   Attempt([&] {
     const auto rashi = core::ParseWhole(HouseText(model, 0, chart::HouseColumn::Rashi));
     model.Captions.AscendantSign = chart::RashiName(static_cast<int>(rashi.value()));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "chart/point_text.h"
 #include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
@@ -62,27 +63,12 @@ std::string VasyaRajjuText(const std::string& moonRashi, int sign, double moonDe
 }
 
 float BhriguBinduDegree(float moonDegree, float rahuDegree) {
-  float sum = moonDegree + rahuDegree;
+  // The sum of the two singles is a double; only the half of it is a single again.
+  double sum = static_cast<double>(moonDegree) + static_cast<double>(rahuDegree);
   if (rahuDegree >= moonDegree) {
     sum = sum > kCircle ? sum - kCircle : sum + kCircle;
   }
-  return core::ToSingle(core::TwoDecimals(sum / 2));
-}
-
-std::string BhriguBinduText(const core::ReferenceData& reference, float degree) {
-  std::string text;
-  const double point = chart::LookupDegree(degree);
-  core::Attempt([&] {
-    const core::SubRow& sub = chart::SubOfDegree(reference, point);
-    const std::string sign = chart::RashiName(chart::RashiOfDegree(point));
-    text = core::TwoDecimals(degree) + "/" + core::FirstCharacters(sign, 3) + " (" +
-           sub.RashiLord + "/" + sub.StarLord + "/" + sub.SubLord + ")";
-  });
-  core::Attempt([&] {
-    const chart::StarAndPada star = chart::StarOfDegree(reference, point);
-    text += "  |  " + star.Star->StarName + " - Pada " + core::PaddedWhole(star.Pada->Pada, 1);
-  });
-  return text;
+  return core::ToSingle(core::TwoDecimals(static_cast<float>(sum / 2)));
 }
 
 void FillBirthStarAttributes(const core::ReferenceData& reference, chart::HoroscopeModel& model) {
@@ -107,7 +93,8 @@ void FillBirthStarAttributes(const core::ReferenceData& reference, chart::Horosc
   core::Attempt([&] {
     model.BhriguBinduDegree =
         BhriguBinduDegree(core::ToSingle(degree(kMoon)), core::ToSingle(degree(kRahu)));
-    captions.BhriguBindu = BhriguBinduText(reference, model.BhriguBinduDegree);
+    captions.BhriguBindu =
+        chart::PointText(reference, chart::LookupDegree(model.BhriguBinduDegree));
   });
 }
 

@@ -25,10 +25,6 @@ std::string VasyaRajjuText(const std::string& moonRashi, int sign, double moonDe
 // The point midway between the Moon and Rahu, degrees with two decimals, from longitudes in degrees.
 float BhriguBinduDegree(float moonDegree, float rahuDegree);
 
-// "21.55/Ari (Mars/Venus/Jupiter)  |  Bharani - Pada 3". A half of it that no reference row holds
-// stays out; 360 has no sign.
-std::string BhriguBinduText(const core::ReferenceData& reference, float degree);
-
 // Writes the captions VarnaGana, NadiYoni, VasyaRajju and BhriguBindu and keeps the point. One that
 // fails leaves its caption empty.
 void FillBirthStarAttributes(const core::ReferenceData& reference, chart::HoroscopeModel& model);
