@@ -17,7 +17,7 @@ constexpr std::size_t kSigns = 12;
 constexpr int kColumnWidth = 63;
 
 constexpr std::array<const char*, kSigns> kIndianNames = {
-    "Mesha", "Rishaba",    "Mithuna", "Karka",  "Simha",  "Kanya",
+    "Mesha", "Rishaba",   "Mithuna", "Karka",  "Simha",  "Kanya",
     "Tula",  "Vrischika", "Dhanu",   "Makara", "Kumbha", "Meena"};
 constexpr std::array<const char*, 4> kElements = {"Fire", "Earth", "Air", "Water"};
 constexpr std::array<const char*, 3> kModalities = {"Movable", "Fixed", "Dual"};
@@ -44,8 +44,7 @@ void FillSign(HoroscopeModel& model, std::size_t sign) {
   name.Tooltip = kIndianNames.at(sign - 1);
   GridCell(model, GridRow::Owner, sign).Text = RashiLordName(rashi);
   GridCell(model, GridRow::Element, sign).Text = kElements.at((sign - 1) % kElements.size());
-  GridCell(model, GridRow::Modality, sign).Text =
-      kModalities.at((sign - 1) % kModalities.size());
+  GridCell(model, GridRow::Modality, sign).Text = kModalities.at((sign - 1) % kModalities.size());
   core::Cell& number = GridCell(model, GridRow::RashiNo, sign);
   number.Tag = core::PaddedWhole(rashi, 1);
   number.Text = number.Tag + (sign % 2 == 1 ? " (M)" : " (F)");
@@ -73,9 +72,8 @@ void FillHouse(HoroscopeModel& model, std::size_t sign) {
 }
 
 float AngleToCusp(const HoroscopeModel& model, std::size_t sign, float longitude) {
-  const std::string& house = model.AspectGrid.Rows.at(static_cast<std::size_t>(GridRow::House))
-                                 .Cells.at(sign)
-                                 .Tag;
+  const std::string& house =
+      model.AspectGrid.Rows.at(static_cast<std::size_t>(GridRow::House)).Cells.at(sign).Tag;
   const auto row = static_cast<std::size_t>(core::ParseWhole(house).value()) - 1;
   float angle = core::ToSingle(HouseText(model, row, HouseColumn::CuspDegree)) - longitude;
   if (angle < 0) {
@@ -100,8 +98,7 @@ void BuildAspectGrid(HoroscopeModel& model, const core::AspectBandLimits& bands)
   }
 }
 
-void CalcAspect(HoroscopeModel& model, const core::AspectBandLimits& bands,
-                std::size_t planetRow) {
+void CalcAspect(HoroscopeModel& model, const core::AspectBandLimits& bands, std::size_t planetRow) {
   const std::string& planet = PlanetText(model, planetRow, PlanetColumn::Planet);
   const bool node = planet == "Rahu" || planet == "Ketu";
   core::Row& row = model.AspectGrid.AddRow();

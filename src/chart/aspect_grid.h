@@ -15,7 +15,6 @@ void BuildAspectGrid(HoroscopeModel& model, const core::AspectBandLimits& bands)
 
 // Appends the row of a planet: the angle to each cusp with two decimals, coloured by its band but
 // for the nodes. Its first cell's tag is the direction of the planet's sign.
-void CalcAspect(HoroscopeModel& model, const core::AspectBandLimits& bands,
-                std::size_t planetRow);
+void CalcAspect(HoroscopeModel& model, const core::AspectBandLimits& bands, std::size_t planetRow);
 
 }  // namespace orvex::chart

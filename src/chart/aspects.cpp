@@ -92,8 +92,8 @@ void AddAspect(HoroscopeModel& model, const PlanetPair& pair, float angle, bool 
   cell.Background = good ? core::kGoodColor : core::kHardColor;
 }
 
-void ListPair(HoroscopeModel& model, const core::AspectBandLimits& bands,
-              const std::string& filter, const PlanetPair& pair) {
+void ListPair(HoroscopeModel& model, const core::AspectBandLimits& bands, const std::string& filter,
+              const PlanetPair& pair) {
   const float angle = ForwardAngle(model, pair);
   if (angle == 360) {
     return;
@@ -121,8 +121,7 @@ std::vector<std::string> CodesByHouse(const HoroscopeModel& model) {
 
 }  // namespace
 
-std::string AspectedPlanets(const HoroscopeModel& model, std::size_t houseRow,
-                            HouseColumn aspect) {
+std::string AspectedPlanets(const HoroscopeModel& model, std::size_t houseRow, HouseColumn aspect) {
   const std::optional<std::int64_t> house = core::ParseWhole(HouseText(model, houseRow, aspect));
   if (!house) {
     return "";

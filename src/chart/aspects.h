@@ -10,8 +10,7 @@ namespace orvex::chart {
 
 // The planets of the rashi chart in the house that a house row aspects by a column of the house
 // table (ASP3 to ASP10); "" where there is none.
-std::string AspectedPlanets(const HoroscopeModel& model, std::size_t houseRow,
-                            HouseColumn aspect);
+std::string AspectedPlanets(const HoroscopeModel& model, std::size_t houseRow, HouseColumn aspect);
 
 // The planets that a planet aspects by such a column; "" for a planet without a house.
 std::string AspectedBy(const HoroscopeModel& model, const std::string& code, HouseColumn aspect);

@@ -116,14 +116,12 @@ void BuildFourStep(HoroscopeModel& model, char statusBarDegreeCalc) {
     model.FourStepRows.At(row, FourStepColumn::Planet).Text =
         PlanetText(model, row, PlanetColumn::Planet);
     model.FourStepTable.AddRow();
-    core::Attempt([&] {
-      model.Captions.PlanetPositions += PositionText(model, row, statusBarDegreeCalc);
-    });
+    core::Attempt(
+        [&] { model.Captions.PlanetPositions += PositionText(model, row, statusBarDegreeCalc); });
     core::Attempt([&] { AddSignification(model, row); });
   }
   for (std::size_t row = 0; row < planets; ++row) {
-    core::Attempt(
-        [&] { FourStepCheck(model, PlanetText(model, row, PlanetColumn::Planet), row); });
+    core::Attempt([&] { FourStepCheck(model, PlanetText(model, row, PlanetColumn::Planet), row); });
   }
   core::Attempt([&] { WriteStatusBar(model, statusBarDegreeCalc); });
 }

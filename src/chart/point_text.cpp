@@ -12,8 +12,8 @@ std::string PointText(const core::ReferenceData& reference, double degree) {
   core::Attempt([&] {
     const core::SubRow& sub = SubOfDegree(reference, degree);
     const std::string sign = RashiName(RashiOfDegree(degree));
-    text = core::TwoDecimals(degree) + "/" + core::FirstCharacters(sign, 3) + " (" +
-           sub.RashiLord + "/" + sub.StarLord + "/" + sub.SubLord + ")";
+    text = core::TwoDecimals(degree) + "/" + core::FirstCharacters(sign, 3) + " (" + sub.RashiLord +
+           "/" + sub.StarLord + "/" + sub.SubLord + ")";
   });
   core::Attempt([&] {
     const StarAndPada star = StarOfDegree(reference, degree);

@@ -66,10 +66,10 @@ double PartOfFortune(double moon, double ascendant, double sun) {
 
 void WritePartOfFortune(const core::ReferenceData& reference, HoroscopeModel& model) {
   core::Attempt([&] {
-    model.Captions.PartOfFortune = PointText(
-        reference, PartOfFortune(core::ToDouble(model.MoonDegree),
-                                 core::ToDouble(model.CuspDegree1),
-                                 core::ToDouble(model.SunDegree)));
+    model.Captions.PartOfFortune =
+        PointText(reference,
+                  PartOfFortune(core::ToDouble(model.MoonDegree), core::ToDouble(model.CuspDegree1),
+                                core::ToDouble(model.SunDegree)));
   });
 }
 

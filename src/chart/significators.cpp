@@ -92,9 +92,9 @@ std::string NadiHouses(const HoroscopeModel& model, std::size_t row) {
   const std::string code = CodeOfRow(model, row);
   std::string houses = HouseList(model, row);
   if (code == "RA" || code == "KE") {
-    const std::string lords =
-        HousesOfCode(model, LordCode(model, row, PlanetColumn::SignLord)) + " " +
-        HousesOfCode(model, LordCode(model, row, PlanetColumn::StarLord));
+    const std::string lords = HousesOfCode(model, LordCode(model, row, PlanetColumn::SignLord)) +
+                              " " +
+                              HousesOfCode(model, LordCode(model, row, PlanetColumn::StarLord));
     houses = core::Trim(houses + " " + lords + " " + OtherAgents(model, code));
   }
   return houses;

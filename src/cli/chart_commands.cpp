@@ -27,16 +27,6 @@ struct SunOptions {
   std::string Offset;
 };
 
-// The number of an option; CommandFailed for any other text.
-double NumberOption(const std::string& name, const std::string& text, double low, double high) {
-  const std::optional<double> number = core::ParseNumber(text);
-  if (!number || *number < low || *number > high) {
-    throw CommandFailed(name + " takes a number from " + core::DoubleText(low) + " to " +
-                        core::DoubleText(high));
-  }
-  return *number;
-}
-
 chart::ChartInput InputOf(const ChartOptions& options) {
   constexpr double kFarthestOffset = 27;
   NumberOption("--latitude", options.Latitude, -90, 90);

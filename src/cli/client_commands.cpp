@@ -120,14 +120,6 @@ void AwaitFreshSecond(const core::Session& session) {
   }
 }
 
-void PrintId(const Context& context, std::int32_t id) {
-  if (context.Json) {
-    PrintJson({{"id", id}});
-  } else {
-    std::cout << id << "\n";
-  }
-}
-
 // Latitudes and longitudes are stored as entered; a slip of the keys is worth a word.
 void RemarkOnPlace(const chart::ClientForm& form) {
   const auto beyond = [](const std::string& text, double limit) {
@@ -145,7 +137,7 @@ void RunAdd(Context& context, const ClientOptions& options) {
   Apply(session, options, form);
   const std::int32_t group = GroupFor(session, options.Group);
   AwaitFreshSecond(session);
-  PrintId(context, Context::Saved(chart::SaveNewClient(session, form, group)));
+  PrintId(Context::Saved(chart::SaveNewClient(session, form, group)), context.Json);
   RemarkOnPlace(form);
 }
 
@@ -157,7 +149,7 @@ void RunEdit(Context& context, const ClientOptions& options) {
     throw CommandFailed("");
   }
   Apply(session, options, *form);
-  PrintId(context, Context::Saved(chart::SaveClientChanges(session, *form, id)));
+  PrintId(Context::Saved(chart::SaveClientChanges(session, *form, id)), context.Json);
   RemarkOnPlace(*form);
 }
 
@@ -250,15 +242,7 @@ void RunList(Context& context, const ClientOptions& options) {
   if (options.Group) {
     group = WholeOption("--group", *options.Group);
   }
-  core::Table clients = practice::LoadClientsOfGroup(context.Reading(), group);
-  // A list in a terminal is used to look up ids.
-  if (!context.Json) {
-    clients.Columns.insert(clients.Columns.begin(), core::Column{"Id"});
-    for (core::Row& row : clients.Rows) {
-      row.Cells.insert(row.Cells.begin(), core::Cell{row.Tag});
-    }
-  }
-  Print(clients, context.Json);
+  PrintList(practice::LoadClientsOfGroup(context.Reading(), group), context.Json);
 }
 
 }  // namespace

@@ -60,6 +60,15 @@ std::int32_t WholeOption(const std::string& name, const std::string& text) {
   return static_cast<std::int32_t>(*number);
 }
 
+double NumberOption(const std::string& name, const std::string& text, double low, double high) {
+  const std::optional<double> number = core::ParseNumber(text);
+  if (!number || *number < low || *number > high) {
+    throw CommandFailed(name + " takes a number from " + core::DoubleText(low) + " to " +
+                        core::DoubleText(high));
+  }
+  return *number;
+}
+
 CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                      std::function<void()> run) {
   CLI::App* command = parent.add_subcommand(name, description);

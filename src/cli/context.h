@@ -63,15 +63,18 @@ core::DateTime MomentOption(const std::string& name, const std::string& text);
 // The whole number of an option's or argument's text. CommandFailed for any other text.
 std::int32_t WholeOption(const std::string& name, const std::string& text);
 
+// The number of an option's text within limits. CommandFailed for any other text.
+double NumberOption(const std::string& name, const std::string& text, double low, double high);
+
 // A command below `parent` whose callback runs `run`.
 CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                      std::function<void()> run);
 
-void AddStoreCommands(CLI::App& app, Context& context);   // init
-void AddCityCommands(CLI::App& app, Context& context);    // city
-void AddGroupCommands(CLI::App& app, Context& context);   // group
-void AddClientCommands(CLI::App& app, Context& context);  // client
-void AddChartCommands(CLI::App& app, Context& context);   // chart, sun
+void AddStoreCommands(CLI::App& app, Context& context);      // init
+void AddCityCommands(CLI::App& app, Context& context);       // city
+void AddGroupCommands(CLI::App& app, Context& context);      // group
+void AddClientCommands(CLI::App& app, Context& context);     // client
+void AddChartCommands(CLI::App& app, Context& context);      // chart, sun
 void AddHoroscopeCommands(CLI::App& app, Context& context);  // horoscope, rectify
 
 }  // namespace orvex::cli

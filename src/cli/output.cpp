@@ -114,4 +114,22 @@ void Print(const core::Table& table, bool json) {
   }
 }
 
+void PrintList(core::Table list, bool json) {
+  if (!json) {
+    list.Columns.insert(list.Columns.begin(), core::Column{"Id"});
+    for (core::Row& row : list.Rows) {
+      row.Cells.insert(row.Cells.begin(), core::Cell{row.Tag});
+    }
+  }
+  Print(list, json);
+}
+
+void PrintId(std::int32_t id, bool json) {
+  if (json) {
+    PrintJson({{"id", id}});
+  } else {
+    std::cout << id << "\n";
+  }
+}
+
 }  // namespace orvex::cli

@@ -1,6 +1,7 @@
 // The tables of the program on standard output: as JSON or as aligned text.
 #pragma once
 
+#include <cstdint>
 #include <nlohmann/json.hpp>
 #include <string>
 
@@ -22,5 +23,11 @@ void PrintTable(const core::Table& table);
 
 // Prints a table as JSON or as text.
 void Print(const core::Table& table, bool json);
+
+// Prints a list whose rows have ids as tags; as text the ids stand in a column of their own.
+void PrintList(core::Table list, bool json);
+
+// Prints the id of what was saved.
+void PrintId(std::int32_t id, bool json);
 
 }  // namespace orvex::cli

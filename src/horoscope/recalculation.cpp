@@ -18,8 +18,8 @@ std::string HouseText(const std::optional<int>& house) { return house ? WholeTex
 
 // The lords of a degree into four columns that stand side by side.
 template <typename ColumnName>
-void FillLords(const core::ReferenceData& reference, const std::string& degree,
-               core::Table& table, std::size_t row, ColumnName signLord) {
+void FillLords(const core::ReferenceData& reference, const std::string& degree, core::Table& table,
+               std::size_t row, ColumnName signLord) {
   core::Attempt([&] {
     const double longitude = core::ToDouble(degree);
     const core::SubRow& sub = chart::SubOfDegree(reference, longitude);

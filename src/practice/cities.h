@@ -1,0 +1,46 @@
+// Cities and time zones: the lists and the city dialog.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "core/save_result.h"
+#include "core/session.h"
+#include "core/table.h"
+
+namespace orvex::practice {
+
+// The tag of a name is the city's id. The offset is hidden.
+enum class CityColumn { CityName, Country, Latitude, Longitude, Offset };
+enum class ZoneColumn { TimeZone, Country, Offset };
+
+// All cities, those that clients use already, and those whose name holds a text. Cities whose zone
+// is not known are in none.
+core::Table LoadCities(const core::Session& session);
+core::Table PreviouslyUsedCities(const core::Session& session);
+core::Table SearchCities(const core::Session& session, const std::string& text);
+
+// All time zones by name.
+core::Table LoadTimeZones(const core::Session& session);
+
+// The fields of the city dialog, numbers as texts.
+struct CityForm {
+  std::string CityName;
+  std::string TimeZone;  // not changed by an edit
+  std::string Offset;
+  std::string Latitude;
+  std::string Longitude;
+};
+
+// The offset of a zone as the dialog takes it from the list; nothing for an unknown zone.
+std::optional<std::string> OffsetOfZone(const core::Session& session, const std::string& zone);
+
+// The form of a stored city; nothing where it is gone, after the program's message.
+std::optional<CityForm> OpenEditCity(core::Session& session, std::int32_t cityId);
+
+// Saves a new city, or the changes of a stored one. The first failed check is refused.
+core::SaveResult SaveNewCity(core::Session& session, const CityForm& form);
+core::SaveResult SaveCityChanges(core::Session& session, const CityForm& form, std::int32_t cityId);
+
+}  // namespace orvex::practice

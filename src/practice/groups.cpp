@@ -1,0 +1,139 @@
+#include "practice/groups.h"
+
+#include "core/exact_numbers.h"
+#include "core/text.h"
+#include "practice/store_write.h"
+
+namespace orvex::practice {
+
+namespace {
+
+using core::Quoted;
+
+constexpr std::size_t kLongestName = 20;
+constexpr const char* kNoRecord = "The record you are trying to edit could not be retrieved.";
+
+std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
+
+core::SaveResult Refuse(const std::string& text, core::MessageIcon icon) {
+  return {0, core::Refusal{text, icon, "groupName"}};
+}
+
+bool Exists(const core::Session& session, std::int32_t groupId) {
+  return !session.StoreConnection
+              .Query("Select id from group_master where id = " + WholeText(groupId))
+              .AtEnd();
+}
+
+// The refusal of a name for a group; 0 stands for a new one.
+std::optional<core::Refusal> CheckName(const core::Session& session, const std::string& name,
+                                       std::int32_t groupId) {
+  const auto refuse = [](const std::string& text) {
+    return core::Refusal{text, core::MessageIcon::Information, "groupName"};
+  };
+  if (name.empty()) {
+    return refuse("Group Name is a mandatory field.");
+  }
+  if (core::CharacterCount(name) > kLongestName) {
+    return refuse("Group Name cannot exceed 20 characters.");
+  }
+  for (core::Result row = session.StoreConnection.Query(
+           "Select id from group_master where ucase(groupname) = " + Quoted(core::UpperCase(name)));
+       !row.AtEnd(); row.Next()) {
+    if (row.Integer("id") != groupId) {
+      return refuse("The Group '" + name + "' already exists in the database.");
+    }
+  }
+  return std::nullopt;
+}
+
+void DeleteClients(core::Store& store, const std::string& groupId) {
+  std::vector<std::string> ids;
+  for (core::Result row = store.Query("Select id from client_master where groupid = " + groupId);
+       !row.AtEnd(); row.Next()) {
+    ids.push_back(row.Text("id"));
+  }
+  if (ids.empty()) {
+    return;
+  }
+  const std::string list = core::Join(ids, ",");
+  store.Execute("Delete from client_remedy where clientid in (" + list + ")");
+  store.Execute("Delete from client_planets where clientid in (" + list + ")");
+  store.Execute("Delete from client_master where groupid = " + groupId);
+}
+
+// With no group left the settings keep the old id and the state has none.
+void ReplaceInstantChartGroup(core::Session& session) {
+  core::ApplicationState& state = session.State;
+  const core::Result first =
+      session.StoreConnection.Query("Select top 1 id, groupname from group_master order by id");
+  if (first.AtEnd()) {
+    state.InstantChartGroupId = 0;
+    state.InstantChartGroupName.clear();
+    return;
+  }
+  state.InstantChartGroupId = static_cast<std::int32_t>(first.Integer("id"));
+  state.InstantChartGroupName = first.Text("groupname");
+  session.StoreConnection.Execute("Update settings set ICGroupID = " + first.Text("id"));
+}
+
+}  // namespace
+
+core::Table LoadGroups(const core::Session& session) {
+  core::Table table{{{"Group"}}, {}};
+  for (core::Result row = session.StoreConnection.Query(
+           "Select id, groupname from group_master order by groupname");
+       !row.AtEnd(); row.Next()) {
+    core::Row& added = table.AddRow();
+    added.Tag = row.Text("id");
+    added.Cells.front().Text = row.Text("groupname");
+  }
+  return table;
+}
+
+core::SaveResult AddGroup(core::Session& session, const std::string& name) {
+  const std::string trimmed = core::Trim(name);
+  if (std::optional<core::Refusal> refused = CheckName(session, trimmed, 0)) {
+    return {0, std::move(refused)};
+  }
+  return WriteBatch(session, [&trimmed](core::Store& store) {
+    store.Execute("Insert into group_master (groupname) values (" + Quoted(trimmed) + ")");
+    return LastId(store, "group_master");
+  });
+}
+
+core::SaveResult RenameGroup(core::Session& session, std::int32_t groupId,
+                             const std::string& name) {
+  if (!Exists(session, groupId)) {
+    return Refuse(kNoRecord, core::MessageIcon::Stop);
+  }
+  const std::string trimmed = core::Trim(name);
+  if (std::optional<core::Refusal> refused = CheckName(session, trimmed, groupId)) {
+    return {0, std::move(refused)};
+  }
+  return WriteBatch(session, [&trimmed, groupId](core::Store& store) {
+    store.Execute("Update group_master set groupname = " + Quoted(trimmed) +
+                  " where id = " + WholeText(groupId));
+    return groupId;
+  });
+}
+
+core::SaveResult DeleteGroup(core::Session& session, std::int32_t groupId) {
+  if (!session.State.OpenHoroscopes.empty()) {
+    return Refuse("Can't delete a Group when one or more Horoscopes are open.",
+                  core::MessageIcon::Information);
+  }
+  if (!Exists(session, groupId)) {
+    return Refuse(kNoRecord, core::MessageIcon::Stop);
+  }
+  return WriteBatch(session, [&session, groupId](core::Store& store) {
+    DeleteClients(store, WholeText(groupId));
+    store.Execute("Delete from group_master where id = " + WholeText(groupId));
+    if (session.State.InstantChartGroupId == groupId) {
+      ReplaceInstantChartGroup(session);
+    }
+    return groupId;
+  });
+}
+
+}  // namespace orvex::practice
