@@ -186,6 +186,14 @@ std::optional<std::size_t> SelectedRow(const core::Table& list) {
   return std::nullopt;
 }
 
+std::vector<Period> ListedDashas(const DashaCycle& cycle, const HoroscopeModel& model) {
+  std::vector<Period> dashas;
+  for (std::size_t row = 0; row < model.Periods.DashaList.Rows.size(); ++row) {
+    dashas.push_back(DashaOfRow(cycle, model.Periods.DashaList, row));
+  }
+  return dashas;
+}
+
 void BuildDashaList(const core::Session& session, HoroscopeModel& model) {
   model.Periods = {EmptyDashaList(), EmptyPeriodList(), EmptyPeriodList(), EmptyPeriodList()};
   core::Attempt([&] { FillDashaList(DashaCycleOf(session.Reference), model); });

@@ -36,6 +36,9 @@ void WriteCurrentDba(HoroscopeModel& model);
 // first Dasha's planet is tinted.
 void AppendDashaTooltips(HoroscopeModel& model);
 
+// The periods of the Dasha list.
+std::vector<Period> ListedDashas(const DashaCycle& cycle, const HoroscopeModel& model);
+
 // The selected row of a list; nothing where none is.
 std::optional<std::size_t> SelectedRow(const core::Table& list);
 

@@ -24,15 +24,13 @@ constexpr double kUnitsOfDegree = 100000;
 constexpr int kUnitsOfSign = 30 * 100000;
 
 constexpr std::array<const char*, 15> kTithis = {
-    "Padyami", "Vidiya", "Tadiya", "Chavithi", "Panchimi", "Sashti",     "Saptami", "Ashtami",
-    "Navami",  "Dasimi", "Ekadasi", "Dwadasi", "Triodasi", "Chaturdasi", "Purnima"};
+    "Padyami", "Vidiya", "Tadiya",  "Chavithi", "Panchimi", "Sashti",     "Saptami", "Ashtami",
+    "Navami",  "Dasimi", "Ekadasi", "Dwadasi",  "Triodasi", "Chaturdasi", "Purnima"};
 
 constexpr std::array<const char*, 7> kMovingKarans = {"Bava", "Balava", "Kaulava", "Taitila",
                                                       "Gara", "Vanija", "Vishti"};
 
-int BeginUnits(int seconds) {
-  return (seconds + kHundredth - 1) / kHundredth * kUnitsOfHundredth;
-}
+int BeginUnits(int seconds) { return (seconds + kHundredth - 1) / kHundredth * kUnitsOfHundredth; }
 
 // The last longitude of a row that goes up to the border `next`.
 int EndUnits(int next) { return next == kCircle ? BeginUnits(next) : BeginUnits(next) - 1; }
@@ -53,8 +51,8 @@ std::set<int> SubBorders(const std::vector<DashaLord>& cycle) {
     int at = star * kStar;
     for (std::size_t part = 0; part < cycle.size(); ++part) {
       borders.insert(at);
-      at += kStar * cycle[(static_cast<std::size_t>(star) + part) % cycle.size()].Years /
-            kCycleYears;
+      at +=
+          kStar * cycle[(static_cast<std::size_t>(star) + part) % cycle.size()].Years / kCycleYears;
     }
   }
   return borders;
@@ -108,9 +106,9 @@ TithiName TithiOf(std::size_t half) {
 
 TsvTable DivideIntoSubs(const std::vector<DashaLord>& cycle,
                         const std::vector<std::string>& signLords) {
-  TsvTable table{{"ascno", "ascpointbegin", "ascpointend", "rashilord", "rasilordno", "starlord",
-                  "sublord"},
-                 {}};
+  TsvTable table{
+      {"ascno", "ascpointbegin", "ascpointend", "rashilord", "rasilordno", "starlord", "sublord"},
+      {}};
   const std::set<int> borders = SubBorders(cycle);
   int number = 0;
   for (auto border = borders.begin(); *border != kCircle;) {
@@ -119,9 +117,9 @@ TsvTable DivideIntoSubs(const std::vector<DashaLord>& cycle,
     const auto star = static_cast<std::size_t>(begin / kStar);
     const int sign = SignAt(begin);
     table.Rows.push_back({WholeText(++number), DegreesOf(BeginUnits(begin)),
-                          DegreesOf(EndUnits(next)), signLords.at(static_cast<std::size_t>(sign) - 1),
-                          WholeText(sign), cycle.at(star % cycle.size()).Name,
-                          SubLordAt(cycle, begin)});
+                          DegreesOf(EndUnits(next)),
+                          signLords.at(static_cast<std::size_t>(sign) - 1), WholeText(sign),
+                          cycle.at(star % cycle.size()).Name, SubLordAt(cycle, begin)});
   }
   return table;
 }

@@ -1,7 +1,8 @@
 // The tables that divide the circle, computed from their rules as texts ready for the store.
 //
 // A row begins at its true border, rounded up to hundredths of a degree, and ends 0.00001 below the
-// begin of the next row; the last row ends at 360. Thus a longitude of two decimals lies in one row.
+// begin of the next row; the last row ends at 360. Thus a longitude of two decimals lies in one
+// row.
 #pragma once
 
 #include <string>

@@ -3,8 +3,8 @@
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
-#include "vedic/aspect_grid_places.h"
 #include "vedic/ashtakavarga_bits.h"
+#include "vedic/aspect_grid_places.h"
 
 namespace orvex::vedic {
 

@@ -48,8 +48,7 @@ std::string VarnaGanaText(const core::ReferenceData& reference, const std::strin
   const auto star =
       std::find_if(reference.Stars.begin(), reference.Stars.end(),
                    [&](const core::StarRow& row) { return row.StarName == moonStar; });
-  const std::string gana =
-      star == reference.Stars.end() ? "" : TextOfName(kGanas, star->Gana);
+  const std::string gana = star == reference.Stars.end() ? "" : TextOfName(kGanas, star->Gana);
   return TextOfName(kVarnas, moonRashi) + gana;
 }
 

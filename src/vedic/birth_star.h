@@ -22,7 +22,8 @@ std::string NadiYoniText(const std::string& moonStar);
 std::string VasyaRajjuText(const std::string& moonRashi, int sign, double moonDegree,
                            const std::string& moonStar);
 
-// The point midway between the Moon and Rahu, degrees with two decimals, from longitudes in degrees.
+// The point midway between the Moon and Rahu, degrees with two decimals, from longitudes in
+// degrees.
 float BhriguBinduDegree(float moonDegree, float rahuDegree);
 
 // Writes the captions VarnaGana, NadiYoni, VasyaRajju and BhriguBindu and keeps the point. One that

@@ -166,8 +166,8 @@ const std::string& PlanetsBefore(const chart::HoroscopeModel& model, std::size_t
   return PlanetsFrom(model, row, chart::kHouses - 1);
 }
 
-// The codes of a sequence in the order of the table; those that the table has not are dropped, those
-// that come twice stay twice.
+// The codes of a sequence in the order of the table; those that the table has not are dropped,
+// those that come twice stay twice.
 std::string InDegreeOrder(const chart::HoroscopeModel& model, const std::string& sequence) {
   const std::vector<std::string> tokens = core::SplitWords(sequence);
   std::vector<std::string> ordered;

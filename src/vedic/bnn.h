@@ -7,7 +7,7 @@
 namespace orvex::vedic {
 
 enum class BnnColumn {
-  Pln,        // planet code, with "~" behind it for a retrograde planet
+  Pln,  // planet code, with "~" behind it for a retrograde planet
   Deg,
   Aspecting,  // written by CheckandShowAllAspects
   BnnSeq,

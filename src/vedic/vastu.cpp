@@ -163,9 +163,9 @@ void AddHitsOnPlanets(chart::HoroscopeModel& model, const char* color, const cha
       const core::Cell& angle = aspects.At(row, AspectColumn::Angle);
       if (angle.Background == color) {
         AddHit(model.HitsTable,
-               {aspects.At(row, AspectColumn::From).Text, aspects.At(row, AspectColumn::FromDir).Text,
-                aspects.At(row, AspectColumn::To).Text, "",
-                aspects.At(row, AspectColumn::ToDir).Text, angle.Text, type});
+               {aspects.At(row, AspectColumn::From).Text,
+                aspects.At(row, AspectColumn::FromDir).Text, aspects.At(row, AspectColumn::To).Text,
+                "", aspects.At(row, AspectColumn::ToDir).Text, angle.Text, type});
       }
     });
   }
@@ -178,9 +178,9 @@ void AddHitsOnHouses(chart::HoroscopeModel& model, const char* color, const char
         const core::Cell& planet = model.AspectGrid.At(row, GridColumn::Dir);
         const core::Cell& angle = model.AspectGrid.At(row, GridSign(sign));
         if (angle.Background == color) {
-          AddHit(model.HitsTable, {chart::PlanetCode(planet.Text), planet.Tag, "",
-                                   GridHouse(model, sign).Text, GridCaption(model, sign),
-                                   angle.Text, type});
+          AddHit(model.HitsTable,
+                 {chart::PlanetCode(planet.Text), planet.Tag, "", GridHouse(model, sign).Text,
+                  GridCaption(model, sign), angle.Text, type});
         }
       });
     }

@@ -14,8 +14,8 @@ enum class HitColumn { FromPlanet, FromDir, ToPlanet, ToHouse, ToDir, Aspect, Ty
 enum class PadColumn { Pad, Sign, Inner, Outer };
 
 // Writes ImpactTable, HitsTable and VastuPads anew from the aspect grid and the list of planet
-// aspects as they stand. Squares and oppositions by the given bands strike; cells that hold no angle
-// are passed over.
+// aspects as they stand. Squares and oppositions by the given bands strike; cells that hold no
+// angle are passed over.
 void VastuImpactAnalysis(chart::HoroscopeModel& model, const core::AspectBandLimits& bands);
 
 }  // namespace orvex::vedic

@@ -33,8 +33,8 @@ void ExpectWhole(const ChartResult& chart) {
     EXPECT_TRUE(chart.Planets[i].ChalitHouse);
     EXPECT_FALSE(chart.Planets[i].SubLord.empty());
   }
-  const double apart = core::ToDouble(chart.Planets[8].Degree) -
-                       core::ToDouble(chart.Planets[7].Degree);
+  const double apart =
+      core::ToDouble(chart.Planets[8].Degree) - core::ToDouble(chart.Planets[7].Degree);
   EXPECT_NEAR(std::abs(apart), 180, 1e-9);
   EXPECT_EQ(chart.Planets[7].InRetro + chart.Planets[8].InRetro, "00");
   EXPECT_EQ(chart.Planets[0].InRetro + chart.Planets[1].InRetro, "00");
@@ -62,8 +62,8 @@ TEST_F(ChartComputation, RandomBirthsAreWholeInBothNodeModes) {
 TEST_F(ChartComputation, EveryHoraryNumberRisesInItsOwnSub) {
   for (const char* latitude : {"-60", "0", "28.6", "60"}) {
     for (int number = 1; number <= 249; ++number) {
-      const ChartInput input{test::Moment("2026-11-24 10:00"), "5.5", latitude, "77.2", 5.5,
-                             AscendantChoice::Horary, number, ""};
+      const ChartInput input{test::Moment("2026-11-24 10:00"), "5.5",  latitude, "77.2", 5.5,
+                             AscendantChoice::Horary,          number, ""};
       const ChartResult chart = ComputeChart(*session_, input);
       ASSERT_EQ(chart.Cusps.size(), 12U);
       const double ascendant = core::ToDouble(chart.Cusps[0].DegStart);
@@ -80,8 +80,8 @@ TEST_F(ChartComputation, ATargetInsideTheJumpOfTheAscendantFallsBackToTheStart) 
   astro::EphemerisGateway& gateway = session_->Ephemeris;
   const auto moment = gateway.PrepareMoment(test::Moment("2026-11-24 10:00"));
   const double obliquity = gateway.Obliquity(moment.JulianDayUT);
-  const astro::Cusps found = CuspsFromAscendant(gateway, moment.JulianDayUT, 335.9299999, 28.6,
-                                                kFixedAyanamsa);
+  const astro::Cusps found =
+      CuspsFromAscendant(gateway, moment.JulianDayUT, 335.9299999, 28.6, kFixedAyanamsa);
   const astro::Cusps start = gateway.TropicalHouses(0, 28.6, obliquity);
   const bool bracketed = std::abs(found[1] - 359.9999999) < 0.001 || found[1] < 0.001;
   EXPECT_TRUE(bracketed || found[10] == start[10]);
@@ -107,8 +107,8 @@ TEST_F(ChartComputation, PolarPlacesAndFarYearsDoNotBreakIt) {
 
 TEST_F(ChartComputation, AHandSetAscendantIsRoundedAndKeptAtAllDates) {
   for (const char* birth : {"1850-01-01 05:00", "2026-11-24 10:00"}) {
-    ChartInput input{test::Moment(birth), "0", "28.6", "77.2", 0, AscendantChoice::ByHand, 0,
-                     "212.704"};
+    ChartInput input{test::Moment(birth),     "0", "28.6",   "77.2", 0,
+                     AscendantChoice::ByHand, 0,   "212.704"};
     EXPECT_EQ(ComputeChart(*session_, input).Cusps[0].DegStart, "212.70") << birth;
   }
 }

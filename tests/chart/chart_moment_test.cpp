@@ -19,21 +19,17 @@ TEST(ChartMoment, EastRunsOnTheClockAndWestOnTheLongitude) {
     double cityOffset;
     int minutes;  // from local to UT
   } const cases[] = {
-      {"0", "77.2", 5.5, 0},
-      {"-0", "-74", -5, 0},
-      {"5.5", "77.2", 5.5, -330},
-      {"5.5", "10", 9, -330},
-      {"5.75", "85.3", 5.75, -345},
-      {"-5", "-74", -5, 296},
-      {"-5", "-74.00597", -5, 296},
-      {"-3.5", "-52.70931", -3.5, 211},
-      {"-6", "-74", -5, 236},       // an hour that the city's row does not have goes in as it is
-      {"-5", "10", -5, -560},       // east longitude with a western offset
-      {"4.01", "55", 4, -241},      // 240.6
-      {"4.0083333", "55", 4, -240}, // 240.5, to the even minute
-      {"4.025", "55", 4, -242},     // 241.5, to the even minute
-      {"-5", "-74.125", -5, 296},   // 296.5
-      {"-5", "-74.375", -5, 298},   // 297.5
+      {"0", "77.2", 5.5, 0},        {"-0", "-74", -5, 0},
+      {"5.5", "77.2", 5.5, -330},   {"5.5", "10", 9, -330},
+      {"5.75", "85.3", 5.75, -345}, {"-5", "-74", -5, 296},
+      {"-5", "-74.00597", -5, 296}, {"-3.5", "-52.70931", -3.5, 211},
+      {"-6", "-74", -5, 236},        // an hour that the city's row does not have goes in as it is
+      {"-5", "10", -5, -560},        // east longitude with a western offset
+      {"4.01", "55", 4, -241},       // 240.6
+      {"4.0083333", "55", 4, -240},  // 240.5, to the even minute
+      {"4.025", "55", 4, -242},      // 241.5, to the even minute
+      {"-5", "-74.125", -5, 296},    // 296.5
+      {"-5", "-74.375", -5, 298},    // 297.5
   };
   const core::DateTime local = test::Moment("1990-07-05 14:30");
   for (const auto& c : cases) {
@@ -58,8 +54,8 @@ TEST(ChartMoment, AnInstantChartAddsItsMinutesWithoutTheirSign) {
 }
 
 TEST(ChartMoment, AFullTurnIsTakenOffOnceOnly) {
-  const std::pair<double, double> cases[] = {{-1, 359}, {-361, -1}, {0, 0}, {359.5, 359.5},
-                                             {360, 0},  {725, 365}};
+  const std::pair<double, double> cases[] = {{-1, 359},      {-361, -1}, {0, 0},
+                                             {359.5, 359.5}, {360, 0},   {725, 365}};
   for (const auto& [degrees, corrected] : cases) {
     EXPECT_EQ(hp_Rnd0To360v(degrees), corrected);
   }

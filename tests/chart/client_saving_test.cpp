@@ -68,8 +68,7 @@ const std::vector<Fault>& Faults() {
       {"Please enter a numeric value.", "offset", [](ClientForm& f) { f.Offset = ""; }},
       {"Incorrect Offset Value entered.", "offset", [](ClientForm& f) { f.Offset = "27.01"; }},
       {"Incorrect Offset Value entered.", "offset", [](ClientForm& f) { f.Offset = "-28"; }},
-      {"No City selected. Cannot proceed.", "citySearch",
-       [](ClientForm& f) { f.CityId = 999999; }},
+      {"No City selected. Cannot proceed.", "citySearch", [](ClientForm& f) { f.CityId = 999999; }},
       {"Latitude is a mandatory field.", "latitude", [](ClientForm& f) { f.Latitude = " "; }},
       {"Latitude is a numeric field.", "latitude",
        [](ClientForm& f) { f.Latitude = "1); drop table settings; --"; }},
@@ -108,15 +107,21 @@ TEST_F(ClientSaving, EachCheckRefusesInItsTurnAndTheStoreStaysAsItWas) {
 TEST_F(ClientSaving, ABirthIsStoredWithItsTenRowsAsEntered) {
   const std::int32_t id = Save(Form());
   EXPECT_EQ(Count("client_planets where clientid = " + std::to_string(id)), 9);
-  const std::pair<const char*, const char*> wanted[] = {
-      {"fullname", "First Client"},  {"birthdate", "1990-07-05 14:30:00"},
-      {"latitude", "19.07283"},      {"longitude", "72.88261"},
-      {"offset", "5.5"},             {"firstrashihouse", "7"},
-      {"gender", "M"},               {"horary", "0"},
-      {"horaryno", "0"},             {"horaryquestion", ""},
-      {"ascdegreetype", "A"},        {"createddate", "2026-11-24 10:00:00"},
-      {"cuspdegree1", "194.67"},     {"cuspdegree12", "167.23"},
-      {"groupid", "1"}};
+  const std::pair<const char*, const char*> wanted[] = {{"fullname", "First Client"},
+                                                        {"birthdate", "1990-07-05 14:30:00"},
+                                                        {"latitude", "19.07283"},
+                                                        {"longitude", "72.88261"},
+                                                        {"offset", "5.5"},
+                                                        {"firstrashihouse", "7"},
+                                                        {"gender", "M"},
+                                                        {"horary", "0"},
+                                                        {"horaryno", "0"},
+                                                        {"horaryquestion", ""},
+                                                        {"ascdegreetype", "A"},
+                                                        {"createddate", "2026-11-24 10:00:00"},
+                                                        {"cuspdegree1", "194.67"},
+                                                        {"cuspdegree12", "167.23"},
+                                                        {"groupid", "1"}};
   for (const auto& [field, value] : wanted) {
     EXPECT_EQ(Text(field, id), value) << field;
   }

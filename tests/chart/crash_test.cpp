@@ -54,8 +54,9 @@ TEST(Crash, AKilledSaveLeavesNoTraceOrAllTenRows) {
                        "(select id from client_master)")
                 .Integer("n"),
             0);
-  EXPECT_EQ(store.Query("Select integrity_check as found from pragma_integrity_check").Text("found"),
-            "ok");
+  EXPECT_EQ(
+      store.Query("Select integrity_check as found from pragma_integrity_check").Text("found"),
+      "ok");
 }
 
 }  // namespace

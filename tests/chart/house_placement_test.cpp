@@ -42,11 +42,11 @@ TEST(HousePlacement, EqualHousesFromTenDegrees) {
     const char* degree;
     int rashiHouse;
     int chalitHouse;
-  } const cases[] = {
-      {"5.00", 1, 12},    // over 0 degrees Aries
-      {"345.00", 12, 12}, {"10.00", 1, 1}, {"39.99", 2, 1},
-      {"40.00", 2, 2},    // on a cusp: the later house
-      {"29.99", 1, 1},    {"30.00", 2, 1}, {"359.98", 12, 12}, {"0.00", 1, 12}};
+  } const cases[] = {{"5.00", 1, 12},  // over 0 degrees Aries
+                     {"345.00", 12, 12}, {"10.00", 1, 1},
+                     {"39.99", 2, 1},    {"40.00", 2, 2},  // on a cusp: the later house
+                     {"29.99", 1, 1},    {"30.00", 2, 1},
+                     {"359.98", 12, 12}, {"0.00", 1, 12}};
   for (const auto& c : cases) {
     const Placed placed = PlaceOne(cusps, c.degree);
     EXPECT_EQ(placed.RashiHouse, c.rashiHouse) << c.degree;

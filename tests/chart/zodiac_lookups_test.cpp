@@ -10,9 +10,9 @@ namespace orvex::chart {
 namespace {
 
 TEST(ZodiacLookups, BandsHoldBothBordersAndNothingBetweenThem) {
-  const std::pair<double, int> cases[] = {{0, 1},      {29.99, 1},  {29.995, 0}, {30, 2},
-                                          {59.99, 2},  {120, 5},    {359.99, 12}, {359.996, 0},
-                                          {360, 0},    {-0.01, 0},  {1e9, 0}};
+  const std::pair<double, int> cases[] = {{0, 1},     {29.99, 1}, {29.995, 0},  {30, 2},
+                                          {59.99, 2}, {120, 5},   {359.99, 12}, {359.996, 0},
+                                          {360, 0},   {-0.01, 0}, {1e9, 0}};
   for (const auto& [degree, rashi] : cases) {
     EXPECT_EQ(RashiOfDegree(degree), rashi) << degree;
     EXPECT_EQ(RashiOfSingle(static_cast<float>(degree)), rashi) << degree;
@@ -53,10 +53,10 @@ TEST(ZodiacLookups, TheFirstRowThatHoldsAValueIsTheAnswer) {
 TEST(ZodiacLookups, ASubIsCutInNineFromItsOwnLord) {
   test::TestHome home;
   const auto session = home.Start();
-  const std::pair<double, const char*> cases[] = {{0, "Ketu"},     {0.04, "Ketu"},  {0.06, "Venus"},
-                                                  {0.17, "Venus"}, {0.20, "Sun"},   {0.24, "Moon"},
-                                                  {0.30, "Mars"},  {0.40, "Rahu"},  {0.50, "Jupiter"},
-                                                  {0.60, "Saturn"}, {0.70, "Mercury"}};
+  const std::pair<double, const char*> cases[] = {
+      {0, "Ketu"},       {0.04, "Ketu"},   {0.06, "Venus"},  {0.17, "Venus"},
+      {0.20, "Sun"},     {0.24, "Moon"},   {0.30, "Mars"},   {0.40, "Rahu"},
+      {0.50, "Jupiter"}, {0.60, "Saturn"}, {0.70, "Mercury"}};
   for (const auto& [degree, lord] : cases) {
     EXPECT_EQ(SubSubLord(session->Reference, degree), lord) << degree;
   }

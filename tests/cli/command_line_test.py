@@ -58,6 +58,8 @@ class CommandLine(unittest.TestCase):
             (["client", "add", "--name", "A", "--birth", "0099-01-01 10:00", "--city", "1"],
              "is no date"),
             (["client", "add", "--name", "A", "--birth", "1990-01-01 10:00", "--city", "999999"],
+             "No City selected. Cannot proceed."),
+            (["client", "add", "--name", "A", *BIRTH, "--offset", "five"],
              "Please enter a numeric value."),
             (["client", "add", "--name", "A", *BIRTH, "--group", "77"], "no group"),
             (["client", "add", "--name", "A", *BIRTH, "--horary", "250", "--question", "?"],

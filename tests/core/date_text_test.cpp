@@ -26,8 +26,8 @@ TEST(DateText, EveryDayOfAllYearsSurvivesEachTextForm) {
 TEST(DateText, NonsenseIsNoDate) {
   for (const char* text :
        {"", "x", "1990", "1990-13-01", "1990-02-30", "1900-02-29", "0099-12-31", "10000-01-01",
-        "1990-7-5 24:00", "1990-07-05 14:60", "1990-07-05 14", "1990-07-05 14:30:60",
-        "1990-07-05 ", "1990/07/05", "-990-07-05", "1990-07-05 14:30 PM", "1990-07-0x"}) {
+        "1990-7-5 24:00", "1990-07-05 14:60", "1990-07-05 14", "1990-07-05 14:30:60", "1990-07-05 ",
+        "1990/07/05", "-990-07-05", "1990-07-05 14:30 PM", "1990-07-0x"}) {
     EXPECT_FALSE(ParseDateTime(text)) << text;
   }
   for (const char* text : {"5 7 1990", "5 July", "31 Feb 2000", "5 Juli 1990", "5  Jul 1990"}) {
@@ -124,9 +124,9 @@ TEST(DateText, MonthsAndOrdinals) {
   EXPECT_EQ(MonthNumberText("September"), "09");
   EXPECT_EQ(MonthNumberText("Oct"), "10");
   EXPECT_THROW(MonthNumberText("Octember"), std::invalid_argument);
-  const std::pair<int, const char*> ordinals[] = {{0, ""},    {1, "st"},  {2, "nd"}, {3, "rd"},
-                                                  {4, "th"},  {11, "th"}, {12, "th"}, {13, ""},
-                                                  {21, ""},   {-1, ""}};
+  const std::pair<int, const char*> ordinals[] = {{0, ""},   {1, "st"},  {2, "nd"},  {3, "rd"},
+                                                  {4, "th"}, {11, "th"}, {12, "th"}, {13, ""},
+                                                  {21, ""},  {-1, ""}};
   for (const auto& [number, suffix] : ordinals) {
     EXPECT_EQ(OrdinalSuffix(number), suffix) << number;
   }

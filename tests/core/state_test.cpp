@@ -18,10 +18,10 @@ TEST(State, DefaultBandsAreTheAspectsWithTheirOrbs) {
 TEST(State, AnAngleHasTheColourOfTheFirstBandThatHoldsIt) {
   const AspectBandLimits bands = DefaultAspectBands();
   const std::pair<float, const char*> cases[] = {
-      {27.0F, kGoodColor},  {26.99F, kNeutralColor}, {33.0F, kGoodColor},
-      {33.01F, kNeutralColor}, {45.0F, kHardColor},  {60.0F, kGoodColor},
-      {85.0F, kHardColor},  {84.99F, kNeutralColor}, {120.0F, kGoodColor},
-      {180.0F, kHardColor}, {188.01F, kNeutralColor}, {0.0F, kNeutralColor}};
+      {27.0F, kGoodColor},     {26.99F, kNeutralColor},  {33.0F, kGoodColor},
+      {33.01F, kNeutralColor}, {45.0F, kHardColor},      {60.0F, kGoodColor},
+      {85.0F, kHardColor},     {84.99F, kNeutralColor},  {120.0F, kGoodColor},
+      {180.0F, kHardColor},    {188.01F, kNeutralColor}, {0.0F, kNeutralColor}};
   for (const auto& [angle, color] : cases) {
     EXPECT_STREQ(AspectCellColor(bands, angle), color) << angle;
   }
@@ -44,9 +44,10 @@ TEST(State, ColoursAreReadByPairs) {
 
 TEST(State, SortCodesAreKnownInAnyCase) {
   const std::pair<const char*, const char*> cases[] = {
-      {"BHD", "cm.BirthDate"}, {"cty", "ct.CityName"}, {"Cln", "cm.FullName"},
-      {"CRD", "cm.CreatedDate"}, {"EML", "cm.Email"}, {"mbl", "cm.Mobile"},
-      {"", "cm.FullName"}, {"cm.id; drop table settings", "cm.FullName"}};
+      {"BHD", "cm.BirthDate"}, {"cty", "ct.CityName"},
+      {"Cln", "cm.FullName"},  {"CRD", "cm.CreatedDate"},
+      {"EML", "cm.Email"},     {"mbl", "cm.Mobile"},
+      {"", "cm.FullName"},     {"cm.id; drop table settings", "cm.FullName"}};
   for (const auto& [code, column] : cases) {
     EXPECT_EQ(SortColumnOfCode(code), column);
   }

@@ -37,8 +37,8 @@ std::set<std::string> SchemaOf(const Store& store) {
        row.Next()) {
     schema.insert(row.Text("type") + " " + row.Text("name"));
     if (row.Text("type") == "table") {
-      for (Result column = store.Query("Select name, type from pragma_table_info('" +
-                                       row.Text("name") + "')");
+      for (Result column =
+               store.Query("Select name, type from pragma_table_info('" + row.Text("name") + "')");
            !column.AtEnd(); column.Next()) {
         schema.insert(row.Text("name") + "." + column.Text("name") + " " + column.Text("type"));
       }
@@ -66,17 +66,17 @@ TEST(StoreSchema, AnOldStoreGetsTheTextsAndOrbsOfANewOne) {
   ApplyStoreUpgrades(store, ORVEX_DATA_FOLDER);
   const Result settings = store.Query("Select Top 1 * from settings");
   const std::pair<const char*, const char*> wanted[] = {
-      {"SortByField", "CLN"}, {"ICGroupID", "7"}, {"StatusBarDegreeCalc", "A"},
-      {"Orbit_30", "3"},      {"Orbit_60", "5"},  {"Orbit_120", "8"},
-      {"Orbit_45", "3"},      {"Orbit_90", "5"},  {"Orbit_135", "3"},
-      {"Orbit_150", "3"},     {"Orbit_180", "8"}, {"AstrologerName", ""},
+      {"SortByField", "CLN"},   {"ICGroupID", "7"}, {"StatusBarDegreeCalc", "A"},
+      {"Orbit_30", "3"},        {"Orbit_60", "5"},  {"Orbit_120", "8"},
+      {"Orbit_45", "3"},        {"Orbit_90", "5"},  {"Orbit_135", "3"},
+      {"Orbit_150", "3"},       {"Orbit_180", "8"}, {"AstrologerName", ""},
       {"DefaultChartType", "S"}};
   for (const auto& [column, value] : wanted) {
     EXPECT_EQ(settings.Text(column), value) << column;
   }
-  EXPECT_EQ(store.Query("Select count(*) as n from client_master where AscDegreeType = 'A'")
-                .Integer("n"),
-            2);
+  EXPECT_EQ(
+      store.Query("Select count(*) as n from client_master where AscDegreeType = 'A'").Integer("n"),
+      2);
 }
 
 TEST(StoreSchema, TheSignTableIsMendedOnEveryStartAndValuesOfTheUserStay) {
@@ -96,25 +96,25 @@ TEST(StoreSchema, TheSignTableIsMendedOnEveryStartAndValuesOfTheUserStay) {
   EXPECT_EQ(debilitated, "Rahu,,,Rahu,,Rahu,Rahu,Rahu,,Jupiter,,Rahu,");
   const Result settings = store.Query("Select Top 1 * from settings");
   EXPECT_EQ(settings.Text("Orbit_30") + settings.Text("SortByField"), "1EML");
-  EXPECT_EQ(store.Query("Select count(*) as n from client_master where AscDegreeType = 'M'")
-                .Integer("n"),
-            2);
+  EXPECT_EQ(
+      store.Query("Select count(*) as n from client_master where AscDegreeType = 'M'").Integer("n"),
+      2);
 }
 
 TEST(StoreSchema, ANewStoreIsFilled) {
   const Store store = Store::Open(test::TemplateStore());
   const std::pair<const char*, int> counts[] = {
-      {"city_master", 50390}, {"ascendants", 249},   {"star_details", 108}, {"star_master", 27},
-      {"zodiac_master", 12},  {"planet_master", 9},  {"tithi_master", 60},  {"settings", 1},
+      {"city_master", 50390}, {"ascendants", 249},     {"star_details", 108}, {"star_master", 27},
+      {"zodiac_master", 12},  {"planet_master", 9},    {"tithi_master", 60},  {"settings", 1},
       {"group_master", 1},    {"planet_positions", 9}, {"client_master", 0}};
   for (const auto& [table, count] : counts) {
     EXPECT_EQ(store.Query(std::string("Select count(*) as n from ") + table).Integer("n"), count)
         << table;
   }
   const Result city = store.Query("Select * from city_master where id = 19");
-  EXPECT_EQ(city.Text("cityname") + city.Text("latitude") + city.Text("longitude") +
-                city.Text("offset"),
-            "Dubai25.0772555.309274");
+  EXPECT_EQ(
+      city.Text("cityname") + city.Text("latitude") + city.Text("longitude") + city.Text("offset"),
+      "Dubai25.0772555.309274");
   EXPECT_EQ(store.Query("Select count(*) as n from city_master where offset is null").Integer("n"),
             0);
   EXPECT_EQ(store.Query("Select groupname from group_master").Text("groupname"), "General");
@@ -128,10 +128,12 @@ TEST(StoreSchema, TheClassicalTablesKeepTheirSums) {
       {"Select sum(astronumber) as n from planet_master", 45},
       {"Select count(distinct exaltedplanet) as n from zodiac_master where exaltedplanet <> ''", 7},
       {"Select count(distinct debilitatedplanet) as n from zodiac_master "
-       "where debilitatedplanet <> ''", 7},
+       "where debilitatedplanet <> ''",
+       7},
       {"Select count(*) as n from zodiac_master a, zodiac_master b "
        "where a.exaltedplanet <> '' and a.exaltedplanet = b.debilitatedplanet "
-       "and abs(a.rashi - b.rashi) = 6", 7},
+       "and abs(a.rashi - b.rashi) = 6",
+       7},
       {"Select count(*) as n from star_master where gana = 'D'", 9},
       {"Select count(*) as n from star_master where gana = 'M'", 9},
       {"Select count(*) as n from star_master where gana = 'R'", 9},

@@ -53,14 +53,14 @@ TEST_F(StoreTest, FieldsAreReadByNameInAnyCaseAndByTheirKind) {
   Store store = Open();
   store.Execute("Update group_master set groupname = 'It''s 5 #1/1/2000#'");
   const Result row = store.Query(
-      "Select groupname, 5.50 as Price, 320.0 as Whole, null as Nothing, 0 as No, -1 as Yes, "
+      "Select groupname, 5.50 as Price, 320.0 as Whole, null as Absent, 0 as No, -1 as Yes, "
       "#7/5/1990 2:30 PM# as Moment, day(#07/05/1990#) as d, month(#07/05/1990#) as m, "
       "year(#07/05/1990#) as y, ucase('abc') as u, day('nonsense') as bad from group_master");
   EXPECT_EQ(row.Text("GROUPNAME"), "It's 5 #1/1/2000#");
   EXPECT_EQ(row.Text("price"), "5.5");
   EXPECT_EQ(row.Text("whole"), "320");
-  EXPECT_EQ(row.Text("nothing"), "");
-  EXPECT_TRUE(row.IsNull("nothing"));
+  EXPECT_EQ(row.Text("absent"), "");
+  EXPECT_TRUE(row.IsNull("absent"));
   EXPECT_FALSE(row.Flag("no"));
   EXPECT_TRUE(row.Flag("yes"));
   EXPECT_EQ(StoredDateTimeText(row.Moment("moment").value()), "1990-07-05 14:30:00");
@@ -95,9 +95,10 @@ TEST_F(StoreTest, AFailedStatementInABatchLeavesWhatWasWrittenBefore) {
       EXPECT_EQ(error.Fault(), StoreFault::Statement);
     }
   }
-  EXPECT_EQ(
-      Open().Query("Select count(*) as n from group_master where groupname = 'before'").Integer("n"),
-      1);
+  EXPECT_EQ(Open()
+                .Query("Select count(*) as n from group_master where groupname = 'before'")
+                .Integer("n"),
+            1);
 }
 
 TEST_F(StoreTest, LargeTextsComeBackUnchanged) {

@@ -18,8 +18,10 @@ TEST(Text, EmailsNeedAnAddressAndADomainWithADot) {
 
 TEST(Text, TheLastCompleteBracketCounts) {
   const std::pair<const char*, const char*> cases[] = {
-      {"Rahu (2)", "2"}, {"a (1 2) b (3 4)", "3 4"}, {"a (1) b (2", "1"}, {"none", ""},
-      {"()", ""},        {"(x", ""},                 {"a) (b)", "b"}};
+      {"Rahu (2)", "2"},   {"a (1 2) b (3 4)", "3 4"},
+      {"a (1) b (2", "1"}, {"none", ""},
+      {"()", ""},          {"(x", ""},
+      {"a) (b)", "b"}};
   for (const auto& [text, inside] : cases) {
     EXPECT_EQ(LastBracketText(text), inside) << text;
   }

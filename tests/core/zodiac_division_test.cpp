@@ -9,12 +9,12 @@
 namespace orvex::core {
 namespace {
 
-const std::vector<DashaLord> kCycle = {{"Ketu", 7},  {"Venus", 20},   {"Sun", 6},
-                                       {"Moon", 10}, {"Mars", 7},     {"Rahu", 18},
+const std::vector<DashaLord> kCycle = {{"Ketu", 7},     {"Venus", 20},  {"Sun", 6},
+                                       {"Moon", 10},    {"Mars", 7},    {"Rahu", 18},
                                        {"Jupiter", 16}, {"Saturn", 19}, {"Mercury", 17}};
-const std::vector<std::string> kSignLords = {"Mars",  "Venus", "Mercury", "Moon",
-                                             "Sun",   "Mercury", "Venus", "Mars",
-                                             "Jupiter", "Saturn", "Saturn", "Jupiter"};
+const std::vector<std::string> kSignLords = {"Mars",    "Venus",   "Mercury", "Moon",
+                                             "Sun",     "Mercury", "Venus",   "Mars",
+                                             "Jupiter", "Saturn",  "Saturn",  "Jupiter"};
 
 // How many rows hold a degree, both borders counted in.
 std::size_t Holding(const TsvTable& table, const char* begin, const char* end, double degree) {
@@ -69,12 +69,12 @@ TEST(ZodiacDivision, PublishedBordersStandWhereTheyShould) {
     const char* end;
     const char* lords;
   } const cases[] = {
-      {1, "0", "0.77999", "Mars/Ketu/Ketu"},              // 0.00 to 0.4640
-      {2, "0.78", "3", "Mars/Ketu/Venus"},                // to 3.00
-      {10, "13.34", "15.55999", "Mars/Venus/Venus"},      // from 13.20
+      {1, "0", "0.77999", "Mars/Ketu/Ketu"},          // 0.00 to 0.4640
+      {2, "0.78", "3", "Mars/Ketu/Venus"},            // to 3.00
+      {10, "13.34", "15.55999", "Mars/Venus/Venus"},  // from 13.20
       {23, "30", "31.22999", "Venus/Sun/Rahu"},
       {84, "120", "120.77999", "Sun/Ketu/Ketu"},
-      {249, "357.89", "360", "Jupiter/Mercury/Saturn"},   // from 357.5320
+      {249, "357.89", "360", "Jupiter/Mercury/Saturn"},  // from 357.5320
   };
   const TsvTable subs = DivideIntoSubs(kCycle, kSignLords);
   for (const auto& c : cases) {
@@ -91,8 +91,8 @@ TEST(ZodiacDivision, PadasRunWithinTheirSigns) {
   ASSERT_EQ(padas.Rows.size(), 108U);
   for (std::size_t i = 0; i < padas.Rows.size(); ++i) {
     const auto& row = padas.Rows[i];
-    EXPECT_EQ(row[0] + row[1] + row[2], std::to_string(i / 4 + 1) + std::to_string(i % 4 + 1) +
-                                            std::to_string(i / 9 + 1));
+    EXPECT_EQ(row[0] + row[1] + row[2],
+              std::to_string(i / 4 + 1) + std::to_string(i % 4 + 1) + std::to_string(i / 9 + 1));
     EXPECT_NEAR(ToDouble(row[5]) - ToDouble(row[3]), 30.0 * static_cast<double>(i / 9), 1e-9);
   }
   EXPECT_EQ(padas.Rows[8][4], "29.99999");
@@ -107,10 +107,10 @@ TEST(ZodiacDivision, TheMonthRunsFromKimstughnaToNaga) {
     const char* tithi;
     const char* karan;
     const char* type;
-  } const cases[] = {{0, "Padyami", "Kimstughna", "S"}, {1, "Padyami", "Bava", "S"},
-                     {7, "Chavithi", "Vishti", "S"},    {8, "Panchimi", "Bava", "S"},
-                     {28, "Purnima", "Vishti", "P"},    {29, "Purnima", "Bava", "P"},
-                     {30, "Padyami", "Balava", "K"},    {56, "Chaturdasi", "Vishti", "K"},
+  } const cases[] = {{0, "Padyami", "Kimstughna", "S"},  {1, "Padyami", "Bava", "S"},
+                     {7, "Chavithi", "Vishti", "S"},     {8, "Panchimi", "Bava", "S"},
+                     {28, "Purnima", "Vishti", "P"},     {29, "Purnima", "Bava", "P"},
+                     {30, "Padyami", "Balava", "K"},     {56, "Chaturdasi", "Vishti", "K"},
                      {57, "Chaturdasi", "Shakuni", "K"}, {58, "Amavasya", "Chatushpada", "A"},
                      {59, "Amavasya", "Naga", "A"}};
   for (const auto& c : cases) {

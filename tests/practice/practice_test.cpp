@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "chart/client_saving.h"
+#include "practice/cities.h"
+#include "practice/client_list.h"
+#include "practice/groups.h"
+#include "practice/zone_clock.h"
+#include "support/test_home.h"
+
+namespace orvex::practice {
+namespace {
+
+class Practice : public testing::Test {
+ protected:
+  void AddClient(const std::string& name, std::int32_t groupId) {
+    chart::ClientForm form = chart::OpenAddClient(*session_);
+    form.FullName = name;
+    EXPECT_FALSE(chart::SaveNewClient(*session_, form, groupId).Refused);
+    home_.Clock.Set(home_.Clock.Now() + std::chrono::seconds(1));
+  }
+
+  std::int64_t Count(const std::string& rows) const {
+    return session_->StoreConnection.Query("Select count(*) as n from " + rows).Integer("n");
+  }
+
+  test::TestHome home_;
+  std::unique_ptr<core::Session> session_ = home_.Start();
+};
+
+TEST_F(Practice, EachCityCheckRefusesInItsTurn) {
+  const CityForm good{"L'Aquila 100%", "Europe/Rome", "-27", "42.35", "13.4"};
+  const std::pair<const char*, std::function<void(CityForm&)>> faults[] = {
+      {"City Name is a mandatory field.", [](CityForm& f) { f.CityName = " "; }},
+      {"City Name cannot exceed 100 characters.",
+       [](CityForm& f) { f.CityName = std::string(101, 'x'); }},
+      {"Please select a Time Zone from the list.", [](CityForm& f) { f.TimeZone = ""; }},
+      {"Latitude is a mandatory field.", [](CityForm& f) { f.Latitude = ""; }},
+      {"Latitude is a numeric field.", [](CityForm& f) { f.Latitude = "north"; }},
+      {"Longitude is a mandatory field.", [](CityForm& f) { f.Longitude = " "; }},
+      {"Longitude is a numeric field.", [](CityForm& f) { f.Longitude = "0x1"; }},
+      {"Please enter a numeric value.", [](CityForm& f) { f.Offset = ""; }},
+      {"Incorrect Offset Value entered.", [](CityForm& f) { f.Offset = "-27.1"; }}};
+  CityForm broken = good;
+  for (auto fault = std::rbegin(faults); fault != std::rend(faults); ++fault) {
+    fault->second(broken);  // with all later faults in it
+    EXPECT_EQ(SaveNewCity(*session_, broken).Refused->Text, fault->first);
+  }
+  EXPECT_EQ(Count("city_master"), 50390);
+  const core::SaveResult saved = SaveNewCity(*session_, good);
+  ASSERT_FALSE(saved.Refused);
+  EXPECT_EQ(SearchCities(*session_, "L'Aquila 1").Rows.at(0).Cells[0].Tag,
+            std::to_string(saved.Id));
+  std::optional<CityForm> edited = OpenEditCity(*session_, saved.Id);
+  ASSERT_TRUE(edited);
+  edited->CityName = "Renamed";
+  edited->TimeZone = "";
+  ASSERT_FALSE(SaveCityChanges(*session_, *edited, saved.Id).Refused);
+  EXPECT_EQ(OpenEditCity(*session_, saved.Id)->TimeZone, "Europe/Rome");
+  EXPECT_FALSE(OpenEditCity(*session_, 999999));
+}
+
+TEST_F(Practice, ACityWithoutItsZoneIsInNoList) {
+  AddClient("Somewhere", 1);
+  EXPECT_EQ(PreviouslyUsedCities(*session_).Rows.size(), 1U);
+  session_->StoreConnection.Execute("Update city_master set timezone = 'No/Where' where id = 19");
+  EXPECT_EQ(LoadCities(*session_).Rows.size(), 50389U);
+  EXPECT_TRUE(SearchCities(*session_, "Dubai").Rows.empty() ||
+              SearchCities(*session_, "Dubai").Rows[0].Cells[0].Tag != "19");
+  EXPECT_TRUE(PreviouslyUsedCities(*session_).Rows.empty());
+  EXPECT_EQ(LoadTimeZones(*session_).Rows.size(),
+            static_cast<std::size_t>(Count("timezone_master")));
+}
+
+TEST_F(Practice, GroupNamesAreCheckedAndTakenOnceInAnyCase) {
+  const std::pair<std::string, const char*> refused[] = {
+      {"  ", "Group Name is a mandatory field."},
+      {std::string(21, 'x'), "Group Name cannot exceed 20 characters."},
+      {"gENERAL", "The Group 'gENERAL' already exists in the database."}};
+  for (const auto& [name, text] : refused) {
+    EXPECT_EQ(AddGroup(*session_, name).Refused->Text, text);
+  }
+  const core::SaveResult added = AddGroup(*session_, " O'Neil's twenty char ");
+  ASSERT_FALSE(added.Refused);
+  EXPECT_EQ(RenameGroup(*session_, 1, "o'neil's TWENTY char").Refused->Text,
+            "The Group 'o'neil's TWENTY char' already exists in the database.");
+  EXPECT_FALSE(RenameGroup(*session_, added.Id, "O'NEIL'S twenty char").Refused);
+  EXPECT_EQ(RenameGroup(*session_, 55, "x").Refused->Text,
+            "The record you are trying to edit could not be retrieved.");
+  EXPECT_EQ(LoadGroups(*session_).Rows.size(), 2U);
+}
+
+TEST_F(Practice, AGroupGoesWithItsClientsAndHandsOnTheInstantCharts) {
+  const std::int32_t other = AddGroup(*session_, "Other").Id;
+  AddClient("Goes", 1);
+  AddClient("Stays", other);
+  session_->State.OpenHoroscopes = {1};
+  EXPECT_EQ(DeleteGroup(*session_, 1).Refused->Text,
+            "Can't delete a Group when one or more Horoscopes are open.");
+  session_->State.OpenHoroscopes.clear();
+  ASSERT_FALSE(DeleteGroup(*session_, 1).Refused);
+  EXPECT_EQ(Count("client_master"), 1);
+  EXPECT_EQ(Count("client_planets"), 9);
+  EXPECT_EQ(session_->State.InstantChartGroupName, "Other");
+  EXPECT_EQ(Count("settings where ICGroupID = " + std::to_string(other)), 1);
+  ASSERT_FALSE(DeleteGroup(*session_, other).Refused);
+  EXPECT_EQ(session_->State.InstantChartGroupId, 0);
+  EXPECT_EQ(Count("settings where ICGroupID = " + std::to_string(other)), 1);
+  EXPECT_EQ(Count("client_planets"), 0);
+}
+
+TEST_F(Practice, TheClientListFollowsTheSortOfTheSettings) {
+  AddClient("b", 1);
+  AddClient("a", 1);
+  EXPECT_EQ(LoadClientsOfGroup(*session_, 1).Rows.at(0).Cells[0].Text, "a");
+  session_->State.SortColumn = core::SortColumnOfCode("CRD");
+  const core::Table list = LoadClientsOfGroup(*session_, std::nullopt);
+  EXPECT_EQ(list.Rows.at(0).Cells[0].Text, "b");
+  EXPECT_EQ(list.At(0, ClientColumn::City).Tooltip, "Lat: 25.07725 | Lon: 55.30927 | Off: 4");
+  EXPECT_EQ(list.At(0, ClientColumn::BirthDate).Text, "24 November 2026");
+  EXPECT_TRUE(LoadClientsOfGroup(*session_, 2).Rows.empty());
+}
+
+TEST(ZoneClock, ClocksOfKnownDates) {
+  struct {
+    const char* zone;
+    const char* local;
+    const char* standard;
+    const char* inForce;
+    ClockReading reading;
+    const char* second;
+  } const cases[] = {
+      {"Asia/Kolkata", "1943-05-05 10:00", "5.5", "6.5", ClockReading::Plain, ""},
+      {"Asia/Kolkata", "1990-07-05 14:30", "5.5", "5.5", ClockReading::Plain, ""},
+      {"America/New_York", "1985-07-10 10:00", "-5", "-4", ClockReading::Plain, ""},
+      {"Europe/London", "1968-12-25 10:00", "1", "1", ClockReading::Plain, ""},
+      {"Europe/London", "1968-07-01 10:00", "0", "1", ClockReading::Plain, ""},
+      {"Asia/Kathmandu", "1980-01-01 10:00", "5.5", "5.5", ClockReading::Plain, ""},
+      {"Asia/Kathmandu", "1990-01-01 10:00", "5.75", "5.75", ClockReading::Plain, ""},
+      {"America/New_York", "2021-03-14 02:30", "-5", "-5", ClockReading::Skipped, "-4"},
+      {"America/New_York", "2021-11-07 01:30", "-5", "-4", ClockReading::Twice, "-5"},
+      {"America/New_York", "2055-07-10 10:00", "-5", "-4", ClockReading::Plain, ""},
+      {"Europe/Berlin", "9999-07-10 10:00", "1", "2", ClockReading::Plain, ""},
+  };
+  for (const auto& c : cases) {
+    const ZoneClock clock = ClocksOf(c.zone, test::Moment(c.local), 0);
+    EXPECT_EQ(OffsetText(clock.StandardOffset), c.standard) << c.zone << c.local;
+    EXPECT_EQ(OffsetText(clock.OffsetInForce), c.inForce) << c.zone << c.local;
+    EXPECT_EQ(clock.Reading, c.reading) << c.zone << c.local;
+    EXPECT_EQ(clock.SecondOffset ? OffsetText(*clock.SecondOffset) : "", c.second);
+    EXPECT_EQ(ReadingText(clock).empty(), c.reading == ClockReading::Plain);
+  }
+}
+
+TEST(ZoneClock, BeforeStandardTimeEveryPlaceKeptItsOwnMeanTime) {
+  const std::pair<double, const char*> cases[] = {
+      {72.88261, "4.8589"}, {88.36, "5.8906"}, {-74.00597, "-4.9336"}, {0, "0"}};
+  for (const auto& [longitude, offset] : cases) {
+    const ZoneClock clock = ClocksOf("Asia/Kolkata", test::Moment("1850-01-01"), longitude);
+    EXPECT_EQ(clock.Reading, ClockReading::LocalMeanTime);
+    EXPECT_EQ(OffsetText(clock.OffsetInForce), offset);
+  }
+  EXPECT_THROW(ClocksOf("Mars/Base", test::Moment("2000-01-01"), 0), ZoneError);
+}
+
+}  // namespace
+}  // namespace orvex::practice
