@@ -55,7 +55,7 @@ void FillHouse(HoroscopeModel& model, std::size_t sign) {
   core::Cell& cell = GridCell(model, GridRow::House, sign);
   cell.Text = core::PaddedWhole(static_cast<int>(sign), 1);
   cell.Bold = true;
-  for (std::size_t row = 0; row < kHouses; ++row) {
+  for (std::size_t row = 0; row < model.HouseTable.Rows.size(); ++row) {
     if (HouseText(model, row, HouseColumn::Rashi) == GridCell(model, GridRow::RashiNo, sign).Tag) {
       cell.Tag = HouseText(model, row, HouseColumn::House);
     }

@@ -111,7 +111,7 @@ void ListPair(HoroscopeModel& model, const core::AspectBandLimits& bands, const 
 // All planets in the order of the houses that hold them.
 std::vector<std::string> CodesByHouse(const HoroscopeModel& model) {
   std::vector<std::string> codes;
-  for (std::size_t row = 0; row < kHouses; ++row) {
+  for (std::size_t row = 0; row < model.HouseTable.Rows.size(); ++row) {
     for (std::string& code : core::SplitWords(HouseText(model, row, HouseColumn::RcPlanets))) {
       codes.push_back(std::move(code));
     }
@@ -123,10 +123,11 @@ std::vector<std::string> CodesByHouse(const HoroscopeModel& model) {
 
 std::string AspectedPlanets(const HoroscopeModel& model, std::size_t houseRow, HouseColumn aspect) {
   const std::optional<std::int64_t> house = core::ParseWhole(HouseText(model, houseRow, aspect));
-  if (!house) {
+  const std::size_t aspected = static_cast<std::size_t>(house.value_or(0)) - 1;
+  if (aspected >= model.HouseTable.Rows.size()) {
     return "";
   }
-  return HouseText(model, static_cast<std::size_t>(*house) - 1, HouseColumn::RcPlanets);
+  return HouseText(model, aspected, HouseColumn::RcPlanets);
 }
 
 std::string AspectedBy(const HoroscopeModel& model, const std::string& code, HouseColumn aspect) {

@@ -51,9 +51,9 @@ bool IsCombust(const std::string& planet, bool retrograde, const std::string& su
 }
 
 void MarkCombust(HoroscopeModel& model) {
-  const std::string& sun = PlanetText(model, RowOf(PlanetPlace::Sun), PlanetColumn::Degree);
   for (std::size_t row = 0; row < model.PlanetTable.Rows.size(); ++row) {
     core::Attempt([&] {
+      const std::string& sun = PlanetText(model, RowOf(PlanetPlace::Sun), PlanetColumn::Degree);
       const bool combust = IsCombust(PlanetText(model, row, PlanetColumn::Planet),
                                      PlanetText(model, row, PlanetColumn::R) == "R", sun,
                                      core::ToSingle(PlanetText(model, row, PlanetColumn::Degree)));

@@ -18,7 +18,7 @@ std::string CodeOfRow(const HoroscopeModel& model, std::size_t row) {
 // The houses that a planet owns by cusp and that hold no planet.
 std::string OwnedEmpties(const HoroscopeModel& model, const std::string& code) {
   std::string houses;
-  for (std::size_t row = 0; row < kHouses; ++row) {
+  for (std::size_t row = 0; row < model.HouseTable.Rows.size(); ++row) {
     if (PlanetCode(HouseText(model, row, HouseColumn::KpChartRashiOwner)) == code &&
         HouseText(model, row, HouseColumn::BcPlanets).empty()) {
       houses += " " + HouseText(model, row, HouseColumn::House);
@@ -31,7 +31,7 @@ std::string OwnedEmpties(const HoroscopeModel& model, const std::string& code) {
 std::string CuspMark(const HoroscopeModel& model, std::size_t planetRow) {
   const float planet = core::ToSingle(PlanetText(model, planetRow, PlanetColumn::Degree)) + 360;
   std::string mark;
-  for (std::size_t row = 0; row < kHouses; ++row) {
+  for (std::size_t row = 0; row < model.HouseTable.Rows.size(); ++row) {
     core::Attempt([&] {
       const float cusp = core::ToSingle(HouseText(model, row, HouseColumn::CuspDegree)) + 360;
       if (cusp - kCuspOrb < planet && planet < cusp + kCuspOrb) {

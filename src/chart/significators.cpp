@@ -32,9 +32,10 @@ void AppendOnce(std::string& text, const std::string& code) {
 
 void AddOccupantAndOwner(const HoroscopeModel& model, std::size_t row, HouseTexts& texts) {
   const std::string code = CodeOfRow(model, row);
-  Append(texts.at(HouseIndex(PlanetText(model, row, PlanetColumn::In))), code);
+  core::Attempt(
+      [&] { Append(texts.at(HouseIndex(PlanetText(model, row, PlanetColumn::In))), code); });
   for (const std::string& house : core::SplitWords(PlanetText(model, row, PlanetColumn::Owner))) {
-    AppendOnce(texts.at(HouseIndex(house)), code);
+    core::Attempt([&] { AppendOnce(texts.at(HouseIndex(house)), code); });
   }
 }
 
@@ -204,7 +205,7 @@ void FillLevels(HoroscopeModel& model, std::size_t row) {
 void CuspSignificators(HoroscopeModel& model) {
   HouseTexts texts;
   for (std::size_t row = 0; row < model.PlanetTable.Rows.size(); ++row) {
-    core::Attempt([&] { AddOccupantAndOwner(model, row, texts); });
+    AddOccupantAndOwner(model, row, texts);
   }
   for (std::size_t row = 0; row < model.PlanetTable.Rows.size(); ++row) {
     core::Attempt([&] { AddByStarLord(model, row, texts); });

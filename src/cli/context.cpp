@@ -31,7 +31,7 @@ std::filesystem::path HomeFolder(const std::string& option) {
   if (const std::string home = Environment("ORVEX_HOME"); !home.empty()) {
     return home;
   }
-  const std::filesystem::path program = core::ProgramFolder();
+  std::filesystem::path program = core::ProgramFolder();
   std::error_code error;
   if (std::filesystem::is_directory(program / "Data", error)) {
     return program;

@@ -36,12 +36,8 @@ int Run(CLI::App& app, int argc, char** argv) {
   }
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  // Whatever the program makes holds private data.
-  ::umask(S_IRWXG | S_IRWXO);
-
+// Sets up the commands and runs the call.
+int RunProgram(int argc, char** argv) {
   Context context;
   CLI::App app("Orvex+ at the command line: charts and client records without a window",
                "orvex-cli");
@@ -65,4 +61,17 @@ int main(int argc, char** argv) {
                  "analytical ephemeris.\n";
   }
   return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // Whatever the program makes holds private data.
+  ::umask(S_IRWXG | S_IRWXO);
+  try {
+    return RunProgram(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << "\n";
+    return kFailed;
+  }
 }
