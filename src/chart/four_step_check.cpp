@@ -142,11 +142,15 @@ void FourStepCheck(HoroscopeModel& model, const std::string& planetName, std::si
         WithAgent(model, PlanetCode(PlanetText(model, *planet, PlanetColumn::StarLord)));
   });
   const std::string sub = PlanetCode(PlanetText(model, *planet, PlanetColumn::SubLord));
-  const std::size_t subRow = RowOfCode(model, sub).value();
-  step(FourStepColumn::Step3) =
-      sub + (GivesItself(model, subRow) ? " (" + SigOf(model, sub).Text + ")" : "");
-  step(FourStepColumn::Step4) =
-      WithAgent(model, PlanetCode(PlanetText(model, subRow, PlanetColumn::StarLord)));
+  step(FourStepColumn::Step3) = sub;
+  core::Attempt([&] {
+    const std::size_t subRow = RowOfCode(model, sub).value();
+    if (GivesItself(model, subRow)) {
+      step(FourStepColumn::Step3) += " (" + SigOf(model, sub).Text + ")";
+    }
+    step(FourStepColumn::Step4) =
+        WithAgent(model, PlanetCode(PlanetText(model, subRow, PlanetColumn::StarLord)));
+  });
 }
 
 }  // namespace orvex::chart
