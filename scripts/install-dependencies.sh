@@ -10,7 +10,7 @@ packages=(
   libhowardhinnant-date-dev tzdata
   libgtest-dev libgmock-dev libbenchmark-dev python3
 )
-development=(clang-format-14 clang-tidy-14 clang-tools-14)
+development=(clang-format-14 clang-tidy-14 clang-tools-14 locales)
 if [ "${1:-}" = "--dev" ]; then packages+=("${development[@]}"); fi
 
 missing=()

@@ -72,7 +72,7 @@ void RotatePlanet(core::Table& planets, std::size_t row, int first) {
 }
 
 std::string RotatedTitle(const std::string& title, int house) {
-  return title + " (Rotated to " + WholeText(house) + core::OrdinalSuffix(house) + " House)";
+  return title + " (Rotated to " + WholeText(house) + ")";
 }
 
 }  // namespace

@@ -16,6 +16,8 @@ struct CityOptions {
   std::string Moment;
   practice::CityForm Form;
   std::string Longitude;
+  const CLI::Option* OffsetOption = nullptr;     // --offset, to tell an empty text from none
+  const CLI::Option* LongitudeOption = nullptr;  // --longitude, likewise
 };
 
 void RunList(Context& context, const CityOptions& options) {
@@ -30,8 +32,11 @@ void RunList(Context& context, const CityOptions& options) {
 
 void RunAdd(Context& context, const CityOptions& options) {
   core::Session& session = context.Writing();
+  if (!practice::OpenAddCity(session)) {
+    throw CommandFailed("");
+  }
   practice::CityForm form = options.Form;
-  if (form.Offset.empty()) {
+  if (options.OffsetOption->empty()) {
     form.Offset = practice::OffsetOfZone(session, form.TimeZone).value_or("");
   }
   PrintId(Context::Saved(practice::SaveNewCity(session, form)), context.Json);
@@ -50,7 +55,8 @@ void RunOffset(Context& context, const CityOptions& options) {
   }
   const core::DateTime moment = MomentOption("MOMENT", options.Moment);
   const double longitude = NumberOption(
-      "--longitude", options.Longitude.empty() ? city->Longitude : options.Longitude, -180, 180);
+      "--longitude", options.LongitudeOption->empty() ? city->Longitude : options.Longitude, -180,
+      180);
   const practice::ZoneClock clock = practice::ClocksOf(city->TimeZone, moment, longitude);
   const core::Table table{{{"City"},
                            {"Zone"},
@@ -100,14 +106,15 @@ void AddCityCommands(CLI::App& app, Context& context) {
   addCommand->add_option("--timezone", form.TimeZone, "zone, as Asia/Kolkata")->required();
   addCommand->add_option("--latitude", form.Latitude, "degrees north")->required();
   addCommand->add_option("--longitude", form.Longitude, "degrees east")->required();
-  addCommand->add_option("--offset", form.Offset, "hours east of Greenwich; else the zone's");
+  addOptions->OffsetOption =
+      addCommand->add_option("--offset", form.Offset, "hours east of Greenwich; else the zone's");
 
   const auto [offsetCommand, offsetOptions] =
       add("offset", "what the clocks of a city showed on a date", RunOffset);
   offsetCommand->add_option("ID", offsetOptions->Id, "id of the city")->required();
   offsetCommand->add_option("MOMENT", offsetOptions->Moment, "YYYY-MM-DD HH:MM")->required();
-  offsetCommand->add_option("--longitude", offsetOptions->Longitude,
-                            "degrees east of the birthplace; else the city's");
+  offsetOptions->LongitudeOption = offsetCommand->add_option(
+      "--longitude", offsetOptions->Longitude, "degrees east of the birthplace; else the city's");
 }
 
 }  // namespace orvex::cli

@@ -70,11 +70,12 @@ double NumberOption(const std::string& name, const std::string& text, double low
 CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                      std::function<void()> run);
 
-void AddStoreCommands(CLI::App& app, Context& context);      // init
-void AddCityCommands(CLI::App& app, Context& context);       // city
-void AddGroupCommands(CLI::App& app, Context& context);      // group
-void AddClientCommands(CLI::App& app, Context& context);     // client
-void AddChartCommands(CLI::App& app, Context& context);      // chart, sun
-void AddHoroscopeCommands(CLI::App& app, Context& context);  // horoscope, rectify
+void AddStoreCommands(CLI::App& app, Context& context);       // init
+void AddCityCommands(CLI::App& app, Context& context);        // city
+void AddGroupCommands(CLI::App& app, Context& context);       // group
+void AddClientCommands(CLI::App& app, Context& context);      // client
+void AddChartCommands(CLI::App& app, Context& context);       // chart, sun
+void AddHoroscopeCommands(CLI::App& app, Context& context);   // horoscope, rectify
+void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
 
 }  // namespace orvex::cli

@@ -30,7 +30,7 @@ void RunRename(Context& context, const GroupOptions& options) {
 void RunDelete(Context& context, const GroupOptions& options) {
   const std::int32_t id = WholeOption("ID", options.Id);
   if (!options.Yes) {
-    throw CommandFailed(std::string(practice::kDeleteGroupQuestion) + " (--yes)");
+    throw CommandFailed(practice::kDeleteGroupQuestion);
   }
   PrintId(Context::Saved(practice::DeleteGroup(context.Writing(), id)), context.Json);
 }

@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "chart/aspects.h"
+#include "cli/chart_style.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
@@ -38,22 +39,18 @@ std::int32_t OptionWithin(const std::string& name, const std::string& text, int 
 
 horoscope::OpenedHoroscope Open(Context& context, const HoroscopeOptions& options) {
   core::Session& session = context.Reading();
-  std::optional<horoscope::OpenedHoroscope> opened =
-      horoscope::CreateHoroscope(session, WholeOption("ID", options.Id));
-  if (!opened) {
-    throw CommandFailed("There is no client with that id.");
-  }
+  horoscope::OpenedHoroscope opened = OpenHoroscope(context, options.Id);
   if (!options.Rotate.empty()) {
-    horoscope::RotateNow(session, *opened, OptionWithin("--rotate", options.Rotate, 1, 12));
+    horoscope::RotateNow(session, opened, OptionWithin("--rotate", options.Rotate, 1, 12));
   }
   if (!options.Aspects.empty()) {
-    chart::LoadPlanetAspects(opened->Model, session.State.AspectBands,
+    chart::LoadPlanetAspects(opened.Model, session.State.AspectBands,
                              AspectFilter(options.Aspects));
   }
   if (!options.Year.empty()) {
-    horoscope::ShowYear(*opened, OptionWithin("--year", options.Year, 1, 120));
+    horoscope::ShowYear(opened, OptionWithin("--year", options.Year, 1, 120));
   }
-  return std::move(*opened);
+  return opened;
 }
 
 Json HoroscopeJson(const chart::HoroscopeModel& model) {
@@ -108,7 +105,7 @@ struct RectifyOptions {
 };
 
 void RunRectify(Context& context, const RectifyOptions& options) {
-  const horoscope::OpenedHoroscope opened = Open(context, {options.Id, "", "", ""});
+  const horoscope::OpenedHoroscope opened = OpenHoroscope(context, options.Id);
   horoscope::RecalculationForm form = horoscope::OpenRecalculation(opened.Model);
   form.Offset = options.Offset.value_or(form.Offset);
   form.Latitude = options.Latitude.value_or(form.Latitude);

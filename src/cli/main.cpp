@@ -54,6 +54,7 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddClientCommands(app, context);
   orvex::cli::AddChartCommands(app, context);
   orvex::cli::AddHoroscopeCommands(app, context);
+  orvex::cli::AddDivisionalCommands(app, context);
 
   const int status = Run(app, argc, argv);
   if (context.EphemerisFellBack()) {

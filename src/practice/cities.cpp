@@ -100,6 +100,16 @@ std::optional<std::string> OffsetOfZone(const core::Session& session, const std:
   return row.AtEnd() ? std::nullopt : std::optional(row.Text("offset"));
 }
 
+std::optional<core::Table> OpenAddCity(core::Session& session) {
+  core::Table zones = LoadTimeZones(session);
+  if (zones.Rows.empty()) {
+    session.Shown.ShowMessage("Cannot add a City.", core::MessageButtons::Ok,
+                              core::MessageIcon::Stop);
+    return std::nullopt;
+  }
+  return zones;
+}
+
 std::optional<CityForm> OpenEditCity(core::Session& session, std::int32_t cityId) {
   const core::Result city =
       session.StoreConnection.Query("Select * from city_master where id = " + WholeText(cityId));

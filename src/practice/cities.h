@@ -36,6 +36,9 @@ struct CityForm {
 // The offset of a zone as the dialog takes it from the list; nothing for an unknown zone.
 std::optional<std::string> OffsetOfZone(const core::Session& session, const std::string& zone);
 
+// The zones that a new city may have; nothing where there are none, after the program's message.
+std::optional<core::Table> OpenAddCity(core::Session& session);
+
 // The form of a stored city; nothing where it is gone, after the program's message.
 std::optional<CityForm> OpenEditCity(core::Session& session, std::int32_t cityId);
 

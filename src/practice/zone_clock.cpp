@@ -2,6 +2,8 @@
 
 #include <date/tz.h>
 
+#include <algorithm>
+
 #include "core/exact_numbers.h"
 
 namespace orvex::practice {
@@ -24,32 +26,58 @@ const date::time_zone& FindZone(const std::string& zone) {
   }
 }
 
-// The zone files end with 2037; a later year is read as one of the same shape before.
+// The zone files end with 2037; a later day is read as the last day before of the same date and
+// weekday, so that the rules in force now hold for it. 29 February goes with the day before.
 core::DateTime WithinKnownYears(core::DateTime local) {
   constexpr int kLastKnownYear = 2037;
+  constexpr int kFebruary = 2;
+  constexpr int kLastSureDay = 28;
   core::DateParts parts = core::PartsOf(local);
   if (parts.Year <= kLastKnownYear) {
     return local;
   }
-  const auto shapeOf = [](int year) {
-    const auto firstDay = core::MakeDateTime({year, 1, 1}).value();
-    return std::pair(core::WeekdayNumber(firstDay), std::chrono::year(year).is_leap());
-  };
-  const auto shape = shapeOf(parts.Year);
+  if (parts.Month == kFebruary) {
+    parts.Day = std::min(parts.Day, kLastSureDay);
+  }
+  const int weekday = core::WeekdayNumber(core::MakeDateTime(parts).value());
   parts.Year = kLastKnownYear;
-  while (shapeOf(parts.Year) != shape) {
+  while (core::WeekdayNumber(core::MakeDateTime(parts).value()) != weekday) {
     --parts.Year;
   }
   return core::MakeDateTime(parts).value();
 }
 
-// The offset without summer time: that of the nearest time before which had none.
-double StandardOffset(const date::time_zone& zone, date::sys_info info) {
+bool IsSummerTime(const date::sys_info& period) { return period.save.count() != 0; }
+
+// The offset without summer time. The zone files say that a period is summer time, not by how much,
+// so its neighbours tell. A zone may take another standard time as summer time begins or ends:
+// a standard neighbour just one hour behind goes before the nearest one that differs at all.
+std::chrono::seconds StandardOffset(const date::time_zone& zone, const date::sys_info& inForce) {
   constexpr int kMostChanges = 20;
-  for (int i = 0; info.save.count() != 0 && i < kMostChanges; ++i) {
-    info = zone.get_info(info.begin - std::chrono::seconds(1));
+  constexpr std::chrono::hours kUsualSave(1);
+  constexpr std::chrono::hours kLargestSave(2);
+  if (!IsSummerTime(inForce)) {
+    return inForce.offset;
   }
-  return HoursOf(info.offset);
+  const auto saveOver = [&inForce](const date::sys_info& near) {
+    const bool standard = !IsSummerTime(near) && near.abbrev != kMeanTime;
+    return standard ? inForce.offset - near.offset : std::chrono::seconds(0);
+  };
+  date::sys_info after = zone.get_info(inForce.end);
+  date::sys_info before = zone.get_info(inForce.begin - std::chrono::seconds(1));
+  if (saveOver(after) == kUsualSave || saveOver(before) == kUsualSave) {
+    return inForce.offset - kUsualSave;
+  }
+  for (int i = 0; i < kMostChanges; ++i) {
+    for (const std::chrono::seconds save : {saveOver(after), saveOver(before)}) {
+      if (save.count() != 0 && std::chrono::abs(save) <= kLargestSave) {
+        return inForce.offset - save;
+      }
+    }
+    after = IsSummerTime(after) ? zone.get_info(after.end) : after;
+    before = IsSummerTime(before) ? zone.get_info(before.begin - std::chrono::seconds(1)) : before;
+  }
+  return inForce.offset - kUsualSave;
 }
 
 ZoneClock MeanTimeClock(double longitude) {
@@ -68,7 +96,7 @@ ZoneClock ClocksOf(const std::string& zone, core::DateTime local, double longitu
     return MeanTimeClock(longitude);
   }
   ZoneClock clock;
-  clock.StandardOffset = StandardOffset(known, info.first);
+  clock.StandardOffset = HoursOf(StandardOffset(known, info.first));
   clock.OffsetInForce = HoursOf(info.first.offset);
   clock.Abbreviation = info.first.abbrev;
   if (info.result != date::local_info::unique) {

@@ -34,7 +34,7 @@ struct ZoneClock {
 
 // The clocks of a zone ("Asia/Kolkata") at a local wall-clock moment. Before the zone's first
 // standard time every place kept its own mean time: both offsets are then that of `longitude`
-// (degrees east), to the second. Years after 2037 follow the rule of the last known year.
+// (degrees east), to the second. Years after 2037 follow the rules of the last known years.
 ZoneClock ClocksOf(const std::string& zone, core::DateTime local, double longitude);
 
 // An offset as it is entered: "5.5", "-3.5", at most four decimals.

@@ -111,10 +111,11 @@ TEST(PlanetAspects, NodesAreAspectedAndNeverAspect) {
 
 TEST(PlanetAspects, OverlappingBandsAreTriedInOrderAndComparedInSinglePrecision) {
   core::AspectBandLimits wide = core::DefaultAspectBands();
-  wide[0] = {20, 40};  // 30
+  wide[0] = {0, 40};   // 30
   wide[3] = {35, 55};  // 45
   wide[1] = {50, 63};  // 60
   wide[4] = {90, 90};  // an orb of 0
+  wide[7] = {350, 360};
   struct {
     const char* sun;
     const char* moon;
@@ -125,6 +126,7 @@ TEST(PlanetAspects, OverlappingBandsAreTriedInOrderAndComparedInSinglePrecision)
                      {"0.00", "90.00", {"SU-MO 90.00-"}},
                      {"0.00", "90.01", {}},
                      {"0.00", "89.99", {}},
+                     {"10.00", "10.00", {}},               // no aspect whatever the bands
                      {"1.04", "64.04", {"SU-MO 63.00+"}},  // above 63 in double precision
                      {"1.05", "64.05", {}}};               // above 63 in single precision only
   for (const auto& c : cases) {

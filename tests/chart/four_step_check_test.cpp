@@ -26,6 +26,24 @@ TEST(FourStepTable, APlanetGivesItsHouseAndTheEmptyHousesItOwns) {
   }
 }
 
+TEST(FourStepTable, AHouseIsEmptyByItsCuspsNotByTheSigns) {
+  struct {
+    const char* mercury;
+    int house;
+    const char* sun;
+    int sunHouse;
+    const char* sig;
+  } const cases[] = {{"70.00", 2, "160.00", 5, "2 3 6"},  // signs of both houses hold planets
+                     {"20.00", 3, "10.00", 1, "3 6"},     // it stands in its own house
+                     {"20.00", 1, "10.00", 6, "1 3"}};
+  for (const auto& c : cases) {
+    HoroscopeModel model =
+        test::BuildModel({{"Mercury", c.mercury, c.house}, {"Sun", c.sun, c.sunHouse}});
+    BuildFourStep(model, 'A');
+    EXPECT_EQ(model.FourStepTable.At(0, SignificationColumn::Sig).Text, c.sig);
+  }
+}
+
 TEST(FourStepTable, TheMarkIsTheLastCuspNearerThan5DegreesAndDoesNotWrap) {
   struct {
     const char* planet;

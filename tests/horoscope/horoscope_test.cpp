@@ -186,7 +186,7 @@ TEST_F(Horoscope, ARotatedRowIsTheOneSoManyHousesOn) {
     EXPECT_EQ(opened.Model.CuspTable.At(row, chart::CuspColumn::Degree).Text,
               cusps.At(source, chart::CuspColumn::Degree).Text);
   }
-  EXPECT_EQ(opened.Model.Captions.Title, "Horoscope for Client (Rotated to 4th House)");
+  EXPECT_EQ(opened.Model.Captions.Title, "Horoscope for Client (Rotated to 4)");
   // From the first house the signs stand in the order of the zodiac.
   RotateNow(*session_, opened, 1);
   for (std::size_t row = 0; row < 12; ++row) {

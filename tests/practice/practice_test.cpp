@@ -61,6 +61,43 @@ TEST_F(Practice, EachCityCheckRefusesInItsTurn) {
   EXPECT_FALSE(OpenEditCity(*session_, 999999));
 }
 
+TEST_F(Practice, TheFarthestOffsetsAreTakenAndWildcardsSearchAsTyped) {
+  for (const char* offset : {"27", "-27"}) {
+    const CityForm form{"Far 100% east", "Europe/Rome", offset, "1e3", "-.5"};  // no range test
+    const core::SaveResult saved = SaveNewCity(*session_, form);
+    ASSERT_FALSE(saved.Refused) << offset;
+    EXPECT_EQ(OpenEditCity(*session_, saved.Id)->Offset, offset);
+  }
+  EXPECT_EQ(SearchCities(*session_, "far 1%EAST").Rows.size(), 2U);
+  EXPECT_TRUE(SearchCities(*session_, "%' or 'a' like '").Rows.empty());
+}
+
+TEST_F(Practice, AStoreThatRefusesTheWriteIsReported) {
+  const CityForm city{"City", "Europe/Rome", "1", "1", "1"};
+  for (const char* event :
+       {"insert on city_master", "update on city_master", "insert on group_master",
+        "update on group_master", "delete on group_master"}) {
+    session_->StoreConnection.ExecuteScript(std::string("create trigger \"refuse ") + event +
+                                            "\" before " + event +
+                                            " begin select raise(abort, 'refused'); end");
+  }
+  const core::SaveResult results[] = {
+      SaveNewCity(*session_, city), SaveCityChanges(*session_, city, 19),
+      AddGroup(*session_, "New"), RenameGroup(*session_, 1, "New"), DeleteGroup(*session_, 1)};
+  for (const core::SaveResult& result : results) {
+    ASSERT_TRUE(result.Refused);
+    EXPECT_EQ(result.Refused->Text, "Could not update database.");
+  }
+  EXPECT_EQ(LoadGroups(*session_).Rows.at(0).Cells[0].Text, "General");
+}
+
+TEST_F(Practice, NoCityIsAddedWithoutZones) {
+  EXPECT_TRUE(OpenAddCity(*session_));
+  session_->StoreConnection.Execute("Delete from timezone_master");
+  EXPECT_FALSE(OpenAddCity(*session_));
+  EXPECT_EQ(home_.Messages.All().back().Text, "Cannot add a City.");
+}
+
 TEST_F(Practice, ACityWithoutItsZoneIsInNoList) {
   AddClient("Somewhere", 1);
   EXPECT_EQ(PreviouslyUsedCities(*session_).Rows.size(), 1U);
@@ -140,6 +177,14 @@ TEST(ZoneClock, ClocksOfKnownDates) {
       {"Asia/Kathmandu", "1990-01-01 10:00", "5.75", "5.75", ClockReading::Plain, ""},
       {"America/New_York", "2021-03-14 02:30", "-5", "-5", ClockReading::Skipped, "-4"},
       {"America/New_York", "2021-11-07 01:30", "-5", "-4", ClockReading::Twice, "-5"},
+      {"Europe/London", "1947-06-01 10:00", "0", "2", ClockReading::Plain, ""},
+      {"Europe/Moscow", "1991-07-01 10:00", "2", "3", ClockReading::Plain, ""},
+      {"Europe/Paris", "1941-07-01 10:00", "1", "2", ClockReading::Plain, ""},
+      {"America/Indiana/Tell_City", "1969-07-27 10:00", "-5", "-4", ClockReading::Plain, ""},
+      {"Australia/Lord_Howe", "2020-01-01 10:00", "10.5", "11", ClockReading::Plain, ""},
+      {"Europe/Moscow", "2040-02-29 10:00", "3", "3", ClockReading::Plain, ""},
+      {"Europe/Istanbul", "2040-01-15 10:00", "3", "3", ClockReading::Plain, ""},
+      {"America/New_York", "2040-03-11 02:30", "-5", "-5", ClockReading::Skipped, "-4"},
       {"America/New_York", "2055-07-10 10:00", "-5", "-4", ClockReading::Plain, ""},
       {"Europe/Berlin", "9999-07-10 10:00", "1", "2", ClockReading::Plain, ""},
   };
