@@ -105,6 +105,7 @@ void FillDegree(const PlanetFill& fill) {
   core::Cell& cell = fill.Cell(PlanetColumn::Degree);
   cell.Text = fill.Degree();
   cell.Tag = cell.Text;
+  cell.Tooltip = cell.Text;
   cell.SortKey = cell.Text;
   const double within = fill.Planet.Degree > kLastOfAries
                             ? fill.Planet.Degree - (fill.Rashi() - 1) * kSignDegrees

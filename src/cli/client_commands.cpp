@@ -7,6 +7,7 @@
 #include "cli/output.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "horoscope/client_facts.h"
 #include "practice/client_list.h"
 
 namespace orvex::cli {
@@ -156,7 +157,7 @@ void RunEdit(Context& context, const ClientOptions& options) {
 Json RowJson(const core::Result& row) {
   Json json = Json::object();
   for (const std::string& field : row.FieldNames()) {
-    json[field] = row.Text(field);
+    json[horoscope::ClientColumnName(field)] = row.Text(field);
   }
   return json;
 }
@@ -212,7 +213,7 @@ void PrintClient(const core::Result& client) {
   core::Table table{{{"Field"}, {"Value"}}, {}};
   for (const std::string& field : client.FieldNames()) {
     if (!core::LowerCase(field).starts_with("cuspdegree")) {
-      table.Rows.push_back({{{field}, {client.Text(field)}}});
+      table.Rows.push_back({{{horoscope::ClientColumnName(field)}, {client.Text(field)}}});
     }
   }
   PrintTable(table);

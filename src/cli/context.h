@@ -44,6 +44,9 @@ class Context {
   // Whether a computation found no ephemeris files.
   bool EphemerisFellBack() const { return ephemeris_.FellBack(); }
 
+  // Whether the ephemeris had no position for a moment.
+  bool EphemerisFailed() const { return ephemeris_.Failed(); }
+
  private:
   core::Session& Open(core::StartMode mode);
 

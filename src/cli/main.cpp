@@ -61,6 +61,10 @@ int RunProgram(int argc, char** argv) {
     std::cerr << "The Swiss Ephemeris files were not found; positions come from the library's own "
                  "analytical ephemeris.\n";
   }
+  if (context.EphemerisFailed()) {
+    std::cerr << "The Swiss Ephemeris has no positions for this date; the chart is not to be "
+                 "trusted.\n";
+  }
   return status;
 }
 

@@ -24,6 +24,10 @@ std::string NodeCaption(const chart::HoroscopeModel& model, PlanetPlace node, co
 
 }  // namespace
 
+std::string ClientColumnName(const std::string& field) {
+  return core::LowerCase(field).starts_with("cuspdegree") ? field : core::LowerCase(field);
+}
+
 bool TakeClient(const core::Session& session, std::int32_t clientId, chart::HoroscopeModel& model,
                 std::array<std::string, chart::kHouses>& cuspDegrees) {
   const core::Result row = session.StoreConnection.Query(
@@ -34,7 +38,7 @@ bool TakeClient(const core::Session& session, std::int32_t clientId, chart::Horo
     return false;
   }
   for (const std::string& field : row.FieldNames()) {
-    model.Client.emplace_back(core::LowerCase(field), row.Text(field));
+    model.Client.emplace_back(ClientColumnName(field), row.Text(field));
   }
   model.ClientId = clientId;
   model.Horary = row.Flag("horary");

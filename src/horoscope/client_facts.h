@@ -15,6 +15,9 @@ namespace orvex::horoscope {
 bool TakeClient(const core::Session& session, std::int32_t clientId, chart::HoroscopeModel& model,
                 std::array<std::string, chart::kHouses>& cuspDegrees);
 
+// A column of the client's row as the record names it: lower case but for "CuspDegree1" to 12.
+std::string ClientColumnName(const std::string& field);
+
 // Sunrise and sunset of the birth date at the birth place; overwrites those of the session.
 void WriteSunTimes(core::Session& session, chart::HoroscopeModel& model);
 

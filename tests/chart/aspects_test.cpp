@@ -171,6 +171,18 @@ TEST(HouseAspects, CaptionsNameThePlanetsOfBothHouses) {
   }
 }
 
+TEST(HouseAspects, AHouseNumberThatIsNoneAspectsNobody) {
+  HoroscopeModel model = test::WorkedModel();
+  const std::pair<const char*, const char*> cases[] = {{"4", "SU ME"}, {"1", "RA"}, {"", ""},
+                                                       {"0", ""},      {"13", ""},  {"-1", ""}};
+  for (const auto& [house, planets] : cases) {
+    model.HouseTable.At(6, HouseColumn::Asp10).Text = house;
+    EXPECT_EQ(AspectedPlanets(model, 6, HouseColumn::Asp10), planets) << house;
+    EXPECT_EQ(AspectedBy(model, "KE", HouseColumn::Asp10), planets) << house;
+  }
+  EXPECT_EQ(AspectedBy(model, "XX", HouseColumn::Asp7), "");
+}
+
 TEST(Aspects, MissingPlanetsAndHousesCostOnlyTheirOwnRows) {
   HoroscopeModel model = test::WorkedModel();
   model.PlanetTable.At(RowOf(PlanetPlace::Venus), PlanetColumn::Degree).Tag.clear();

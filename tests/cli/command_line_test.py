@@ -112,6 +112,16 @@ class CommandLine(unittest.TestCase):
         texts = [cell["text"] for cell in row["rows"][0]["cells"]]
         self.assertEqual(texts[:5], ["Mumbai", "Asia/Kolkata", "1943-05-05 10:00:00", "5.5", "6.5"])
 
+    def test_a_sky_without_its_files_or_beyond_them_is_told_of_once(self):
+        self.environment["SE_EPHE_PATH"] = "/nowhere"
+        status, out, err = self.call(*CHART, "--json")
+        self.assertEqual((status, len(json.loads(out)["planets"])), (0, 9))
+        self.assertEqual(err.count("were not found"), 1)
+        del self.environment["SE_EPHE_PATH"]
+        status, _, err = self.call("chart", "--birth", "9999-01-01 00:00", "--offset", "0",
+                                   "--latitude", "0", "--longitude", "0")
+        self.assertEqual((status, err.count("no positions for this date")), (0, 1))
+
     def test_a_negative_number_is_a_value_and_not_an_option(self):
         chart = json.loads(self.succeed("chart", "--birth", "1990-07-05 14:30", "--offset", "-5",
                                         "--latitude", "-33.5", "--longitude", "-74.00597", "--json"))
