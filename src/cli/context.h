@@ -79,6 +79,8 @@ void AddGroupCommands(CLI::App& app, Context& context);       // group
 void AddClientCommands(CLI::App& app, Context& context);      // client
 void AddChartCommands(CLI::App& app, Context& context);       // chart, sun
 void AddHoroscopeCommands(CLI::App& app, Context& context);   // horoscope, rectify
+void AddChartsCommands(CLI::App& app, Context& context);      // charts
+void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
 
 }  // namespace orvex::cli

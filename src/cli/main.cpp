@@ -55,6 +55,8 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddChartCommands(app, context);
   orvex::cli::AddHoroscopeCommands(app, context);
   orvex::cli::AddDivisionalCommands(app, context);
+  orvex::cli::AddChartsCommands(app, context);
+  orvex::cli::AddRemedyCommands(app, context);
 
   const int status = Run(app, argc, argv);
   if (context.EphemerisFellBack()) {

@@ -16,20 +16,6 @@ void AddIfAny(Json& object, const char* name, const std::string& text) {
   }
 }
 
-Json CellJson(const core::Cell& cell) {
-  Json json = {{"text", cell.Text}};
-  AddIfAny(json, "tag", cell.Tag);
-  AddIfAny(json, "tooltip", cell.Tooltip);
-  if (cell.Background != core::kNeutralColor) {
-    AddIfAny(json, "background", cell.Background);
-  }
-  AddIfAny(json, "color", cell.Foreground);
-  if (cell.Bold) {
-    json["bold"] = true;
-  }
-  return json;
-}
-
 Json ColumnJson(const core::Column& column) {
   Json json = {{"caption", column.Caption}};
   if (column.Width != core::Column::kNoWidth) {
@@ -66,6 +52,20 @@ std::string Padded(const std::string& text, std::size_t width) {
 }
 
 }  // namespace
+
+Json CellJson(const core::Cell& cell) {
+  Json json = {{"text", cell.Text}};
+  AddIfAny(json, "tag", cell.Tag);
+  AddIfAny(json, "tooltip", cell.Tooltip);
+  if (cell.Background != core::kNeutralColor) {
+    AddIfAny(json, "background", cell.Background);
+  }
+  AddIfAny(json, "color", cell.Foreground);
+  if (cell.Bold) {
+    json["bold"] = true;
+  }
+  return json;
+}
 
 Json TableJson(const core::Table& table) {
   Json json = {{"columns", Json::array()}, {"rows", Json::array()}};

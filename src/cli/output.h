@@ -11,6 +11,9 @@ namespace orvex::cli {
 
 using Json = nlohmann::ordered_json;
 
+// A cell as interchange: its text and what else it has.
+Json CellJson(const core::Cell& cell);
+
 // A table as interchange: columns with captions, rows of cells; what a cell or row has not is left
 // out, the neutral background too.
 Json TableJson(const core::Table& table);

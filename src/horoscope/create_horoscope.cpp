@@ -19,6 +19,7 @@
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
 #include "horoscope/client_facts.h"
+#include "practice/remedies.h"
 #include "vedic/ashtakavarga.h"
 #include "vedic/birth_star.h"
 #include "vedic/bnn.h"
@@ -112,6 +113,7 @@ void Assemble(core::Session& session, HoroscopeModel& model,
   Attempt([&] { chart::ShowDBA(session, model); });
   Attempt([&] { chart::WriteCurrentDba(model); });
   model.Captions.RunningYear = core::PaddedWhole(model.RunningYear, 1);
+  Attempt([&] { model.RemedyTable = practice::LoadRemedies(session, model.ClientId); });
 }
 
 }  // namespace

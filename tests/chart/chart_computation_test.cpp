@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
 #include "chart/cusps_from_ascendant.h"
@@ -67,25 +68,48 @@ TEST_F(ChartComputation, EveryHoraryNumberRisesInItsOwnSub) {
       const ChartResult chart = ComputeChart(*session_, input);
       ASSERT_EQ(chart.Cusps.size(), 12U);
       const double ascendant = core::ToDouble(chart.Cusps[0].DegStart);
-      // The target of the last subs before the wrap of the tropical circle has no bracket: the
-      // search then stays at its starting value.
       const core::SubRow& sub = SubOfDegree(session_->Reference, ascendant);
       EXPECT_EQ(sub.AscNo, number) << latitude << ": " << ascendant;
     }
   }
 }
 
-TEST_F(ChartComputation, ATargetInsideTheJumpOfTheAscendantFallsBackToTheStart) {
-  // No ARMC gives an Ascendant between the last one before 360 and 360 itself.
+// At a meridian of 270 degrees 0 degrees Aries rises at every latitude. The last thousandth of a
+// degree before it brackets nothing, as the next Ascendant of the table is near 0 and not above.
+TEST_F(ChartComputation, ATargetInsideTheJumpOfTheAscendantGetsTheHousesOfMeridianZero) {
   astro::EphemerisGateway& gateway = session_->Ephemeris;
   const auto moment = gateway.PrepareMoment(test::Moment("2026-11-24 10:00"));
   const double obliquity = gateway.Obliquity(moment.JulianDayUT);
-  const astro::Cusps found =
-      CuspsFromAscendant(gateway, moment.JulianDayUT, 335.9299999, 28.6, kFixedAyanamsa);
+  for (const double latitude : {-60.0, 0.0, 28.6, 60.0}) {
+    const double last = gateway.TropicalHouses(269.999, latitude, obliquity)[1];
+    ASSERT_TRUE(last > 359.99 && last < 359.9999) << latitude;
+    const astro::Cusps start = gateway.TropicalHouses(0, latitude, obliquity);
+    const auto cuspsOf = [&](double target) {
+      return CuspsFromAscendant(gateway, moment.JulianDayUT, target - kFixedAyanamsa, latitude,
+                                kFixedAyanamsa);
+    };
+    EXPECT_EQ(cuspsOf((last + 360) / 2), start) << latitude;
+    for (const double target : {1e-6, 90.0, 180.0, 359.5, last - 1e-4}) {
+      const astro::Cusps found = cuspsOf(target);
+      EXPECT_NEAR(found[1], target, 1e-5) << latitude;
+      EXPECT_NEAR(std::abs(found[1] - found[7]), 180, 1e-9) << latitude;
+    }
+  }
+  const ChartInput byHand{test::Moment("2026-11-24 10:00"), "0", "28.6",  "77.2", 0,
+                          AscendantChoice::ByHand,          0,   "335.93"};
   const astro::Cusps start = gateway.TropicalHouses(0, 28.6, obliquity);
-  const bool bracketed = std::abs(found[1] - 359.9999999) < 0.001 || found[1] < 0.001;
-  EXPECT_TRUE(bracketed || found[10] == start[10]);
-  gateway.Close();
+  EXPECT_EQ(ComputeChart(*session_, byHand).Cusps[0].DegStart,
+            core::TwoDecimals(start[1] - kFixedAyanamsa));
+}
+
+TEST_F(ChartComputation, KetuIsOppositeAtTheEdgesOfTheHalfCircle) {
+  const std::pair<const char*, std::pair<const char*, const char*>> cases[] = {
+      {"1902-12-08 12:00", {"180.00", "0.00"}}, {"1912-03-27 06:00", {"0.00", "180.00"}}};
+  for (const auto& [birth, nodes] : cases) {
+    const ChartResult chart = ComputeChart(*session_, {test::Moment(birth), "0", "10", "20", 0});
+    EXPECT_EQ(chart.Planets[7].Degree, nodes.first);
+    EXPECT_EQ(chart.Planets[8].Degree, nodes.second);
+  }
 }
 
 TEST_F(ChartComputation, TheNodeFollowsTheSetting) {

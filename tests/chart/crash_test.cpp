@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <random>
 #include <thread>
@@ -12,17 +13,44 @@
 namespace orvex::chart {
 namespace {
 
-// Saves clients until it is killed, each in a second of its own.
-[[noreturn]] void SaveForEver(test::TestHome& home, int round) {
+// Saves clients until it is killed, each in a second of its own. Tells through `ready` that it is
+// about to save the first.
+[[noreturn]] void SaveForEver(test::TestHome& home, int round, int ready) {
   home.Clock.Set(test::Moment("2000-01-01") + std::chrono::hours(round));
   const auto session = home.Start();
+  if (!session) {
+    ::_exit(1);
+  }
   ClientForm form = OpenAddClient(*session);
   form.FullName = "Client";
   form.Birth = test::Moment("1990-07-05 14:30");
-  while (true) {
+  while (::write(ready, "", 1) == 1) {
     SaveNewClient(*session, form, 1);
     home.Clock.Set(home.Clock.Now() + std::chrono::seconds(1));
   }
+  ::_exit(1);
+}
+
+// Forks a program that saves and kills it `after` its first save began. Whether it got so far.
+bool KillASave(test::TestHome& home, int round, std::chrono::microseconds after) {
+  std::array<int, 2> ends{};
+  if (::pipe(ends.data()) != 0) {
+    return false;
+  }
+  const pid_t child = ::fork();
+  if (child == 0) {
+    ::close(ends[0]);
+    SaveForEver(home, round, ends[1]);
+  }
+  ::close(ends[1]);
+  char told = 0;
+  const bool began = ::read(ends[0], &told, 1) == 1;
+  std::this_thread::sleep_for(after);
+  ::kill(child, SIGKILL);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  ::close(ends[0]);
+  return began && WIFSIGNALED(status);
 }
 
 TEST(Crash, AKilledSaveLeavesNoTraceOrAllTenRows) {
@@ -30,15 +58,10 @@ TEST(Crash, AKilledSaveLeavesNoTraceOrAllTenRows) {
   test::TestHome home;
   ASSERT_TRUE(home.Start());
   std::mt19937 random(11);
-  std::uniform_int_distribution<int> microseconds(3000, 40000);
+  std::uniform_int_distribution<int> microseconds(0, 8000);
   for (int round = 0; round < kKills; ++round) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-      SaveForEver(home, round);
-    }
-    std::this_thread::sleep_for(std::chrono::microseconds(microseconds(random)));
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
+    // The store that the last one left is opened by the next.
+    ASSERT_TRUE(KillASave(home, round, std::chrono::microseconds(microseconds(random)))) << round;
   }
   const auto session = home.Start();
   ASSERT_TRUE(session);

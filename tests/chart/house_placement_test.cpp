@@ -78,5 +78,25 @@ TEST(HousePlacement, TwoSignsWithoutACuspLeaveTheHouseEmpty) {
   EXPECT_EQ(PlaceOne(cusps, "45.00").ChalitHouse, 3);
 }
 
+// Within the polar circles houses can run backwards: none of them is tested, and the run goes on.
+TEST(HousePlacement, OfTwoSpansThatDoNotAscendTheLaterTakesWhatNoSpanHolds) {
+  const auto cusps = CuspsAt({"340.00", "300.00", "310.00", "320.00", "320.00", "321.00", "322.00",
+                              "323.00", "324.00", "325.00", "326.00", "327.00"});
+  struct {
+    const char* degree;
+    std::optional<int> rashiHouse;
+    int chalitHouse;
+  } const cases[] = {{"100.00", std::nullopt, 4},  // from 340 to 300, then from 320 to 320
+                     {"350.00", 1, 4},
+                     {"305.00", 12, 2},
+                     {"335.00", 1, 12},  // from 327 to 340
+                     {"320.00", 12, 5}};
+  for (const auto& c : cases) {
+    const Placed placed = PlaceOne(cusps, c.degree);
+    EXPECT_EQ(placed.RashiHouse, c.rashiHouse) << c.degree;
+    EXPECT_EQ(placed.ChalitHouse, c.chalitHouse) << c.degree;
+  }
+}
+
 }  // namespace
 }  // namespace orvex::chart

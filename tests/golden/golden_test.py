@@ -18,6 +18,8 @@ import tempfile
 
 def differences(want, got, where):
     if want == {}:
+        if got is None:
+            yield f"{where}: missing"
         return
     if isinstance(want, dict):
         if not isinstance(got, dict):
@@ -46,7 +48,11 @@ def faults_of(program, case, home):
                               capture_output=True, text=True, check=False)
         if done.returncode:
             return [f"{arguments}: exit {done.returncode}: {done.stderr.strip()}"]
-    return list(differences(case["want"], json.loads(done.stdout), ""))
+    try:
+        got = json.loads(done.stdout)
+    except ValueError as error:
+        return [f"no JSON: {error}"]
+    return list(differences(case["want"], got, ""))
 
 
 def main():

@@ -6,6 +6,7 @@
 #include "practice/cities.h"
 #include "practice/client_list.h"
 #include "practice/groups.h"
+#include "practice/remedies.h"
 #include "practice/zone_clock.h"
 #include "support/test_home.h"
 
@@ -157,6 +158,43 @@ TEST_F(Practice, TheClientListFollowsTheSortOfTheSettings) {
   EXPECT_EQ(list.At(0, ClientColumn::City).Tooltip, "Lat: 25.07725 | Lon: 55.30927 | Off: 4");
   EXPECT_EQ(list.At(0, ClientColumn::BirthDate).Text, "24 November 2026");
   EXPECT_TRUE(LoadClientsOfGroup(*session_, 2).Rows.empty());
+}
+
+TEST_F(Practice, RemediesAreCheckedKeptAndDeleted) {
+  AddClient("Patient", 1);
+  const RemedyForm good{2, "It's 100% bad", std::string(1000, 'x'), test::Moment("2026-11-20")};
+  const std::pair<const char*, std::function<void(RemedyForm&)>> faults[] = {
+      {"Problem/Symptom is a mandatory field.", [](RemedyForm& f) { f.Problem = " "; }},
+      {"Text cannot exceed more than 1000 characters.",
+       [](RemedyForm& f) { f.Problem = std::string(1001, 'x'); }},
+      {"Remedy/Solution is a mandatory field.", [](RemedyForm& f) { f.Remedy = ""; }},
+      {"Text cannot exceed more than 1000 characters.",
+       [](RemedyForm& f) { f.Remedy = std::string(1001, 'x'); }}};
+  RemedyForm broken = good;
+  for (auto fault = std::rbegin(faults); fault != std::rend(faults); ++fault) {
+    fault->second(broken);
+    EXPECT_EQ(SaveNewRemedy(*session_, broken, 1).Refused->Text, fault->first);
+  }
+  EXPECT_TRUE(SaveNewRemedy(*session_, good, 55).Refused);
+  const std::int32_t id = SaveNewRemedy(*session_, good, 1).Id;
+  RemedyForm earlier = good;
+  earlier.PlanetId = 0;
+  earlier.Date = test::Moment("2026-11-01");
+  ASSERT_FALSE(SaveNewRemedy(*session_, earlier, 1).Refused);
+  const core::Table list = LoadRemedies(*session_, 1);
+  ASSERT_EQ(list.Rows.size(), 2U);
+  EXPECT_EQ(list.At(0, RemedyColumn::ForPlanet).Text, "None");
+  EXPECT_EQ(list.At(1, RemedyColumn::ForPlanet).Text, "Moon");
+  EXPECT_EQ(list.At(1, RemedyColumn::Problem).Text, "It's 100% bad");
+  EXPECT_EQ(list.At(1, RemedyColumn::RemedyDate).Text, "20 November 2026");
+  RemedyForm edited = OpenEditRemedy(*session_, id).value();
+  edited.PlanetId = 77;
+  ASSERT_FALSE(SaveRemedyChanges(*session_, edited, id).Refused);
+  // A number that is no planet reads as the row before it.
+  EXPECT_EQ(LoadRemedies(*session_, 1).At(1, RemedyColumn::ForPlanet).Text, "None");
+  ASSERT_FALSE(DeleteRemedy(*session_, id).Refused);
+  EXPECT_TRUE(DeleteRemedy(*session_, id).Refused);
+  EXPECT_FALSE(OpenEditRemedy(*session_, id));
 }
 
 TEST(ZoneClock, ClocksOfKnownDates) {

@@ -1,0 +1,139 @@
+#include "practice/remedies.h"
+
+#include <algorithm>
+
+#include "core/exact_numbers.h"
+#include "core/text.h"
+#include "practice/store_write.h"
+
+namespace orvex::practice {
+
+namespace {
+
+using core::Quoted;
+
+constexpr std::size_t kLongestText = 1000;
+constexpr const char* kTooLong = "Text cannot exceed more than 1000 characters.";
+constexpr const char* kNoRecord = "The record you are trying to edit could not be retrieved.";
+
+std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
+
+core::Refusal Refuse(const char* text, const char* field) {
+  return {text, core::MessageIcon::Information, field};
+}
+
+std::optional<core::Refusal> CheckRemedy(const RemedyForm& form) {
+  if (core::Trim(form.Problem).empty()) {
+    return Refuse("Problem/Symptom is a mandatory field.", "problem");
+  }
+  if (core::CharacterCount(form.Problem) > kLongestText) {
+    return Refuse(kTooLong, "problem");
+  }
+  if (core::Trim(form.Remedy).empty()) {
+    return Refuse("Remedy/Solution is a mandatory field.", "remedy");
+  }
+  if (core::CharacterCount(form.Remedy) > kLongestText) {
+    return Refuse(kTooLong, "remedy");
+  }
+  return std::nullopt;
+}
+
+// The name of a planet by its id; another number keeps the name before it.
+void NamePlanet(const core::ReferenceData& reference, std::int64_t id, std::string& name) {
+  if (id == 0) {
+    name = "None";
+    return;
+  }
+  const auto planet = std::find_if(reference.Planets.begin(), reference.Planets.end(),
+                                   [id](const core::PlanetInfo& row) { return row.Id == id; });
+  if (planet != reference.Planets.end()) {
+    name = planet->PlanetName;
+  }
+}
+
+bool Exists(const core::Session& session, const std::string& table, std::int32_t id) {
+  return !session.StoreConnection.Query("Select id from " + table + " where id = " + WholeText(id))
+              .AtEnd();
+}
+
+}  // namespace
+
+core::Table LoadRemedies(const core::Session& session, std::int32_t clientId) {
+  core::Table table{
+      {{"Problem", 250}, {"Solution", 250}, {"For Planet", 100}, {"Remedy Date", 150}}, {}};
+  std::string planet;
+  for (core::Result remedy = session.StoreConnection.Query(
+           "Select * from client_remedy where clientid = " + WholeText(clientId) +
+           " order by remedydate");
+       !remedy.AtEnd(); remedy.Next()) {
+    table.AddRow().Tag = remedy.Text("id");
+    const std::size_t row = table.Rows.size() - 1;
+    NamePlanet(session.Reference, remedy.Integer("forplanetid"), planet);
+    table.At(row, RemedyColumn::Problem).Text = remedy.Text("problem");
+    table.At(row, RemedyColumn::Solution).Text = remedy.Text("remedy");
+    table.At(row, RemedyColumn::ForPlanet).Text = planet;
+    if (const std::optional<core::DateTime> date = remedy.Moment("remedydate")) {
+      core::Cell& cell = table.At(row, RemedyColumn::RemedyDate);
+      cell.Text = core::LongDateText(*date, false);
+      cell.SortKey = core::StoredDateTimeText(*date);
+    }
+  }
+  return table;
+}
+
+RemedyForm OpenAddRemedy(const core::Session& session) { return {0, "", "", session.Time.Today()}; }
+
+std::optional<RemedyForm> OpenEditRemedy(core::Session& session, std::int32_t remedyId) {
+  const core::Result remedy = session.StoreConnection.Query(
+      "Select * from client_remedy where id = " + WholeText(remedyId));
+  if (remedy.AtEnd()) {
+    session.Shown.ShowMessage(kNoRecord, core::MessageButtons::Ok, core::MessageIcon::Stop);
+    return std::nullopt;
+  }
+  return RemedyForm{static_cast<std::int32_t>(remedy.Integer("forplanetid")),
+                    remedy.Text("problem"), remedy.Text("remedy"),
+                    remedy.Moment("remedydate").value_or(session.Time.Today())};
+}
+
+core::SaveResult SaveNewRemedy(core::Session& session, const RemedyForm& form,
+                               std::int32_t clientId) {
+  if (std::optional<core::Refusal> refused = CheckRemedy(form)) {
+    return {0, std::move(refused)};
+  }
+  if (!Exists(session, "client_master", clientId)) {
+    return {0, core::Refusal{"There is no client with that id.", core::MessageIcon::Stop, ""}};
+  }
+  return WriteBatch(session, [&form, clientId](core::Store& store) {
+    store.Execute(
+        "Insert into client_remedy (clientid, forplanetid, problem, remedy, remedydate) values (" +
+        WholeText(clientId) + ", " + WholeText(form.PlanetId) + ", " + Quoted(form.Problem) + ", " +
+        Quoted(form.Remedy) + ", " + core::DateLiteral(form.Date) + ")");
+    return LastId(store, "client_remedy");
+  });
+}
+
+core::SaveResult SaveRemedyChanges(core::Session& session, const RemedyForm& form,
+                                   std::int32_t remedyId) {
+  if (std::optional<core::Refusal> refused = CheckRemedy(form)) {
+    return {0, std::move(refused)};
+  }
+  return WriteBatch(session, [&form, remedyId](core::Store& store) {
+    store.Execute("Update client_remedy set forplanetid = " + WholeText(form.PlanetId) +
+                  ", problem = " + Quoted(form.Problem) + ", remedy = " + Quoted(form.Remedy) +
+                  ", remedydate = " + core::DateLiteral(form.Date) +
+                  " where id = " + WholeText(remedyId));
+    return remedyId;
+  });
+}
+
+core::SaveResult DeleteRemedy(core::Session& session, std::int32_t remedyId) {
+  if (!Exists(session, "client_remedy", remedyId)) {
+    return {0, core::Refusal{kNoRecord, core::MessageIcon::Stop, ""}};
+  }
+  return WriteBatch(session, [remedyId](core::Store& store) {
+    store.Execute("Delete from client_remedy where id = " + WholeText(remedyId));
+    return remedyId;
+  });
+}
+
+}  // namespace orvex::practice

@@ -1,0 +1,68 @@
+#include "report/chart_cells.h"
+
+#include <gtest/gtest.h>
+
+#include "core/text.h"
+#include "support/model_builder.h"
+
+namespace orvex::report {
+namespace {
+
+using chart::HouseColumn;
+using chart::PlanetColumn;
+
+TEST(ChartCells, EachStyleShowsThePlanetsOfItsHouseOrSign) {
+  const chart::HoroscopeModel model = test::WorkedModel();
+  const ChartCells cells = BuildChartCells(model);
+  for (std::size_t house = 0; house < chart::kHouses; ++house) {
+    const std::string& rashi = chart::HouseText(model, house, HouseColumn::Rashi);
+    const std::string planets =
+        core::ReplaceAll(core::ReplaceAll(cells.North[house].Text, "*", ""), "~", "");
+    EXPECT_EQ(planets,
+              core::Trim(rashi + " " + chart::HouseText(model, house, HouseColumn::RcPlanets)));
+    std::size_t shown = 0;
+    for (const auto& row : cells.SouthRashi) {
+      for (const core::Cell& cell : row) {
+        shown += core::Contains(cell.Tag, "*") ? 1U : 0U;
+      }
+    }
+    EXPECT_EQ(shown, 12U);
+  }
+  const auto ascendant =
+      static_cast<std::size_t>(std::stoi(chart::HouseText(model, 0, HouseColumn::Rashi))) - 1;
+  EXPECT_TRUE(cells.East[ascendant].Text.starts_with("Asc"));
+}
+
+TEST(ChartCells, TheAscendantIsTintedInBothSouthGridsAndTheMiddleStaysEmpty) {
+  const ChartCells cells = BuildChartCells(test::WorkedModel());
+  int tinted = 0;
+  for (std::size_t row = 0; row < 4; ++row) {
+    for (std::size_t column = 0; column < 4; ++column) {
+      const bool middle = (row == 1 || row == 2) && (column == 1 || column == 2);
+      const core::Cell& rashi = cells.SouthRashi[row][column];
+      EXPECT_EQ(rashi.Tag.empty(), middle);
+      EXPECT_EQ(rashi.Background, cells.SouthKP[row][column].Background);
+      tinted += rashi.Background == chart::kAscendantTint ? 1 : 0;
+      if (!middle) {
+        EXPECT_TRUE(cells.SouthKP[row][column].Text.starts_with("("));
+      }
+    }
+  }
+  EXPECT_EQ(tinted, 1);
+}
+
+TEST(ChartCells, MarksStandBehindTheCodeCombustFirst) {
+  chart::HoroscopeModel model = test::WorkedModel();
+  const std::size_t mercury = chart::RowOf(chart::PlanetPlace::Mercury);
+  model.PlanetTable.At(mercury, PlanetColumn::R).Text = "R";
+  model.PlanetTable.At(mercury, PlanetColumn::C).Text = "C";
+  const ChartCells cells = BuildChartCells(model);
+  int marked = 0;
+  for (const core::Cell& cell : cells.North) {
+    marked += core::Contains(cell.Text, "ME*~") ? 1 : 0;
+  }
+  EXPECT_EQ(marked, 1);
+}
+
+}  // namespace
+}  // namespace orvex::report
