@@ -80,6 +80,7 @@ void AddClientCommands(CLI::App& app, Context& context);      // client
 void AddChartCommands(CLI::App& app, Context& context);       // chart, sun
 void AddHoroscopeCommands(CLI::App& app, Context& context);   // horoscope, rectify
 void AddChartsCommands(CLI::App& app, Context& context);      // charts
+void AddPlanetCommands(CLI::App& app, Context& context);      // planet
 void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
 
