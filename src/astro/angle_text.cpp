@@ -24,6 +24,20 @@ std::string AngleText(double degrees, int degreeDigits) {
          core::PaddedWhole(minutes, 2) + "'" + secondsText;
 }
 
+// What the tools read back from DegreeText: whole degrees, and the minutes as a part of a degree.
+struct ReadAngle {
+  double WholeDegrees = 0;
+  float Minutes = 0;
+};
+
+ReadAngle ReadBack(double degrees) {
+  const std::string text = AngleText(degrees, 3);
+  const std::size_t signAt = text.find(kDegreeSign);
+  const std::string rest = text.substr(signAt + kDegreeSign.size());
+  return {core::ToDouble(text.substr(0, signAt)),
+          static_cast<float>(core::ToDouble(core::Split(rest, '\'').front()) / 60)};
+}
+
 }  // namespace
 
 std::string DegreeText(double degrees) { return AngleText(degrees, 3); }
@@ -31,12 +45,13 @@ std::string DegreeText(double degrees) { return AngleText(degrees, 3); }
 std::string LongitudeText(double degrees) { return AngleText(degrees, 1); }
 
 std::string ChartDegreeText(double degrees) {
-  const std::string text = DegreeText(degrees);
-  const std::size_t signAt = text.find(kDegreeSign);
-  const std::string rest = text.substr(signAt + kDegreeSign.size());
-  const double whole = core::ToDouble(text.substr(0, signAt));
-  const auto minutes = static_cast<float>(core::ToDouble(core::Split(rest, '\'').front()) / 60);
-  return core::TwoDecimals(whole + static_cast<double>(minutes));
+  const ReadAngle angle = ReadBack(degrees);
+  return core::TwoDecimals(angle.WholeDegrees + static_cast<double>(angle.Minutes));
+}
+
+float DegreeToTheMinute(double degrees) {
+  const ReadAngle angle = ReadBack(degrees);
+  return static_cast<float>(angle.WholeDegrees) + angle.Minutes;
 }
 
 }  // namespace orvex::astro

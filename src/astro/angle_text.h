@@ -17,4 +17,8 @@ std::string LongitudeText(double degrees);
 // decimal degrees with two decimals. 29 degrees 59 minutes 59 seconds is "29.98".
 std::string ChartDegreeText(double degrees);
 
+// The degree of the sky and the transit tools: whole degrees and whole minutes of DegreeText, the
+// seconds thrown away, as decimal degrees in single precision.
+float DegreeToTheMinute(double degrees);
+
 }  // namespace orvex::astro
