@@ -82,6 +82,7 @@ void AddHoroscopeCommands(CLI::App& app, Context& context);   // horoscope, rect
 void AddChartsCommands(CLI::App& app, Context& context);      // charts
 void AddPlanetCommands(CLI::App& app, Context& context);      // planet
 void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
+void AddReportCommands(CLI::App& app, Context& context);      // report
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
 
 }  // namespace orvex::cli
