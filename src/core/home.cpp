@@ -106,6 +106,16 @@ fs::path ShippedDataFolder() {
                                             : fs::path(ORVEX_DATA_FOLDER);
 }
 
+std::string ReadTextFile(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  std::ostringstream text;
+  text << stream.rdbuf();
+  if (!stream || text.bad()) {
+    throw std::runtime_error("The file " + file.string() + " could not be read.");
+  }
+  return text.str();
+}
+
 void WriteFileSafely(const fs::path& file, const std::string& content) {
   // A name of its own for each writer: two that write at once must not share a file.
   std::string beside = file.string() + ".XXXXXX";
