@@ -58,6 +58,9 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddChartsCommands(app, context);
   orvex::cli::AddPlanetCommands(app, context);
   orvex::cli::AddRemedyCommands(app, context);
+  orvex::cli::AddSearchCommands(app, context);
+  orvex::cli::AddExportCommands(app, context);
+  orvex::cli::AddImportCommand(app, context);
   orvex::cli::AddSettingsCommands(app, context);
 
   const int status = Run(app, argc, argv);
