@@ -83,5 +83,6 @@ void AddChartsCommands(CLI::App& app, Context& context);      // charts
 void AddPlanetCommands(CLI::App& app, Context& context);      // planet
 void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
+void AddTransitCommands(CLI::App& app, Context& context);     // grid, transit, find
 
 }  // namespace orvex::cli

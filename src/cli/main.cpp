@@ -58,6 +58,7 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddChartsCommands(app, context);
   orvex::cli::AddPlanetCommands(app, context);
   orvex::cli::AddRemedyCommands(app, context);
+  orvex::cli::AddTransitCommands(app, context);
 
   const int status = Run(app, argc, argv);
   if (context.EphemerisFellBack()) {
