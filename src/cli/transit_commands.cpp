@@ -7,6 +7,7 @@
 #include "practice/cities.h"
 #include "transit/find_transit.h"
 #include "transit/monthly_grid.h"
+#include "transit/transit_calendar.h"
 #include "transit/transit_details.h"
 
 namespace orvex::cli {
@@ -28,7 +29,13 @@ struct TransitOptions {
   std::string Pada;
   std::string Rashi;
   std::string Count = "1";
+  std::string IcsFile;
 };
+
+void WriteCalendar(const core::Session& session, const std::string& file,
+                   const std::vector<transit::CalendarEvent>& events) {
+  core::WriteFileSafely(file, transit::CalendarText(events, session.Time.Now()));
+}
 
 transit::Planet PlanetArgument(const std::string& name) {
   const std::optional<transit::Planet> planet = transit::PlanetOfName(name);
@@ -63,8 +70,12 @@ transit::GridView ViewOf(core::Session& session, const TransitOptions& options) 
 void RunGrid(Context& context, const TransitOptions& options) {
   core::Session& session = context.Reading();
   const transit::GridView view = ViewOf(session, options);
-  const transit::MonthGrid grid = transit::CreateGrid(
-      session, view, WholeOption("MONTH", options.Month), WholeOption("YEAR", options.Year));
+  const std::int32_t month = WholeOption("MONTH", options.Month);
+  const std::int32_t year = WholeOption("YEAR", options.Year);
+  const transit::MonthGrid grid = transit::CreateGrid(session, view, month, year);
+  if (!options.IcsFile.empty()) {
+    WriteCalendar(session, options.IcsFile, transit::GridEvents(session, view, month, year));
+  }
   if (context.Json) {
     PrintJson({{"captions",
                 {{"Title", grid.Title},
@@ -196,6 +207,9 @@ void RunFind(Context& context, const TransitOptions& options) {
   if (results.empty()) {
     throw CommandFailed(last.Status);
   }
+  if (!options.IcsFile.empty()) {
+    WriteCalendar(session, options.IcsFile, transit::PassageEvents(session, results));
+  }
   PrintFound(context, results);
   if (last.End != transit::SearchEnd::Found) {
     std::cerr << last.Status << "\n";
@@ -210,6 +224,7 @@ void AddGrid(CLI::App& app, Context& context) {
   command->add_option("MONTH", options->Month, "1 to 12")->required();
   command->add_option("--city", options->City, "id of the city; else the user city");
   command->add_option("--time", options->Time, "time of day, HH:MM; else now");
+  command->add_option("--ics", options->IcsFile, "writes stations and changes of sign as calendar");
 }
 
 void AddTransit(CLI::App& app, Context& context) {
@@ -237,6 +252,7 @@ void AddFind(CLI::App& app, Context& context) {
   command->add_option("--from", options->From, "YYYY-MM-DD; else today");
   command->add_option("--days", options->Days, "the days to search; else without an end");
   command->add_option("--count", options->Count, "so many passages, one after the other");
+  command->add_option("--ics", options->IcsFile, "writes what was found as calendar");
 }
 
 }  // namespace

@@ -50,6 +50,7 @@ void FillCell(const core::Session& session, const astro::SkyBody& body, const st
   const std::string sign = core::PaddedWhole(rashi, 1);
   cell.Text = "   " + sign + (sign.size() == 1 ? "     " : "   ") + degree;
   cell.Tag = "Planet*" + number;
+  cell.SortKey = core::TwoDecimals(body.Degree);
   cell.Foreground = body.Retrograde ? core::kRed : "";
   core::Attempt([&] {
     const chart::StarAndPada star =

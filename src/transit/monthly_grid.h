@@ -11,7 +11,8 @@ namespace orvex::transit {
 inline constexpr int kFirstGridYear = 1500;
 inline constexpr int kLastGridYear = 2500;
 
-// Column 0 is the date. A planet stands in the column of its number (Planet).
+// Column 0 is the date. A planet stands in the column of its number (Planet); the sort key of its
+// cell is its longitude, degrees with two decimals.
 enum class GridColumn { Date };
 
 // What the grid is made for.
