@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "chart/chart_moment.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
@@ -34,7 +35,9 @@ struct TransitOptions {
 
 void WriteCalendar(const core::Session& session, const std::string& file,
                    const std::vector<transit::CalendarEvent>& events) {
-  core::WriteFileSafely(file, transit::CalendarText(events, session.Time.Now()));
+  core::WriteFileSafely(
+      file, transit::CalendarText(
+                events, chart::PlainMomentUt(session.Time.Now(), session.State.UserCityOffset)));
 }
 
 transit::Planet PlanetArgument(const std::string& name) {

@@ -62,7 +62,7 @@ TEST_F(TransitDesk, TheMonthOfTodayShowsTodayAndNoLinkToItself) {
   const core::Cell& rahu = grid.Grid.Rows[0].Cells[8];
   EXPECT_EQ(rahu.Tag, "Planet*8");
   EXPECT_EQ(rahu.Foreground, core::kRed);
-  EXPECT_EQ(rahu.Tooltip, "Rahu in Aquarius (Nakshatra: Dhanishta, Pada: 3)");
+  EXPECT_EQ(rahu.Tooltip, "Rahu in Aquarius (Nakshatra: Dhanishtha, Pada: 3)");
   EXPECT_EQ(MonthOfTag(grid.Next.Tag), test::Moment("2026-12-01"));
 }
 
