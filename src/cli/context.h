@@ -82,6 +82,7 @@ void AddHoroscopeCommands(CLI::App& app, Context& context);   // horoscope, rect
 void AddChartsCommands(CLI::App& app, Context& context);      // charts
 void AddPlanetCommands(CLI::App& app, Context& context);      // planet
 void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
+void AddSettingsCommands(CLI::App& app, Context& context);    // settings
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
 void AddTransitCommands(CLI::App& app, Context& context);     // grid, transit, find
 

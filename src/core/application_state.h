@@ -14,6 +14,7 @@ struct AspectBand {
   int Aspect;             // degrees
   const char* OrbColumn;  // column of the settings row
   int DefaultOrb;         // degrees
+  int HighestOrb;         // degrees; the lowest is 0
   bool Good;              // a good aspect, else a hard one
 };
 
@@ -21,14 +22,14 @@ inline constexpr std::size_t kAspectCount = 8;
 
 // clang-format off
 inline constexpr std::array<AspectBand, kAspectCount> kAspects = {{
-    {30,  "Orbit_30",  3, true},
-    {60,  "Orbit_60",  5, true},
-    {120, "Orbit_120", 8, true},
-    {45,  "Orbit_45",  3, false},
-    {90,  "Orbit_90",  5, false},
-    {135, "Orbit_135", 3, false},
-    {150, "Orbit_150", 3, false},
-    {180, "Orbit_180", 8, false},
+    {30,  "Orbit_30",  3,  5, true},
+    {60,  "Orbit_60",  5,  5, true},
+    {120, "Orbit_120", 8, 10, true},
+    {45,  "Orbit_45",  3,  3, false},
+    {90,  "Orbit_90",  5,  5, false},
+    {135, "Orbit_135", 3,  3, false},
+    {150, "Orbit_150", 3,  3, false},
+    {180, "Orbit_180", 8, 10, false},
 }};
 // clang-format on
 

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <stdexcept>
 #include <thread>
@@ -33,14 +34,15 @@ bool MakePrivateFolders(const fs::path& folder) {
 
 bool MayWrite(const fs::path& folder) { return ::access(folder.c_str(), W_OK | X_OK) == 0; }
 
-std::optional<HomeLock> HomeLock::Acquire(const Home& home, std::chrono::milliseconds patience) {
+std::optional<FileLock> FileLock::Acquire(const fs::path& file,
+                                          std::chrono::milliseconds patience) {
   constexpr mode_t kPrivate = 0600;
   constexpr std::chrono::milliseconds kPause{20};
-  const int descriptor = ::open(home.LockFile().c_str(), O_CREAT | O_RDWR | O_CLOEXEC, kPrivate);
+  const int descriptor = ::open(file.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, kPrivate);
   if (descriptor < 0) {
     return std::nullopt;
   }
-  HomeLock lock(descriptor);
+  FileLock lock(descriptor);
   const auto end = std::chrono::steady_clock::now() + patience;
   while (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
     if (std::chrono::steady_clock::now() >= end) {
@@ -51,14 +53,14 @@ std::optional<HomeLock> HomeLock::Acquire(const Home& home, std::chrono::millise
   return lock;
 }
 
-HomeLock::HomeLock(HomeLock&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+FileLock::FileLock(FileLock&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
 
-HomeLock& HomeLock::operator=(HomeLock&& other) noexcept {
+FileLock& FileLock::operator=(FileLock&& other) noexcept {
   std::swap(descriptor_, other.descriptor_);
   return *this;
 }
 
-HomeLock::~HomeLock() {
+FileLock::~FileLock() {
   if (descriptor_ >= 0) {
     ::close(descriptor_);
   }
@@ -78,19 +80,25 @@ fs::path ShippedDataFolder() {
 }
 
 void WriteFileSafely(const fs::path& file, const std::string& content) {
-  const fs::path beside = file.string() + ".new";
-  {
-    std::ofstream stream(beside, std::ios::binary | std::ios::trunc);
-    fs::permissions(beside, fs::perms::owner_read | fs::perms::owner_write);
-    stream << content;
-    stream.flush();
-    if (!stream) {
-      std::error_code ignored;
-      fs::remove(beside, ignored);
-      throw std::runtime_error("the file " + file.string() + " could not be written");
-    }
+  // A name of its own for each writer: two that write at once must not share a file.
+  std::string beside = file.string() + ".XXXXXX";
+  const int descriptor = ::mkstemp(beside.data());
+  if (descriptor < 0) {
+    throw std::runtime_error("the file " + file.string() + " could not be written");
   }
-  fs::rename(beside, file);
+  ::close(descriptor);
+  std::ofstream stream(beside, std::ios::binary | std::ios::trunc);
+  stream << content;
+  stream.close();
+  std::error_code error;
+  if (stream) {
+    fs::rename(beside, file, error);
+  }
+  if (!stream || error) {
+    std::error_code ignored;
+    fs::remove(beside, ignored);
+    throw std::runtime_error("the file " + file.string() + " could not be written");
+  }
 }
 
 }  // namespace orvex::core

@@ -23,20 +23,22 @@ bool MakePrivateFolders(const std::filesystem::path& folder);
 // Whether this user may write in the folder.
 bool MayWrite(const std::filesystem::path& folder);
 
-// The sole right to write in a home. The system releases it when the process ends, however it ends.
-class HomeLock {
+// A lock held on a file. The system releases it when the process ends, however it ends.
+class FileLock {
  public:
-  // Nothing where another process holds it for longer than `patience`.
-  static std::optional<HomeLock> Acquire(const Home& home, std::chrono::milliseconds patience);
+  // Nothing where another process holds it for longer than `patience`, or where the file cannot be
+  // made.
+  static std::optional<FileLock> Acquire(const std::filesystem::path& file,
+                                         std::chrono::milliseconds patience);
 
-  HomeLock(HomeLock&& other) noexcept;
-  HomeLock& operator=(HomeLock&& other) noexcept;
-  HomeLock(const HomeLock&) = delete;
-  HomeLock& operator=(const HomeLock&) = delete;
-  ~HomeLock();
+  FileLock(FileLock&& other) noexcept;
+  FileLock& operator=(FileLock&& other) noexcept;
+  FileLock(const FileLock&) = delete;
+  FileLock& operator=(const FileLock&) = delete;
+  ~FileLock();
 
  private:
-  explicit HomeLock(int descriptor) : descriptor_(descriptor) {}
+  explicit FileLock(int descriptor) : descriptor_(descriptor) {}
   int descriptor_;
 };
 

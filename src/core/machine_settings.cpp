@@ -1,5 +1,6 @@
 #include "core/machine_settings.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <nlohmann/json.hpp>
@@ -64,10 +65,16 @@ void MachineSettings::SaveMachineSetting(const std::string& appName, const std::
                                          const std::string& key, const std::string& value) const {
   const Names names = Checked(appName, section, key);
   constexpr const char* kNotOpened = "Could not open/create registry section";
-  Json settings = Load(file_, kNotOpened);
   if (file_.empty() || !MakePrivateFolders(file_.parent_path())) {
     throw MachineSettingError(kNotOpened);
   }
+  // Programs of several homes share the file: what one adds must not undo what another did.
+  constexpr std::chrono::seconds kPatience{5};
+  const auto lock = FileLock::Acquire(file_.string() + ".lock", kPatience);
+  if (!lock) {
+    throw MachineSettingError(kNotOpened);
+  }
+  Json settings = Load(file_, kNotOpened);
   try {
     settings[names.AppName][names.Section][names.Key] = value;
     WriteFileSafely(file_, settings.dump(2) + "\n");

@@ -9,11 +9,13 @@
 
 namespace orvex::core {
 
-// Why a form was not saved: the program's message and the name of the field that gets the focus.
+// Why a form was not saved: the program's message, the name of the field that gets the focus and,
+// in a dialog of several pages, the page that holds it.
 struct Refusal {
   std::string Text;
   MessageIcon Icon = MessageIcon::Information;
   std::string Field;
+  std::string Page = "";
 };
 
 // Either the id of what was written or a refusal.

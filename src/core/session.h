@@ -24,7 +24,7 @@ struct Session {
   const Clock& Time;
   Messages& Shown;
   astro::EphemerisGateway& Ephemeris;
-  std::optional<HomeLock> Lock;  // held by a program that writes
+  std::optional<FileLock> Lock;  // held by a program that writes
 };
 
 }  // namespace orvex::core

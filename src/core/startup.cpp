@@ -43,12 +43,13 @@ const char* OpenFailureText(StoreFault fault) {
   }
 }
 
-std::optional<HomeLock> LockHome(const StartupPlan& plan) {
+std::optional<FileLock> LockHome(const StartupPlan& plan) {
   constexpr std::chrono::milliseconds kNoPatience{0};
   constexpr std::chrono::milliseconds kPatience{2000};
   const bool waits =
       plan.Mode == StartMode::Writer || !std::filesystem::exists(plan.Place.StoreFile());
-  std::optional<HomeLock> lock = HomeLock::Acquire(plan.Place, waits ? kPatience : kNoPatience);
+  std::optional<FileLock> lock =
+      FileLock::Acquire(plan.Place.LockFile(), waits ? kPatience : kNoPatience);
   if (!lock && plan.Mode != StartMode::Reader) {
     throw StartRefusal{kOneInstance};
   }
@@ -87,7 +88,7 @@ std::unique_ptr<Session> Start(const StartupPlan& plan, const Clock& clock, Mess
   if (!MakePrivateFolders(plan.Place.Folder) || !MayWrite(plan.Place.Folder)) {
     throw StartRefusal{kNoRights};
   }
-  std::optional<HomeLock> lock = LockHome(plan);
+  std::optional<FileLock> lock = LockHome(plan);
   Store store = OpenStore(plan, lock.has_value());
   try {
     // A reader beside a running program leaves the repairs to that program.

@@ -3,13 +3,15 @@
 #include "chart/place_checks.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
-#include "practice/store_write.h"
+#include "core/store_write.h"
 
 namespace orvex::practice {
 
 namespace {
 
+using core::LastId;
 using core::Quoted;
+using core::WriteBatch;
 
 constexpr std::size_t kLongestName = 100;
 

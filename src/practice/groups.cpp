@@ -2,13 +2,15 @@
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
-#include "practice/store_write.h"
+#include "core/store_write.h"
 
 namespace orvex::practice {
 
 namespace {
 
+using core::LastId;
 using core::Quoted;
+using core::WriteBatch;
 
 constexpr std::size_t kLongestName = 20;
 constexpr const char* kNoRecord = "The record you are trying to edit could not be retrieved.";

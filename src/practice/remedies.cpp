@@ -4,13 +4,15 @@
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
-#include "practice/store_write.h"
+#include "core/store_write.h"
 
 namespace orvex::practice {
 
 namespace {
 
+using core::LastId;
 using core::Quoted;
+using core::WriteBatch;
 
 constexpr std::size_t kLongestText = 1000;
 constexpr const char* kTooLong = "Text cannot exceed more than 1000 characters.";

@@ -4,8 +4,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <csignal>
+#include <fstream>
+#include <string>
+#include <thread>
+#include <vector>
 
+#include "core/exact_numbers.h"
 #include "support/test_home.h"
 
 namespace orvex::core {
@@ -71,7 +77,7 @@ TEST(Startup, TheLockOfAKilledProcessIsFree) {
   ASSERT_EQ(::pipe(ready), 0);
   const pid_t child = ::fork();
   if (child == 0) {
-    const auto lock = HomeLock::Acquire(home.Place, std::chrono::milliseconds(0));
+    const auto lock = FileLock::Acquire(home.Place.LockFile(), std::chrono::milliseconds(0));
     const char mark = lock ? 'y' : 'n';
     (void)!::write(ready[1], &mark, 1);
     ::pause();
@@ -80,10 +86,10 @@ TEST(Startup, TheLockOfAKilledProcessIsFree) {
   char mark = 0;
   ASSERT_EQ(::read(ready[0], &mark, 1), 1);
   ASSERT_EQ(mark, 'y');
-  EXPECT_FALSE(HomeLock::Acquire(home.Place, std::chrono::milliseconds(0)));
+  EXPECT_FALSE(FileLock::Acquire(home.Place.LockFile(), std::chrono::milliseconds(0)));
   ::kill(child, SIGKILL);
   ::waitpid(child, nullptr, 0);
-  EXPECT_TRUE(HomeLock::Acquire(home.Place, std::chrono::milliseconds(0)));
+  EXPECT_TRUE(FileLock::Acquire(home.Place.LockFile(), std::chrono::milliseconds(0)));
 }
 
 TEST(Startup, AStoreThatCannotBeOpenedIsSaidSo) {
@@ -210,6 +216,38 @@ TEST(MachineSettings, TellWhatIsWrongInTheProgramsWords) {
             "Could not open/create registry section");
   EXPECT_EQ(messageOf([&] { number.ReadMachineSetting("a", "b", "c", ""); }),
             "Registry data not a string");
+}
+
+TEST(MachineSettings, ProgramsOfSeveralHomesWriteAtOnceAndLoseNothing) {
+  constexpr int kWriters = 8;
+  constexpr int kKeys = 20;
+  const test::TempFolder folder;
+  const std::filesystem::path file = folder.Path() / "config" / "machine.json";
+  std::atomic<int> failures = 0;
+  std::vector<std::thread> writers;
+  for (int writer = 0; writer < kWriters; ++writer) {
+    writers.emplace_back([&file, &failures, writer] {
+      try {
+        for (int key = 0; key < kKeys; ++key) {
+          MachineSettings(file).SaveMachineSetting("App", PaddedWhole(writer, 1),
+                                                   PaddedWhole(key, 1), "kept");
+        }
+      } catch (const std::exception&) {
+        ++failures;
+      }
+    });
+  }
+  for (std::thread& writer : writers) {
+    writer.join();
+  }
+  EXPECT_EQ(failures, 0);
+  const MachineSettings settings(file);
+  for (int writer = 0; writer < kWriters; ++writer) {
+    for (int key = 0; key < kKeys; ++key) {
+      EXPECT_EQ(settings.ReadMachineSetting("App", PaddedWhole(writer, 1), PaddedWhole(key, 1), ""),
+                "kept");
+    }
+  }
 }
 
 TEST(MachineSettings, AStartWritesFolderAndVersion) {

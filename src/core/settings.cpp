@@ -1,0 +1,185 @@
+#include "core/settings.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "core/exact_numbers.h"
+#include "core/startup.h"
+#include "core/store_write.h"
+#include "core/text.h"
+
+namespace orvex::core {
+
+namespace {
+
+constexpr std::size_t kLongestName = 50;
+constexpr std::size_t kLongestContact = 250;
+
+std::string WholeText(std::int64_t number) { return PaddedWhole(number, 1); }
+
+std::int64_t OrbDegrees(const std::string& typed) { return RoundToWhole(ToDouble(typed)); }
+
+// The text that a stored code is shown as; an unknown one shows the first choice.
+std::string ShownText(std::span<const SettingChoice> choices, const std::string& code) {
+  const SettingChoice* choice = FindChoice(choices, code);
+  return choice == nullptr ? choices.front().Text : choice->Text;
+}
+
+std::string StoredCode(std::span<const SettingChoice> choices, const std::string& text,
+                       const char* fallback) {
+  const SettingChoice* choice = FindChoice(choices, text);
+  return Quoted(choice == nullptr ? fallback : choice->Code);
+}
+
+std::optional<Refusal> CheckProfile(const SettingsForm& form) {
+  const auto refuse = [](const char* text, const char* field) {
+    return Refusal{text, MessageIcon::Information, field, kProfilePage};
+  };
+  const auto exceeds = [](const std::string& text, std::size_t limit) {
+    return CharacterCount(Trim(text)) > limit;
+  };
+  if (exceeds(form.AstrologerName, kLongestName)) {
+    return refuse("Name cannot exceed 50 characters.", "AstrologerName");
+  }
+  if (exceeds(form.AstrologerOrganization, kLongestName)) {
+    return refuse("Organization cannot exceed 50 characters.", "AstrologerOrganization");
+  }
+  if (exceeds(form.AstrologerContactDetails, kLongestContact)) {
+    return refuse("Contact Details cannot exceed 250 characters.", "AstrologerContactDetails");
+  }
+  return std::nullopt;
+}
+
+bool IsStored(const Session& session, const std::string& table, std::int32_t id) {
+  return !session.StoreConnection.Query("Select id from " + table + " where id = " + WholeText(id))
+              .AtEnd();
+}
+
+// City and group are chosen from lists; both may have been deleted since the lists were filled.
+std::optional<Refusal> CheckChoices(const Session& session, const SettingsForm& form) {
+  const auto refuse = [](const char* text, const char* field) {
+    return Refusal{text, MessageIcon::Information, field, kGeneralPage};
+  };
+  if (form.UserCityId != 0 && !IsStored(session, "city_master", form.UserCityId)) {
+    return refuse("Please select a City from the list.", "UserCityID");
+  }
+  if (form.InstantChartGroupId != 0 &&
+      !IsStored(session, "group_master", form.InstantChartGroupId)) {
+    return refuse("There is no group with that id.", "ICGroupID");
+  }
+  return std::nullopt;
+}
+
+std::optional<Refusal> CheckSettings(const Session& session, const SettingsForm& form) {
+  if (std::optional<Refusal> refused = CheckProfile(form)) {
+    return refused;
+  }
+  for (std::size_t aspect = 0; aspect < kAspectCount; ++aspect) {
+    if (std::optional<Refusal> refused = CheckOrb(aspect, form.Orbs[aspect])) {
+      return refused;
+    }
+  }
+  return CheckChoices(session, form);
+}
+
+std::string UpdateStatement(const SettingsForm& form, std::int32_t cityId) {
+  std::vector<std::pair<std::string, std::string>> values = {
+      {"RahuKetuCalculation", StoredCode(kNodeChoices, form.RahuKetuCalculation, "M")},
+      {"DefaultChartType", StoredCode(kChartTypeChoices, form.DefaultChartType, "N")},
+      {"StatusBarDegreeCalc", StoredCode(kDegreeChoices, form.StatusBarDegreeCalc, "A")},
+      {"ChartPath", Quoted(form.ChartPath)},
+      {"AstrologerName", Quoted(Trim(form.AstrologerName))},
+      {"AstrologerOrganization", Quoted(Trim(form.AstrologerOrganization))},
+      {"AstrologerContactDetails", Quoted(Trim(form.AstrologerContactDetails))},
+      {"UserCityID", WholeText(cityId)}};
+  for (std::size_t aspect = 0; aspect < kAspectCount; ++aspect) {
+    values.emplace_back(kAspects[aspect].OrbColumn, WholeText(OrbDegrees(form.Orbs[aspect])));
+  }
+  values.emplace_back("SortByField", StoredCode(kSortChoices, form.SortBy, "CLN"));
+  values.emplace_back("ICGroupID", WholeText(form.InstantChartGroupId));
+  std::string changes;
+  for (const auto& [column, value] : values) {
+    changes += (changes.empty() ? "" : ", ") + column + " = " + value;
+  }
+  return "Update settings set " + changes;
+}
+
+}  // namespace
+
+const SettingChoice* FindChoice(std::span<const SettingChoice> choices,
+                                std::string_view codeOrText) {
+  const std::string wanted = UpperCase(codeOrText);
+  const auto found = std::find_if(choices.begin(), choices.end(), [&](const SettingChoice& choice) {
+    return wanted == choice.Code || wanted == UpperCase(choice.Text);
+  });
+  return found == choices.end() ? nullptr : &*found;
+}
+
+SettingsForm OpenSettings(const Session& session) {
+  const Result row = session.StoreConnection.Query("Select Top 1 * from settings");
+  const ApplicationState& state = session.State;
+  SettingsForm form;
+  form.RahuKetuCalculation = ShownText(kNodeChoices, row.Text("RahuKetuCalculation"));
+  form.DefaultChartType = ShownText(kChartTypeChoices, row.Text("DefaultChartType"));
+  form.StatusBarDegreeCalc = ShownText(kDegreeChoices, row.Text("StatusBarDegreeCalc"));
+  const SettingChoice* sort = FindChoice(kSortChoices, row.Text("SortByField"));
+  form.SortBy = sort == nullptr ? ShownText(kSortChoices, "CLN") : sort->Text;
+  form.ChartPath = row.Text("chartpath");
+  form.UserCityId = state.UserCityId;
+  form.UserCityName = state.UserCityName;
+  form.InstantChartGroupId = state.InstantChartGroupId;
+  for (std::size_t aspect = 0; aspect < kAspectCount; ++aspect) {
+    form.Orbs[aspect] = WholeText(state.Orbs[aspect]);
+  }
+  form.AstrologerName = row.Text("AstrologerName");
+  form.AstrologerOrganization = row.Text("AstrologerOrganization");
+  form.AstrologerContactDetails = row.Text("AstrologerContactDetails");
+  return form;
+}
+
+std::optional<Refusal> CheckOrb(std::size_t aspect, const std::string& typed) {
+  const AspectBand& band = kAspects.at(aspect);
+  const std::optional<double> degrees = ParseNumber(typed);
+  if (!degrees) {
+    return Refusal{"Numeric value required.", MessageIcon::Stop, band.OrbColumn, kOrbitsPage};
+  }
+  if (*degrees < 0 || *degrees > band.HighestOrb) {
+    return Refusal{
+        "Value cannot be less than 0 or greater than " + WholeText(band.HighestOrb) + ".",
+        MessageIcon::Stop, band.OrbColumn, kOrbitsPage};
+  }
+  return std::nullopt;
+}
+
+std::string OrbCaption(std::size_t aspect, const std::string& typed) {
+  const std::int64_t degrees = kAspects.at(aspect).Aspect;
+  const std::int64_t orb = OrbDegrees(typed);
+  return WholeText(degrees) + " Degree: (" + WholeText(degrees - orb) + " to " +
+         WholeText(degrees + orb) + ")";
+}
+
+std::array<std::string, kAspectCount> DefaultOrbs() {
+  std::array<std::string, kAspectCount> orbs;
+  std::transform(kAspects.begin(), kAspects.end(), orbs.begin(),
+                 [](const AspectBand& band) { return WholeText(band.DefaultOrb); });
+  return orbs;
+}
+
+SaveResult SaveSettings(Session& session, const SettingsForm& form) {
+  if (std::optional<Refusal> refused = CheckSettings(session, form)) {
+    return {0, std::move(refused)};
+  }
+  const std::int32_t cityId = form.UserCityId == 0 ? session.State.UserCityId : form.UserCityId;
+  SaveResult saved = WriteBatch(session, [&form, cityId](Store& store) {
+    store.Execute(UpdateStatement(form, cityId));
+    return cityId;
+  });
+  if (!saved.Refused) {
+    LoadSessionSettings(session);
+    LoadUserCity(session);
+  }
+  return saved;
+}
+
+}  // namespace orvex::core
