@@ -77,6 +77,15 @@ class CommandLine(unittest.TestCase):
             (["group", "add", "general"], "The Group 'general' already exists in the database."),
             (["group", "delete", "1"], "Are you sure you want to delete"),
             ([*CHART, "--horary", "1000"], "--horary"),
+            (["find", "Sun", "--degree", "abc"], "Numeric value required."),
+            (["find", "Sun", "--degree", "-5"], "Value should be between 0 to 360 degrees."),
+            (["find", "Sun", "--degree", "361"], "Value should be between 0 to 360 degrees."),
+            (["find", "Sun", "--degree", "200", "--from", "2026-01-01", "--days", "3"],
+             "Not found within the days to search."),
+            (["find", "Pluto", "--degree", "1"], "no planet"),
+            (["grid", "1499", "12"], "1500 to 2500"),
+            (["grid", "2026", "11", "--time", "25:00"], "--time"),
+            (["transit", "Mars", "2026-11-24", "--hour", "24"], "--hour"),
             (["--now", "yesterday", "client", "list"], "--now"),
         ]
         for arguments, message in cases:
@@ -121,6 +130,20 @@ class CommandLine(unittest.TestCase):
         status, _, err = self.call("chart", "--birth", "9999-01-01 00:00", "--offset", "0",
                                    "--latitude", "0", "--longitude", "0")
         self.assertEqual((status, err.count("no positions for this date")), (0, 1))
+
+    def test_found_transits_and_a_month_go_into_private_calendar_files(self):
+        for arguments in (["find", "Moon", "--degree", "100", "--from", "2026-01-01", "--count",
+                           "3"], ["grid", "2026", "11"]):
+            file = os.path.join(os.path.dirname(self.home), "transits.ics")
+            first = []
+            for _ in range(2):
+                self.succeed(*arguments, "--ics", file)
+                with open(file, encoding="utf8", newline="") as stream:
+                    text = stream.read()
+                first.append([line for line in text.split("\r\n") if line.startswith("UID:")])
+            self.assertEqual(os.stat(file).st_mode & 0o777, 0o600)
+            self.assertEqual(first[0], first[1])
+            self.assertGreater(len(first[0]), 2)
 
     def test_a_negative_number_is_a_value_and_not_an_option(self):
         chart = json.loads(self.succeed("chart", "--birth", "1990-07-05 14:30", "--offset", "-5",
