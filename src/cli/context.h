@@ -83,6 +83,7 @@ void AddChartsCommands(CLI::App& app, Context& context);      // charts
 void AddPlanetCommands(CLI::App& app, Context& context);      // planet
 void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
 void AddSettingsCommands(CLI::App& app, Context& context);    // settings
+void AddSkyCommands(CLI::App& app, Context& context);         // sky, hora
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
 
 }  // namespace orvex::cli

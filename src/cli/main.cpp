@@ -59,6 +59,7 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddPlanetCommands(app, context);
   orvex::cli::AddRemedyCommands(app, context);
   orvex::cli::AddSettingsCommands(app, context);
+  orvex::cli::AddSkyCommands(app, context);
 
   const int status = Run(app, argc, argv);
   if (context.EphemerisFellBack()) {
