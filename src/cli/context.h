@@ -84,6 +84,7 @@ void AddPlanetCommands(CLI::App& app, Context& context);      // planet
 void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
 void AddSettingsCommands(CLI::App& app, Context& context);    // settings
 void AddSkyCommands(CLI::App& app, Context& context);         // sky, hora
+void AddReportCommands(CLI::App& app, Context& context);      // report
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
 
 }  // namespace orvex::cli

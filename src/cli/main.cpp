@@ -56,6 +56,7 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddHoroscopeCommands(app, context);
   orvex::cli::AddDivisionalCommands(app, context);
   orvex::cli::AddChartsCommands(app, context);
+  orvex::cli::AddReportCommands(app, context);
   orvex::cli::AddPlanetCommands(app, context);
   orvex::cli::AddRemedyCommands(app, context);
   orvex::cli::AddSettingsCommands(app, context);

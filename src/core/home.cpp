@@ -79,6 +79,17 @@ fs::path ShippedDataFolder() {
                                             : fs::path(ORVEX_DATA_FOLDER);
 }
 
+std::string ReadTextFile(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  std::ostringstream text;
+  text << stream.rdbuf();
+  std::error_code ignored;
+  if (!stream || !fs::is_regular_file(file, ignored)) {
+    throw std::runtime_error("The file " + file.string() + " could not be read.");
+  }
+  return text.str();
+}
+
 void WriteFileSafely(const fs::path& file, const std::string& content) {
   // A name of its own for each writer: two that write at once must not share a file.
   std::string beside = file.string() + ".XXXXXX";

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace orvex::core {
 
@@ -13,6 +14,7 @@ struct Home {
   std::filesystem::path DataFolder() const { return Folder / "Data"; }
   std::filesystem::path StoreFile() const { return DataFolder() / "ORVD.mdb"; }
   std::filesystem::path ChartFolder() const { return Folder / "Charts"; }
+  std::filesystem::path ReportTemplate() const { return Folder / "HoroscopeTemplate.htm"; }
   std::filesystem::path LockFile() const { return Folder / ".lock"; }
 };
 
@@ -48,6 +50,9 @@ std::filesystem::path ShippedDataFolder();
 
 // The folder of the running program.
 std::filesystem::path ProgramFolder();
+
+// The bytes of a file. std::runtime_error where it could not be read.
+std::string ReadTextFile(const std::filesystem::path& file);
 
 // Writes a file beside and renames it, with the rights 0600; the old file stays whole until then.
 // std::runtime_error where it could not be written.

@@ -56,12 +56,21 @@ std::optional<FileLock> LockHome(const StartupPlan& plan) {
   return lock;
 }
 
+// A new home gets the shipped template, which its owner may then change; an own one stays.
+void CopyReportTemplate(const StartupPlan& plan) {
+  const std::filesystem::path own = plan.Place.ReportTemplate();
+  if (!std::filesystem::exists(own)) {
+    WriteFileSafely(own, ReadTextFile(plan.ShippedData / own.filename()));
+  }
+}
+
 Store OpenStore(const StartupPlan& plan, bool locked) {
   try {
     if (locked && !std::filesystem::exists(plan.Place.StoreFile())) {
       if (!MakePrivateFolders(plan.Place.DataFolder())) {
         throw StartRefusal{kNoDatabase};
       }
+      CopyReportTemplate(plan);
       CreateStore(plan.Place.StoreFile(), plan.ShippedData);
     }
     return Store::Open(plan.Place.StoreFile());
