@@ -59,6 +59,7 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddReportCommands(app, context);
   orvex::cli::AddPlanetCommands(app, context);
   orvex::cli::AddRemedyCommands(app, context);
+  orvex::cli::AddTransitCommands(app, context);
   orvex::cli::AddSettingsCommands(app, context);
   orvex::cli::AddSkyCommands(app, context);
 
