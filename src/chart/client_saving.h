@@ -66,6 +66,19 @@ struct ClientRecord {
   ChartResult Chart;
 };
 
+// The chart of a form that passes the checks, or why there is none.
+struct CheckedChart {
+  ChartResult Chart;
+  std::optional<core::Refusal> Refused;
+};
+
+// Checks a form and computes its chart; nothing is written.
+CheckedChart CheckAndCompute(core::Session& session, const ClientForm& form);
+
+// Writes the rows of a client inside a batch of the caller and gives the id. StoreError where a
+// statement fails.
+std::int32_t InsertClientRows(core::Session& session, const ClientRecord& record);
+
 // Writes a new client whose chart is computed. StoreError where a statement fails; what was written
 // before it stays.
 std::int32_t InsertClient(core::Session& session, const ClientRecord& record);
