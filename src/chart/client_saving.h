@@ -24,6 +24,7 @@ struct ClientForm {
   bool AscendantByHand = false;
   std::string AscendantDegree;
   std::int32_t CityId = 0;  // 0: none chosen
+  bool CityInSight = true;  // the city's row is selected in the list that is shown
   std::string Latitude;
   std::string Longitude;
   std::string Offset;

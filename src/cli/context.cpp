@@ -1,6 +1,5 @@
 #include "cli/context.h"
 
-#include <cstdlib>
 #include <iostream>
 
 #include "core/exact_numbers.h"
@@ -9,38 +8,11 @@
 
 namespace orvex::cli {
 
-namespace {
-
-std::string Environment(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? "" : value;
-}
-
-}  // namespace
-
 core::MessageAnswer ErrorMessages::ShowMessage(const std::string& text,
                                                core::MessageButtons buttons,
                                                core::MessageIcon /*icon*/) {
   std::cerr << text << "\n";
   return buttons == core::MessageButtons::YesNo ? core::MessageAnswer::No : core::MessageAnswer::Ok;
-}
-
-std::filesystem::path HomeFolder(const std::string& option) {
-  if (!option.empty()) {
-    return option;
-  }
-  if (const std::string home = Environment("ORVEX_HOME"); !home.empty()) {
-    return home;
-  }
-  std::filesystem::path program = core::ProgramFolder();
-  std::error_code error;
-  if (std::filesystem::is_directory(program / "Data", error)) {
-    return program;
-  }
-  if (const std::string data = Environment("XDG_DATA_HOME"); !data.empty()) {
-    return std::filesystem::path(data) / "orvex";
-  }
-  return std::filesystem::path(Environment("HOME")) / ".local" / "share" / "orvex";
 }
 
 core::DateTime MomentOption(const std::string& name, const std::string& text) {
@@ -108,8 +80,9 @@ const core::Clock& Context::Time() {
 
 core::Session& Context::Open(core::StartMode mode) {
   if (!session_) {
-    const core::StartupPlan plan{core::Home{HomeFolder(HomeOption)}, core::ShippedDataFolder(),
-                                 core::MachineSettings::DefaultFile(), mode};
+    const core::StartupPlan plan{core::Home{core::HomeFolder(HomeOption)},
+                                 core::ShippedDataFolder(), core::MachineSettings::DefaultFile(),
+                                 mode};
     session_ = core::RunStartup(plan, Time(), messages_, ephemeris_);
     if (!session_) {
       throw CommandFailed("");

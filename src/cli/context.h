@@ -59,10 +59,6 @@ class Context {
   std::unique_ptr<core::Session> session_;
 };
 
-// The home of a call: the option, else $ORVEX_HOME, else the program's folder if it holds "Data",
-// else the user's data folder.
-std::filesystem::path HomeFolder(const std::string& option);
-
 // The date or moment of an option's text. CommandFailed for a text that names none.
 core::DateTime MomentOption(const std::string& name, const std::string& text);
 

@@ -15,6 +15,15 @@ namespace orvex::core {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+std::string Environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+}  // namespace
+
 bool MakePrivateFolders(const fs::path& folder) {
   constexpr mode_t kPrivate = 0700;
   std::error_code error;
@@ -64,6 +73,24 @@ FileLock::~FileLock() {
   if (descriptor_ >= 0) {
     ::close(descriptor_);
   }
+}
+
+fs::path HomeFolder(const std::string& option) {
+  if (!option.empty()) {
+    return option;
+  }
+  if (const std::string home = Environment("ORVEX_HOME"); !home.empty()) {
+    return home;
+  }
+  fs::path program = ProgramFolder();
+  std::error_code error;
+  if (fs::is_directory(program / "Data", error)) {
+    return program;
+  }
+  if (const std::string data = Environment("XDG_DATA_HOME"); !data.empty()) {
+    return fs::path(data) / "orvex";
+  }
+  return fs::path(Environment("HOME")) / ".local" / "share" / "orvex";
 }
 
 fs::path ProgramFolder() {

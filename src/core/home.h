@@ -18,6 +18,10 @@ struct Home {
   std::filesystem::path LockFile() const { return Folder / ".lock"; }
 };
 
+// The home of a run: the option given, else $ORVEX_HOME, else the program's folder if it holds
+// "Data", else the user's data folder.
+std::filesystem::path HomeFolder(const std::string& option);
+
 // Makes the folder and those above it that are missing, with the rights 0700. False where one
 // could not be made.
 bool MakePrivateFolders(const std::filesystem::path& folder);
