@@ -4,6 +4,7 @@
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "practice/groups.h"
 
 namespace orvex::cli {
 
@@ -41,6 +42,17 @@ double NumberOption(const std::string& name, const std::string& text, double low
   return *number;
 }
 
+std::int32_t GroupFor(const core::Session& session, const std::optional<std::string>& option) {
+  const std::string condition =
+      option ? " where id = " + core::PaddedWhole(WholeOption("--group", *option), 1) : "";
+  const core::Result group = session.StoreConnection.Query(
+      "Select id, groupname from group_master" + condition + " order by groupname");
+  if (group.AtEnd()) {
+    throw CommandFailed(option ? "There is no group with that id." : practice::kNoGroupsStatus);
+  }
+  return static_cast<std::int32_t>(group.Integer("id"));
+}
+
 CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                      std::function<void()> run) {
   CLI::App* command = parent.add_subcommand(name, description);
@@ -55,17 +67,23 @@ std::int32_t Context::Saved(const core::SaveResult& result) {
   return result.Id;
 }
 
-core::Session& Context::Open(core::StartMode mode) {
-  if (!session_) {
+const core::Clock& Context::Time() {
+  if (!clock_) {
     if (NowOption.empty()) {
       clock_ = std::make_unique<core::SystemClock>();
     } else {
       clock_ = std::make_unique<core::FixedClock>(MomentOption("--now", NowOption));
     }
+  }
+  return *clock_;
+}
+
+core::Session& Context::Open(core::StartMode mode) {
+  if (!session_) {
     const core::StartupPlan plan{core::Home{core::HomeFolder(HomeOption)},
                                  core::ShippedDataFolder(), core::MachineSettings::DefaultFile(),
                                  mode};
-    session_ = core::RunStartup(plan, *clock_, messages_, ephemeris_);
+    session_ = core::RunStartup(plan, Time(), messages_, ephemeris_);
     if (!session_) {
       throw CommandFailed("");
     }

@@ -45,7 +45,7 @@ TableView::TableView(QWidget* parent) : QTableView(parent), model_(new TableMode
   horizontalHeader()->setSortIndicatorClearable(true);
   horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   setSortingEnabled(true);
-  connect(this, &QTableView::activated, this, [this](const QModelIndex& index) {
+  connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
     emit TagActivated(Shown(model_->TagOf(index.row())));
   });
 }
@@ -175,6 +175,11 @@ QSize TableView::sizeHint() const {
 void TableView::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) {
     CopyToClipboard();
+    return;
+  }
+  const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enters && currentIndex().isValid()) {
+    emit TagActivated(Shown(model_->TagOf(currentIndex().row())));
     return;
   }
   QTableView::keyPressEvent(event);
