@@ -1,6 +1,7 @@
 #include "ui/horoscope/chart_page.h"
 
 #include <QHBoxLayout>
+#include <QRadioButton>
 #include <QSplitter>
 
 #include "ui/base/theme.h"
@@ -14,7 +15,12 @@ ChartPage::ChartPage(HoroscopeDocument& document)
       chalit_(new ChartView("chalitChart")),
       planets_(new CatalogueTable(document, "PlanetTable")),
       cusps_(new CatalogueTable(document, "CuspTable")),
-      ruling_(new CatalogueTable(document, "RulingPlanets")) {
+      ruling_(new CatalogueTable(document, "RulingPlanets")),
+      ofBirth_(new QRadioButton(tr("At &birth"))),
+      ofNow_(new QRadioButton(tr("&Now"))) {
+  ofBirth_->setObjectName("rulingOfBirth");
+  ofNow_->setObjectName("rulingOfNow");
+  ofBirth_->setChecked(true);
   auto* halves = new QSplitter(Qt::Horizontal);
   halves->setObjectName("chartHalves");
   halves->addWidget(LayOutCharts());
@@ -40,7 +46,7 @@ QSplitter* ChartPage::LayOutTables() {
   auto* lower = new QSplitter(Qt::Horizontal);
   lower->setObjectName("chartLowerTables");
   lower->addWidget(cusps_);
-  lower->addWidget(ruling_);
+  lower->addWidget(LayOutRulingPlanets());
   lower->setStretchFactor(0, 3);
   lower->setStretchFactor(1, 1);
   Remember(Document().Place().Layout, *lower);
@@ -52,7 +58,21 @@ QSplitter* ChartPage::LayOutTables() {
   return tables;
 }
 
+QWidget* ChartPage::LayOutRulingPlanets() {
+  auto* part = new QWidget;
+  auto* choice = new QHBoxLayout;
+  choice->addWidget(ofBirth_);
+  choice->addWidget(ofNow_);
+  choice->addStretch(1);
+  auto* layout = new QVBoxLayout(part);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(ruling_, 1);
+  layout->addLayout(choice);
+  return part;
+}
+
 void ChartPage::Connect() {
+  connect(ofNow_, &QRadioButton::toggled, this, &ChartPage::ShowRulingPlanets);
   for (CatalogueTable* table : {planets_, cusps_, ruling_}) {
     connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
   }
@@ -69,9 +89,19 @@ void ChartPage::ShowModel() {
   const report::ChartCells cells = report::BuildChartCells(Model());
   rashi_->SetPicture(report::RashiPicture(cells, Document().Style()));
   chalit_->SetPicture(report::ChalitPicture(cells, Document().Style()));
-  for (CatalogueTable* table : {planets_, cusps_, ruling_}) {
-    table->ShowModel();
+  planets_->ShowModel();
+  cusps_->ShowModel();
+  ShowRulingPlanets();
+}
+
+void ChartPage::ShowRulingPlanets() {
+  if (ofNow_->isChecked()) {
+    ruling_->View().SetTable(Document().RulingPlanetsNow());
+  } else {
+    ruling_->ShowModel();
   }
 }
+
+void ChartPage::ShowRulingPlanetsOfBirth() { ofBirth_->setChecked(true); }
 
 }  // namespace orvex::ui

@@ -5,6 +5,7 @@
 #include "ui/horoscope/chart_view.h"
 #include "ui/horoscope/horoscope_page.h"
 
+class QRadioButton;
 class QSplitter;
 
 namespace orvex::ui {
@@ -17,16 +18,23 @@ class ChartPage final : public HoroscopePage {
 
   void ShowModel() override;
 
+  // The ruling planets of the birth, as reports have them.
+  void ShowRulingPlanetsOfBirth();
+
  private:
   QSplitter* LayOutCharts();
   QSplitter* LayOutTables();
+  QWidget* LayOutRulingPlanets();
   void Connect();
+  void ShowRulingPlanets();
 
   ChartView* rashi_;
   ChartView* chalit_;
   CatalogueTable* planets_;
   CatalogueTable* cusps_;
   CatalogueTable* ruling_;
+  QRadioButton* ofBirth_;
+  QRadioButton* ofNow_;
 };
 
 }  // namespace orvex::ui

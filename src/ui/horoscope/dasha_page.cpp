@@ -74,10 +74,17 @@ void DashaPage::Connect(std::size_t level) {
   connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this, level, &view](const QModelIndex& current) {
             if (!showing_ && current.isValid()) {
-              Document().SelectPeriod(static_cast<chart::DashaLevel>(level),
-                                      view.Model().TableRow(current.row()));
+              OpenLater(level, view.Model().TableRow(current.row()));
             }
           });
+}
+
+void DashaPage::OpenLater(std::size_t level, std::size_t row) {
+  // The lists are filled anew, which must not happen while one of them handles its click or key.
+  QMetaObject::invokeMethod(
+      this,
+      [this, level, row] { Document().SelectPeriod(static_cast<chart::DashaLevel>(level), row); },
+      Qt::QueuedConnection);
 }
 
 void DashaPage::ShowModel() {

@@ -23,6 +23,7 @@ class DashaPage final : public HoroscopePage {
   QSplitter* LayOutLists();
   QSplitter* LayOutSummaries();
   void Connect(std::size_t level);
+  void OpenLater(std::size_t level, std::size_t row);
 
   QLabel* balance_;
   std::array<CatalogueTable*, 4> lists_;

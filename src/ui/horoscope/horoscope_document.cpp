@@ -1,9 +1,11 @@
 #include "ui/horoscope/horoscope_document.h"
 
+#include <algorithm>
 #include <array>
 
 #include "chart/aspects.h"
 #include "chart/transit_now.h"
+#include "panchang/sky_view.h"
 #include "practice/remedies.h"
 #include "ui/painting/picture_files.h"
 
@@ -16,9 +18,7 @@ constexpr int kPictureSide = 720;
 }  // namespace
 
 HoroscopeDocument::HoroscopeDocument(Workplace& place, horoscope::OpenedHoroscope opened)
-    : place_(place),
-      opened_(std::move(opened)),
-      style_(place.Session.State.DefaultChartType) {}
+    : place_(place), opened_(std::move(opened)), style_(place.Session.State.DefaultChartType) {}
 
 void HoroscopeDocument::SetStyle(char style) {
   style_ = style;
@@ -63,8 +63,16 @@ void HoroscopeDocument::ReadSkyAgain() {
   emit Changed();
 }
 
-horoscope::Recalculation HoroscopeDocument::Recalculate(
-    const horoscope::RecalculationForm& form) {
+core::Table HoroscopeDocument::RulingPlanetsNow() {
+  panchang::SkyView sky;
+  panchang::GetCurrentTransit(place_.Session, sky);
+  std::vector<core::Row>& rows = sky.SkyRulingPlanets.Rows;
+  // The last row of the sky is the Part of Fortune, which the birth has in its captions.
+  rows.resize(std::min(rows.size(), Model().RulingPlanets.Rows.size()));
+  return sky.SkyRulingPlanets;
+}
+
+horoscope::Recalculation HoroscopeDocument::Recalculate(const horoscope::RecalculationForm& form) {
   return horoscope::Recalculate(place_.Session, Model(), form);
 }
 

@@ -43,6 +43,9 @@ class HoroscopeDocument final : public QObject {
   void ReadRemediesAgain();
   void ReadSkyAgain();
 
+  // The rows of the ruling planets at the present moment.
+  core::Table RulingPlanetsNow();
+
   // The chart for a changed place or moment; the model stays as it is.
   horoscope::Recalculation Recalculate(const horoscope::RecalculationForm& form);
 

@@ -66,6 +66,16 @@ QSplitter* TablesPage::MakeRow(const PagePlan& plan, std::size_t row) {
   return splitter;
 }
 
+CatalogueTable& TablesPage::TableOf(const char* name) {
+  const auto found = std::find_if(tables_.begin(), tables_.end(), [&](CatalogueTable* table) {
+    return table->View().objectName() == name;
+  });
+  if (found == tables_.end()) {
+    throw std::out_of_range(std::string("the page has no table ") + name);
+  }
+  return **found;
+}
+
 void TablesPage::ShowModel() {
   for (const auto& [label, text] : captions_) {
     label->setText(Shown(Model().Captions.*text));

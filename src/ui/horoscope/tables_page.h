@@ -13,8 +13,8 @@ class QSplitter;
 namespace orvex::ui {
 
 struct PagePlan {
-  const char* Name;                             // object name; its splitters are named after it
-  std::vector<const char*> Captions;            // lines above the tables
+  const char* Name;                              // object name; its splitters are named after it
+  std::vector<const char*> Captions;             // lines above the tables
   std::vector<std::vector<const char*>> Tables;  // rows of tables side by side
 };
 
@@ -25,6 +25,9 @@ class TablesPage : public HoroscopePage {
   TablesPage(HoroscopeDocument& document, const PagePlan& plan);
 
   void ShowModel() override;
+
+  // std::out_of_range for a name that the plan does not have.
+  CatalogueTable& TableOf(const char* name);
 
  private:
   QSplitter* MakeRow(const PagePlan& plan, std::size_t row);

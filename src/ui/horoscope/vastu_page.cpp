@@ -29,9 +29,9 @@ VastuPage::VastuPage(HoroscopeDocument& document)
 QWidget* VastuPage::LayOutPlan() {
   auto* plan = new QWidget;
   plan->setObjectName("vastuPlan");
-  auto* note = new FieldLabel(
-      tr("Red deities stand on pads that a square or an opposition strikes.\n"
-         "Rest the pointer on a pad for its slice of the circle."));
+  auto* note =
+      new FieldLabel(tr("Red deities stand on pads that a square or an opposition strikes.\n"
+                        "Rest the pointer on a pad for its slice of the circle."));
   note->setAlignment(Qt::AlignCenter);
   note->setWordWrap(true);
   auto* grid = new QGridLayout(plan);

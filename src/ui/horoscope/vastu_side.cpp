@@ -24,7 +24,7 @@ enum Ring { kSectors, kNames, kOuter, kInner };
 
 VastuSide::VastuSide(PlanSide side) : side_(side) {
   constexpr std::array<const char*, 4> kObjectNames = {"vastuNorth", "vastuEast", "vastuSouth",
-                                                 "vastuWest"};
+                                                       "vastuWest"};
   setObjectName(kObjectNames.at(static_cast<std::size_t>(side)));
   setRowCount(IsUpright() ? kPadsOfSide : kDepth);
   setColumnCount(IsUpright() ? kDepth : kPadsOfSide);
