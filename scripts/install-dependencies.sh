@@ -6,12 +6,13 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build ccache pkg-config
   libswe-dev swe-basic-data swe-standard-data
-  libsqlite3-dev libfmt-dev nlohmann-json3-dev libcli11-dev
+  libsqlite3-dev libxlsxwriter-dev libfmt-dev nlohmann-json3-dev libcli11-dev
   libhowardhinnant-date-dev tzdata
+  qt6-base-dev libqt6svg6-dev fonts-dejavu-core weasyprint
   libical-dev
   libgtest-dev libgmock-dev libbenchmark-dev python3
 )
-development=(clang-format-14 clang-tidy-14 clang-tools-14 locales)
+development=(clang-format-14 clang-tidy-14 clang-tools-14 locales xvfb xdotool)
 if [ "${1:-}" = "--dev" ]; then packages+=("${development[@]}"); fi
 
 missing=()

@@ -48,7 +48,7 @@ std::optional<Refusal> CheckPlace(const core::Session& session, const ClientForm
   if (std::optional<Refusal> refused = CheckOffset(form.Offset)) {
     return refused;
   }
-  if (!PlaceOfCity(session, form.CityId)) {
+  if (!form.CityInSight || !PlaceOfCity(session, form.CityId)) {
     return Refuse("No City selected. Cannot proceed.", "citySearch");
   }
   if (std::optional<Refusal> refused = CheckLatitude(form.Latitude)) {

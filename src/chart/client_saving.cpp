@@ -7,6 +7,7 @@
 #include "chart/client_checks.h"
 #include "chart/zodiac_lookups.h"
 #include "core/exact_numbers.h"
+#include "core/store_write.h"
 #include "core/text.h"
 
 namespace orvex::chart {
@@ -161,27 +162,30 @@ void UpdateClient(core::Session& session, const ClientForm& form, const ChartRes
   batch.Commit();
 }
 
+core::Refusal CouldNotUpdate() { return {core::kCouldNotUpdate, core::MessageIcon::Stop, ""}; }
+
+ChartInput InputOf(const core::Session& session, const ClientForm& form) {
+  return {form.Birth,
+          form.Offset,
+          form.Latitude,
+          form.Longitude,
+          core::ToDouble(PlaceOfCity(session, form.CityId).value().Offset),
+          ChoiceOf(form),
+          static_cast<int>(core::ParseWhole(form.HoraryNumber).value_or(0)),
+          form.AscendantDegree};
+}
+
 // Checks the form, computes its chart and hands it to `write`.
 template <typename Write>
 core::SaveResult Save(core::Session& session, const ClientForm& form, Write write) {
-  if (std::optional<core::Refusal> refused = CheckClient(session, form)) {
-    return {0, std::move(refused)};
+  CheckedChart checked = CheckAndCompute(session, form);
+  if (checked.Refused) {
+    return {0, std::move(checked.Refused)};
   }
   try {
-    const ChartInput input{form.Birth,
-                           form.Offset,
-                           form.Latitude,
-                           form.Longitude,
-                           core::ToDouble(PlaceOfCity(session, form.CityId).value().Offset),
-                           ChoiceOf(form),
-                           static_cast<int>(core::ParseWhole(form.HoraryNumber).value_or(0)),
-                           form.AscendantDegree};
-    return {write(ComputeChart(session, input)), std::nullopt};
-  } catch (const core::DateRangeError&) {
-    return {0, core::Refusal{"The moment lies outside the years 100 to 9999.",
-                             core::MessageIcon::Information, "birth"}};
+    return {write(checked.Chart), std::nullopt};
   } catch (const std::exception&) {
-    return {0, core::Refusal{core::kCouldNotUpdate, core::MessageIcon::Stop, ""}};
+    return {0, CouldNotUpdate()};
   }
 }
 
@@ -241,6 +245,30 @@ std::optional<ClientForm> OpenEditClient(core::Session& session, std::int32_t cl
   form.AscendantByHand = row.Text("ascdegreetype") == "M";
   form.AscendantDegree = form.AscendantByHand ? row.Text("cuspdegree1") : "";
   return form;
+}
+
+CheckedChart CheckAndCompute(core::Session& session, const ClientForm& form) {
+  if (std::optional<core::Refusal> refused = CheckClient(session, form)) {
+    return {{}, std::move(refused)};
+  }
+  try {
+    return {ComputeChart(session, InputOf(session, form)), std::nullopt};
+  } catch (const core::DateRangeError&) {
+    return {{},
+            core::Refusal{"The moment lies outside the years 100 to 9999.",
+                          core::MessageIcon::Information, "birth"}};
+  } catch (const std::exception&) {
+    return {{}, CouldNotUpdate()};
+  }
+}
+
+std::int32_t InsertClientRows(core::Session& session, const ClientRecord& record) {
+  core::Store& store = session.StoreConnection;
+  const std::string created = DateLiteral(session.Time.Now());
+  store.Execute(InsertStatement("client_master", InsertValues(record, created)));
+  const std::int32_t id = core::LastId(store, "client_master");
+  InsertPlanets(session, id, record.Chart);
+  return id;
 }
 
 std::int32_t InsertClient(core::Session& session, const ClientRecord& record) {

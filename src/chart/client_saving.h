@@ -24,6 +24,7 @@ struct ClientForm {
   bool AscendantByHand = false;
   std::string AscendantDegree;
   std::int32_t CityId = 0;  // 0: none chosen
+  bool CityInSight = true;  // the city's row is selected in the list that is shown
   std::string Latitude;
   std::string Longitude;
   std::string Offset;
@@ -65,6 +66,19 @@ struct ClientRecord {
   std::int32_t GroupId = 0;
   ChartResult Chart;
 };
+
+// The chart of a form that passes the checks, or why there is none.
+struct CheckedChart {
+  ChartResult Chart;
+  std::optional<core::Refusal> Refused;
+};
+
+// Checks a form and computes its chart; nothing is written.
+CheckedChart CheckAndCompute(core::Session& session, const ClientForm& form);
+
+// Writes the rows of a client inside a batch of the caller and gives the id. StoreError where a
+// statement fails.
+std::int32_t InsertClientRows(core::Session& session, const ClientRecord& record);
 
 // Writes a new client whose chart is computed. StoreError where a statement fails; what was written
 // before it stays.

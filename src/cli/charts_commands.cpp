@@ -6,6 +6,9 @@
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "report/chart_cells.h"
+#include "report/chart_picture.h"
+#include "ui/painting/offscreen.h"
+#include "ui/painting/picture_files.h"
 
 namespace orvex::cli {
 
@@ -44,9 +47,29 @@ void PrintCells(const char* caption, const std::array<core::Cell, chart::kHouses
   PrintTable(table);
 }
 
-void RunCharts(Context& context, const ChartStyleOptions& options) {
+// Both charts as PNG and SVG, named as those of the report.
+void WritePictures(const report::ChartCells& cells, char style, const std::string& clientId,
+                   const std::filesystem::path& folder) {
+  constexpr int kSide = 1200;
+  if (!core::MakePrivateFolders(folder)) {
+    throw CommandFailed("The folder " + folder.string() + " could not be made.");
+  }
+  const ui::OffscreenPainting painting;
+  for (const auto& [name, picture] : {std::pair{"Rashi-", report::RashiPicture(cells, style)},
+                                      std::pair{"Chalit-", report::ChalitPicture(cells, style)}}) {
+    const std::string file = (folder / (name + clientId)).string();
+    ui::WriteChartPicture(picture, ui::PictureFormat::Png, kSide, file + ".png");
+    ui::WriteChartPicture(picture, ui::PictureFormat::Svg, kSide, file + ".svg");
+  }
+}
+
+void RunCharts(Context& context, const ChartStyleOptions& options, const std::string& pictures) {
   const horoscope::OpenedHoroscope opened = OpenHoroscope(context, options.Id);
   const report::ChartCells cells = report::BuildChartCells(opened.Model);
+  if (!pictures.empty()) {
+    WritePictures(cells, StyleOf(context, options), core::PaddedWhole(opened.Model.ClientId, 1),
+                  pictures);
+  }
   if (context.Json) {
     PrintJson({{"north", CellsJson(cells.North)},
                {"east", CellsJson(cells.East)},
@@ -72,9 +95,12 @@ void RunCharts(Context& context, const ChartStyleOptions& options) {
 
 void AddChartsCommands(CLI::App& app, Context& context) {
   auto options = std::make_shared<ChartStyleOptions>();
-  CLI::App* command = AddCommand(app, "charts", "the cells of a client's charts",
-                                 [&context, options] { RunCharts(context, *options); });
+  auto pictures = std::make_shared<std::string>();
+  CLI::App* command =
+      AddCommand(app, "charts", "the cells of a client's charts",
+                 [&context, options, pictures] { RunCharts(context, *options, *pictures); });
   AddStyleOptions(*command, *options);
+  command->add_option("--picture", *pictures, "a folder: the charts there as PNG and SVG");
 }
 
 }  // namespace orvex::cli

@@ -3,11 +3,13 @@
 #include <thread>
 
 #include "chart/client_saving.h"
+#include "chart/instant_chart.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "horoscope/client_facts.h"
+#include "practice/client_csv.h"
 #include "practice/client_list.h"
 
 namespace orvex::cli {
@@ -31,6 +33,8 @@ struct ClientOptions {
   std::optional<std::string> Question;
   std::optional<std::string> Ascendant;
   std::string Id;
+  bool Csv = false;
+  bool Yes = false;
 };
 
 void AddFieldOptions(CLI::App& command, ClientOptions& options) {
@@ -89,19 +93,6 @@ void Apply(const core::Session& session, const ClientOptions& options, chart::Cl
   Take(options.Mobile, form.Mobile);
   Take(options.Comments, form.Comments);
   ApplyQuery(options, form);
-}
-
-// The group that a new client goes to: the one named, else the first by name.
-std::int32_t GroupFor(const core::Session& session, const std::optional<std::string>& option) {
-  const std::string condition =
-      option ? " where id = " + core::PaddedWhole(WholeOption("--group", *option), 1) : "";
-  const core::Result group = session.StoreConnection.Query(
-      "Select id, groupname from group_master" + condition + " order by groupname");
-  if (group.AtEnd()) {
-    throw CommandFailed(option ? "There is no group with that id."
-                               : "No Groups defined. Please add a Group to get started.");
-  }
-  return static_cast<std::int32_t>(group.Integer("id"));
 }
 
 // A new client is found again by the second of its creation. A script may add several in one
@@ -243,7 +234,31 @@ void RunList(Context& context, const ClientOptions& options) {
   if (options.Group) {
     group = WholeOption("--group", *options.Group);
   }
+  if (options.Csv) {
+    std::cout << practice::ClientsAsCsv(context.Reading(), group);
+    return;
+  }
   PrintList(practice::LoadClientsOfGroup(context.Reading(), group), context.Json);
+}
+
+void RunMove(Context& context, const ClientOptions& options) {
+  const std::int32_t id = WholeOption("ID", options.Id);
+  const std::int32_t group = WholeOption("--group", options.Group.value());
+  PrintId(Context::Saved(practice::MoveClient(context.Writing(), id, group)), context.Json);
+}
+
+void RunDelete(Context& context, const ClientOptions& options) {
+  const std::int32_t id = WholeOption("ID", options.Id);
+  if (!options.Yes) {
+    throw CommandFailed(practice::kDeleteClientQuestion);
+  }
+  PrintId(Context::Saved(practice::DeleteClient(context.Writing(), id)), context.Json);
+}
+
+void RunInstant(Context& context) {
+  core::Session& session = context.Writing();
+  AwaitFreshSecond(session);
+  PrintId(Context::Saved(chart::CreateInstantChart(session)), context.Json);
 }
 
 }  // namespace
@@ -271,9 +286,22 @@ void AddClientCommands(CLI::App& app, Context& context) {
 
   const auto [listCommand, listOptions] = add("list", "list the clients", RunList);
   listCommand->add_option("--group", listOptions->Group, "id of the group");
+  listCommand->add_flag("--csv", listOptions->Csv, "in the form that import takes");
+
+  const auto [moveCommand, moveOptions] = add("move", "move a client to another group", RunMove);
+  moveCommand->add_option("ID", moveOptions->Id, "id of the client")->required();
+  moveCommand->add_option("--group", moveOptions->Group, "id of the group")->required();
+
+  const auto [deleteCommand, deleteOptions] =
+      add("delete", "delete a client with its remedies", RunDelete);
+  deleteCommand->add_option("ID", deleteOptions->Id, "id of the client")->required();
+  deleteCommand->add_flag("--yes", deleteOptions->Yes, "do not ask");
 
   const auto [showCommand, showOptions] = add("show", "show a client and its chart", RunShow);
   showCommand->add_option("ID", showOptions->Id, "id of the client")->required();
+
+  AddCommand(app, "instant", "save a chart of this moment at the user city",
+             [&context] { RunInstant(context); });
 }
 
 }  // namespace orvex::cli

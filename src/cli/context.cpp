@@ -1,45 +1,18 @@
 #include "cli/context.h"
 
-#include <cstdlib>
 #include <iostream>
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "practice/groups.h"
 
 namespace orvex::cli {
-
-namespace {
-
-std::string Environment(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? "" : value;
-}
-
-}  // namespace
 
 core::MessageAnswer ErrorMessages::ShowMessage(const std::string& text,
                                                core::MessageButtons buttons,
                                                core::MessageIcon /*icon*/) {
   std::cerr << text << "\n";
   return buttons == core::MessageButtons::YesNo ? core::MessageAnswer::No : core::MessageAnswer::Ok;
-}
-
-std::filesystem::path HomeFolder(const std::string& option) {
-  if (!option.empty()) {
-    return option;
-  }
-  if (const std::string home = Environment("ORVEX_HOME"); !home.empty()) {
-    return home;
-  }
-  std::filesystem::path program = core::ProgramFolder();
-  std::error_code error;
-  if (std::filesystem::is_directory(program / "Data", error)) {
-    return program;
-  }
-  if (const std::string data = Environment("XDG_DATA_HOME"); !data.empty()) {
-    return std::filesystem::path(data) / "orvex";
-  }
-  return std::filesystem::path(Environment("HOME")) / ".local" / "share" / "orvex";
 }
 
 core::DateTime MomentOption(const std::string& name, const std::string& text) {
@@ -69,6 +42,17 @@ double NumberOption(const std::string& name, const std::string& text, double low
   return *number;
 }
 
+std::int32_t GroupFor(const core::Session& session, const std::optional<std::string>& option) {
+  const std::string condition =
+      option ? " where id = " + core::PaddedWhole(WholeOption("--group", *option), 1) : "";
+  const core::Result group = session.StoreConnection.Query(
+      "Select id, groupname from group_master" + condition + " order by groupname");
+  if (group.AtEnd()) {
+    throw CommandFailed(option ? "There is no group with that id." : practice::kNoGroupsStatus);
+  }
+  return static_cast<std::int32_t>(group.Integer("id"));
+}
+
 CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                      std::function<void()> run) {
   CLI::App* command = parent.add_subcommand(name, description);
@@ -83,16 +67,23 @@ std::int32_t Context::Saved(const core::SaveResult& result) {
   return result.Id;
 }
 
-core::Session& Context::Open(core::StartMode mode) {
-  if (!session_) {
+const core::Clock& Context::Time() {
+  if (!clock_) {
     if (NowOption.empty()) {
       clock_ = std::make_unique<core::SystemClock>();
     } else {
       clock_ = std::make_unique<core::FixedClock>(MomentOption("--now", NowOption));
     }
-    const core::StartupPlan plan{core::Home{HomeFolder(HomeOption)}, core::ShippedDataFolder(),
-                                 core::MachineSettings::DefaultFile(), mode};
-    session_ = core::RunStartup(plan, *clock_, messages_, ephemeris_);
+  }
+  return *clock_;
+}
+
+core::Session& Context::Open(core::StartMode mode) {
+  if (!session_) {
+    const core::StartupPlan plan{core::Home{core::HomeFolder(HomeOption)},
+                                 core::ShippedDataFolder(), core::MachineSettings::DefaultFile(),
+                                 mode};
+    session_ = core::RunStartup(plan, Time(), messages_, ephemeris_);
     if (!session_) {
       throw CommandFailed("");
     }

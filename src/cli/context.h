@@ -38,6 +38,9 @@ class Context {
   core::Session& Reading() { return Open(core::StartMode::Reader); }
   core::Session& Writing() { return Open(core::StartMode::Writer); }
 
+  // The clock of the run.
+  const core::Clock& Time();
+
   // The id that was saved; CommandFailed with the program's message where the form was refused.
   static std::int32_t Saved(const core::SaveResult& result);
 
@@ -56,15 +59,15 @@ class Context {
   std::unique_ptr<core::Session> session_;
 };
 
-// The home of a call: the option, else $ORVEX_HOME, else the program's folder if it holds "Data",
-// else the user's data folder.
-std::filesystem::path HomeFolder(const std::string& option);
-
 // The date or moment of an option's text. CommandFailed for a text that names none.
 core::DateTime MomentOption(const std::string& name, const std::string& text);
 
 // The whole number of an option's or argument's text. CommandFailed for any other text.
 std::int32_t WholeOption(const std::string& name, const std::string& text);
+
+// The id of the group that an option names, else of the first group by name. CommandFailed where
+// there is none.
+std::int32_t GroupFor(const core::Session& session, const std::optional<std::string>& option);
 
 // The number of an option's text within limits. CommandFailed for any other text.
 double NumberOption(const std::string& name, const std::string& text, double low, double high);
@@ -73,16 +76,21 @@ double NumberOption(const std::string& name, const std::string& text, double low
 CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                      std::function<void()> run);
 
-void AddStoreCommands(CLI::App& app, Context& context);       // init
+void AddStoreCommands(CLI::App& app, Context& context);       // init, backup, restore
 void AddCityCommands(CLI::App& app, Context& context);        // city
 void AddGroupCommands(CLI::App& app, Context& context);       // group
-void AddClientCommands(CLI::App& app, Context& context);      // client
+void AddClientCommands(CLI::App& app, Context& context);      // client, instant
 void AddChartCommands(CLI::App& app, Context& context);       // chart, sun
 void AddHoroscopeCommands(CLI::App& app, Context& context);   // horoscope, rectify
 void AddChartsCommands(CLI::App& app, Context& context);      // charts
 void AddPlanetCommands(CLI::App& app, Context& context);      // planet
 void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
+void AddSearchCommands(CLI::App& app, Context& context);      // search, birthdays
+void AddExportCommands(CLI::App& app, Context& context);      // export
+void AddImportCommand(CLI::App& app, Context& context);       // import
 void AddSettingsCommands(CLI::App& app, Context& context);    // settings
+void AddSkyCommands(CLI::App& app, Context& context);         // sky, hora
+void AddReportCommands(CLI::App& app, Context& context);      // report
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
 void AddTransitCommands(CLI::App& app, Context& context);     // grid, transit, find
 

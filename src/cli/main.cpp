@@ -56,10 +56,15 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddHoroscopeCommands(app, context);
   orvex::cli::AddDivisionalCommands(app, context);
   orvex::cli::AddChartsCommands(app, context);
+  orvex::cli::AddReportCommands(app, context);
   orvex::cli::AddPlanetCommands(app, context);
   orvex::cli::AddRemedyCommands(app, context);
   orvex::cli::AddTransitCommands(app, context);
+  orvex::cli::AddSearchCommands(app, context);
+  orvex::cli::AddExportCommands(app, context);
+  orvex::cli::AddImportCommand(app, context);
   orvex::cli::AddSettingsCommands(app, context);
+  orvex::cli::AddSkyCommands(app, context);
 
   const int status = Run(app, argc, argv);
   if (context.EphemerisFellBack()) {

@@ -15,6 +15,15 @@ namespace orvex::core {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+std::string Environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+}  // namespace
+
 bool MakePrivateFolders(const fs::path& folder) {
   constexpr mode_t kPrivate = 0700;
   std::error_code error;
@@ -66,6 +75,24 @@ FileLock::~FileLock() {
   }
 }
 
+fs::path HomeFolder(const std::string& option) {
+  if (!option.empty()) {
+    return option;
+  }
+  if (const std::string home = Environment("ORVEX_HOME"); !home.empty()) {
+    return home;
+  }
+  fs::path program = ProgramFolder();
+  std::error_code error;
+  if (fs::is_directory(program / "Data", error)) {
+    return program;
+  }
+  if (const std::string data = Environment("XDG_DATA_HOME"); !data.empty()) {
+    return fs::path(data) / "orvex";
+  }
+  return fs::path(Environment("HOME")) / ".local" / "share" / "orvex";
+}
+
 fs::path ProgramFolder() {
   std::error_code error;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);
@@ -77,6 +104,17 @@ fs::path ShippedDataFolder() {
   std::error_code error;
   return fs::is_directory(installed, error) ? fs::canonical(installed)
                                             : fs::path(ORVEX_DATA_FOLDER);
+}
+
+std::string ReadTextFile(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  std::ostringstream text;
+  text << stream.rdbuf();
+  std::error_code ignored;
+  if (!stream || !fs::is_regular_file(file, ignored)) {
+    throw std::runtime_error("The file " + file.string() + " could not be read.");
+  }
+  return text.str();
 }
 
 void WriteFileSafely(const fs::path& file, const std::string& content) {

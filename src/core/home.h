@@ -4,6 +4,7 @@
 #include <chrono>
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace orvex::core {
 
@@ -13,8 +14,13 @@ struct Home {
   std::filesystem::path DataFolder() const { return Folder / "Data"; }
   std::filesystem::path StoreFile() const { return DataFolder() / "ORVD.mdb"; }
   std::filesystem::path ChartFolder() const { return Folder / "Charts"; }
+  std::filesystem::path ReportTemplate() const { return Folder / "HoroscopeTemplate.htm"; }
   std::filesystem::path LockFile() const { return Folder / ".lock"; }
 };
+
+// The home of a run: the option given, else $ORVEX_HOME, else the program's folder if it holds
+// "Data", else the user's data folder.
+std::filesystem::path HomeFolder(const std::string& option);
 
 // Makes the folder and those above it that are missing, with the rights 0700. False where one
 // could not be made.
@@ -48,6 +54,9 @@ std::filesystem::path ShippedDataFolder();
 
 // The folder of the running program.
 std::filesystem::path ProgramFolder();
+
+// The bytes of a file. std::runtime_error where it could not be read.
+std::string ReadTextFile(const std::filesystem::path& file);
 
 // Writes a file beside and renames it, with the rights 0600; the old file stays whole until then.
 // std::runtime_error where it could not be written.

@@ -1,5 +1,7 @@
 #include "core/startup.h"
 
+#include "core/attempt.h"
+#include "core/backup.h"
 #include "core/exact_numbers.h"
 #include "core/store_schema.h"
 #include "core/text.h"
@@ -23,6 +25,10 @@ constexpr const char* kReadOnlyDatabase =
     "under the Data folder; nothing was changed.";
 constexpr const char* kStartFailed =
     "Orvex+ encountered an issue while starting. Please restart Orvex+ and retry.";
+
+constexpr const char* kNoBackup =
+    "The daily copy of the database could not be made. Please check the folder Backups under the "
+    "Data folder.";
 
 constexpr const char* kMachineApp = "Orvex 3.0";
 constexpr const char* kMachineSection = "Settings";
@@ -56,12 +62,21 @@ std::optional<FileLock> LockHome(const StartupPlan& plan) {
   return lock;
 }
 
+// A new home gets the shipped template, which its owner may then change; an own one stays.
+void CopyReportTemplate(const StartupPlan& plan) {
+  const std::filesystem::path own = plan.Place.ReportTemplate();
+  if (!std::filesystem::exists(own)) {
+    WriteFileSafely(own, ReadTextFile(plan.ShippedData / own.filename()));
+  }
+}
+
 Store OpenStore(const StartupPlan& plan, bool locked) {
   try {
     if (locked && !std::filesystem::exists(plan.Place.StoreFile())) {
       if (!MakePrivateFolders(plan.Place.DataFolder())) {
         throw StartRefusal{kNoDatabase};
       }
+      CopyReportTemplate(plan);
       CreateStore(plan.Place.StoreFile(), plan.ShippedData);
     }
     return Store::Open(plan.Place.StoreFile());
@@ -90,6 +105,10 @@ std::unique_ptr<Session> Start(const StartupPlan& plan, const Clock& clock, Mess
   }
   std::optional<FileLock> lock = LockHome(plan);
   Store store = OpenStore(plan, lock.has_value());
+  if (plan.Mode != StartMode::Reader &&
+      !Attempt([&] { BackUpStoreDaily(plan.Place, store, clock); })) {
+    messages.ShowMessage(kNoBackup, MessageButtons::Ok, MessageIcon::Information);
+  }
   try {
     // A reader beside a running program leaves the repairs to that program.
     if (lock) {

@@ -165,13 +165,15 @@ int Result::Field(std::string_view name) const {
   if (atEnd_) {
     throw StoreError(StoreFault::Statement, "a field read behind the last row");
   }
-  const std::string wanted = LowerCase(name);
-  for (int i = 0; i < sqlite3_column_count(statement_.get()); ++i) {
-    if (LowerCase(sqlite3_column_name(statement_.get(), i)) == wanted) {
+  const int count = sqlite3_column_count(statement_.get());
+  for (int i = 0; i < count; ++i) {
+    const char* column = sqlite3_column_name(statement_.get(), i);
+    if (sqlite3_strnicmp(column, name.data(), static_cast<int>(name.size())) == 0 &&
+        column[name.size()] == '\0') {
       return i;
     }
   }
-  throw StoreError(StoreFault::Statement, "no field " + wanted);
+  throw StoreError(StoreFault::Statement, "no field " + std::string(name));
 }
 
 bool Result::IsNull(std::string_view field) const {
@@ -278,6 +280,19 @@ std::int64_t Store::Execute(std::string_view statement) {
   return sqlite3_changes64(connection_.get());
 }
 
+void Store::BackUpTo(const std::filesystem::path& file) const {
+  const Store copy(OpenConnection(file));
+  constexpr int kAllPages = -1;
+  sqlite3_backup* backup =
+      sqlite3_backup_init(copy.connection_.get(), "main", connection_.get(), "main");
+  if (backup != nullptr) {
+    sqlite3_backup_step(backup, kAllPages);
+  }
+  if (backup == nullptr || sqlite3_backup_finish(backup) != SQLITE_OK) {
+    copy.Fail("the database could not be copied");
+  }
+}
+
 void Store::ExecuteScript(const std::string& script) {
   if (sqlite3_exec(connection_.get(), script.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
     Fail("a schema statement failed");
@@ -316,6 +331,11 @@ Batch::~Batch() {
 
 void Batch::Commit() {
   store_.ExecuteScript("commit");
+  open_ = false;
+}
+
+void Batch::Undo() {
+  store_.ExecuteScript("rollback");
   open_ = false;
 }
 

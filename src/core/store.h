@@ -74,7 +74,7 @@ class Result {
 class Store {
  public:
   // The newest form of the schema; a store that says more was written by a later release.
-  static constexpr int kSchemaVersion = 2;
+  static constexpr int kSchemaVersion = 3;
 
   // Opens a store for reading and writing. Nothing in the file is changed. StoreError with the
   // fault for what is missing, foreign, cut short, later or read-only.
@@ -89,6 +89,10 @@ class Store {
 
   // Runs one statement without a result. Returns the number of rows changed.
   std::int64_t Execute(std::string_view statement);
+
+  // Copies the whole store to a new file by the engine's online backup. StoreError(Statement) where
+  // that fails.
+  void BackUpTo(const std::filesystem::path& file) const;
 
   // Runs the statements of a schema file, in the engine's own form.
   void ExecuteScript(const std::string& script);
@@ -122,6 +126,9 @@ class Batch {
 
   // Writes the batch to the disk. StoreError(Statement) where that fails; nothing of it is kept.
   void Commit();
+
+  // Takes back all that the batch has written.
+  void Undo();
 
  private:
   Store& store_;

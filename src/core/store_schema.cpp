@@ -164,6 +164,20 @@ void FillAddedColumns(Store& store, const std::set<std::string>& added) {
   }
 }
 
+// The schema files after the tables; each says its number in user_version.
+void RunNewerSchemaFiles(Store& store, const fs::path& shippedData) {
+  constexpr std::array<std::pair<int, const char*>, 2> kFiles = {
+      {{2, "002_indexes.sql"}, {3, "003_search_indexes.sql"}}};
+  static_assert(kFiles.back().first == Store::kSchemaVersion);
+  const std::int64_t present =
+      store.Query("Select user_version from pragma_user_version").Integer("user_version");
+  for (const auto& [number, file] : kFiles) {
+    if (present < number) {
+      store.ExecuteScript(ReadWhole(shippedData / "schema" / file));
+    }
+  }
+}
+
 }  // namespace
 
 void CreateStore(const fs::path& file, const fs::path& shippedData) {
@@ -187,10 +201,7 @@ void ApplyStoreUpgrades(Store& store, const fs::path& shippedData) {
   const std::set<std::string> added = AddMissingColumns(store);
   RepairSignTable(store);
   FillAddedColumns(store, added);
-  const Result version = store.Query("Select user_version from pragma_user_version");
-  if (version.Integer("user_version") < Store::kSchemaVersion) {
-    store.ExecuteScript(ReadWhole(shippedData / "schema" / "002_indexes.sql"));
-  }
+  RunNewerSchemaFiles(store, shippedData);
   batch.Commit();
   SyncStore(store);
 }

@@ -1,10 +1,38 @@
 #include "practice/client_list.h"
 
+#include <algorithm>
+
 #include "core/exact_numbers.h"
+#include "core/store_write.h"
+#include "practice/deletion.h"
+#include "practice/list_cells.h"
 
 namespace orvex::practice {
 
 namespace {
+
+constexpr const char* kNoClient = "There is no client with that id.";
+
+std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
+
+core::Refusal Refuse(const char* text, core::MessageIcon icon = core::MessageIcon::Information) {
+  return {text, icon, "clientList"};
+}
+
+// The group of a client; nothing where the client is gone.
+std::optional<std::int32_t> GroupOf(const core::Session& session, std::int32_t clientId) {
+  const core::Result row = session.StoreConnection.Query(
+      "Select groupid from client_master where id = " + WholeText(clientId));
+  return row.AtEnd() ? std::nullopt
+                     : std::optional(static_cast<std::int32_t>(row.Integer("groupid")));
+}
+
+std::optional<core::Refusal> CheckClosed(const core::Session& session, std::int32_t clientId,
+                                         const char* text) {
+  const std::vector<std::int32_t>& open = session.State.OpenHoroscopes;
+  const bool isOpen = std::find(open.begin(), open.end(), clientId) != open.end();
+  return isOpen ? std::optional(Refuse(text)) : std::nullopt;
+}
 
 core::Table EmptyList() {
   core::Table table;
@@ -20,15 +48,6 @@ core::Table EmptyList() {
   return table;
 }
 
-core::Cell DateCell(const core::Result& row, std::string_view field) {
-  core::Cell cell;
-  if (const std::optional<core::DateTime> moment = row.Moment(field)) {
-    cell.Text = core::LongDateText(*moment, false);
-    cell.SortKey = core::StoredDateTimeText(*moment);
-  }
-  return cell;
-}
-
 void AddClient(const core::Result& row, core::Table& table) {
   table.AddRow().Tag = row.Text("id");
   const std::size_t at = table.Rows.size() - 1;
@@ -37,7 +56,7 @@ void AddClient(const core::Result& row, core::Table& table) {
   table.At(at, ClientColumn::BirthDate) = DateCell(row, "birthdate");
   if (row.Flag("horary")) {
     core::Cell& number = table.At(at, ClientColumn::HoraryNumber);
-    number.Text = row.Text("horaryno");
+    number = NumberCell(row, "horaryno");
     number.Tooltip = row.Text("horaryquestion");
   }
   core::Cell& city = table.At(at, ClientColumn::City);
@@ -53,8 +72,7 @@ void AddClient(const core::Result& row, core::Table& table) {
 }  // namespace
 
 core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::int32_t> groupId) {
-  const std::string ofGroup =
-      groupId ? "cm.groupid = " + core::PaddedWhole(*groupId, 1) + " and " : "";
+  const std::string ofGroup = groupId ? "cm.groupid = " + WholeText(*groupId) + " and " : "";
   core::Table table = EmptyList();
   for (core::Result row = session.StoreConnection.Query(
            "Select cm.*, ct.cityname from client_master cm, city_master ct where " + ofGroup +
@@ -63,6 +81,73 @@ core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::
     AddClient(row, table);
   }
   return table;
+}
+
+std::string ClientCountText(std::size_t count, bool filtered) {
+  return WholeText(static_cast<std::int64_t>(count)) + " client(s)" + (filtered ? " filtered" : "");
+}
+
+std::string TotalClients(const core::Session& session) {
+  return "Total Clients: " +
+         session.StoreConnection.Query("Select count(id) as cnt from client_master").Text("cnt");
+}
+
+ClientColumn SortedColumn(const core::Session& session) {
+  const std::string& column = session.State.SortColumn;
+  if (column == "cm.BirthDate" || column == "cm.Mobile") {
+    return ClientColumn::BirthDate;
+  }
+  if (column == "ct.CityName") {
+    return ClientColumn::City;
+  }
+  if (column == "cm.CreatedDate") {
+    return ClientColumn::CreatedOn;
+  }
+  return column == "cm.Email" ? ClientColumn::Email : ClientColumn::ClientName;
+}
+
+std::optional<core::Refusal> CheckEditClient(const core::Session& session, std::int32_t clientId) {
+  return CheckClosed(session, clientId, "Horoscope can't be edited as it is currently open.");
+}
+
+std::optional<core::Refusal> CheckDeleteClient(const core::Session& session,
+                                               std::int32_t clientId) {
+  return CheckClosed(session, clientId, "Horoscope can't be deleted as it is currently open.");
+}
+
+core::SaveResult DeleteClient(core::Session& session, std::int32_t clientId) {
+  if (std::optional<core::Refusal> refused = CheckDeleteClient(session, clientId)) {
+    return {0, std::move(refused)};
+  }
+  if (!GroupOf(session, clientId)) {
+    return {0, Refuse(kNoClient, core::MessageIcon::Stop)};
+  }
+  return DeleteAfterBackup(session, [clientId](core::Store& store) {
+    const std::string id = WholeText(clientId);
+    store.Execute("Delete from client_planets where clientid = " + id);
+    store.Execute("Delete from client_remedy where clientid = " + id);
+    store.Execute("Delete from client_master where id = " + id);
+    return clientId;
+  });
+}
+
+core::SaveResult MoveClient(core::Session& session, std::int32_t clientId, std::int32_t groupId) {
+  const std::optional<std::int32_t> present = GroupOf(session, clientId);
+  if (!present) {
+    return {0, Refuse(kNoClient, core::MessageIcon::Stop)};
+  }
+  if (*present == groupId) {
+    return {0, Refuse("Source and Destination Groups cannot be the same.")};
+  }
+  if (session.StoreConnection.Query("Select id from group_master where id = " + WholeText(groupId))
+          .AtEnd()) {
+    return {0, Refuse("There is no group with that id.", core::MessageIcon::Stop)};
+  }
+  return core::WriteBatch(session, [clientId, groupId](core::Store& store) {
+    store.Execute("Update client_master set groupid = " + WholeText(groupId) +
+                  " where id = " + WholeText(clientId));
+    return clientId;
+  });
 }
 
 }  // namespace orvex::practice

@@ -3,7 +3,9 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
+#include "core/save_result.h"
 #include "core/session.h"
 #include "core/table.h"
 
@@ -24,5 +26,32 @@ enum class ClientColumn {
 // The clients of a group, or of all groups, in the order of the settings. The tag of a row is the
 // client's id; dates sort by their sort keys. Clients whose city is gone are not listed.
 core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::int32_t> groupId);
+
+// What the list shows without rows.
+inline constexpr const char* kNoClients = "No Clients Found";
+
+// The panel under the list: "12 client(s)", with a filter text "12 client(s) filtered".
+std::string ClientCountText(std::size_t count, bool filtered);
+
+// "Total Clients: " and the number of all clients.
+std::string TotalClients(const core::Session& session);
+
+// The places in the client list of the column that it is sorted and grouped by, as the settings
+// say. A list by mobile number is sorted by the birth date: its code has always named that place.
+ClientColumn SortedColumn(const core::Session& session);
+
+inline constexpr const char* kDeleteClientQuestion =
+    "Are you sure you want to delete the selected Client?";
+
+// Why a client may not be edited or deleted: its horoscope is open. Nothing where it may.
+std::optional<core::Refusal> CheckEditClient(const core::Session& session, std::int32_t clientId);
+std::optional<core::Refusal> CheckDeleteClient(const core::Session& session, std::int32_t clientId);
+
+// Deletes a client with its planets and remedies in one batch, after the store is backed up.
+// Refused where its horoscope is open, it is gone, or the backup fails.
+core::SaveResult DeleteClient(core::Session& session, std::int32_t clientId);
+
+// Moves a client to another group. Refused for its own group and one that is gone.
+core::SaveResult MoveClient(core::Session& session, std::int32_t clientId, std::int32_t groupId);
 
 }  // namespace orvex::practice

@@ -1,8 +1,9 @@
 #include "practice/groups.h"
 
 #include "core/exact_numbers.h"
-#include "core/text.h"
 #include "core/store_write.h"
+#include "core/text.h"
+#include "practice/deletion.h"
 
 namespace orvex::practice {
 
@@ -120,15 +121,32 @@ core::SaveResult RenameGroup(core::Session& session, std::int32_t groupId,
   });
 }
 
+std::optional<core::Refusal> CheckDeleteGroup(const core::Session& session) {
+  if (session.State.OpenHoroscopes.empty()) {
+    return std::nullopt;
+  }
+  return core::Refusal{"Can't delete a Group when one or more Horoscopes are open.",
+                       core::MessageIcon::Information, "groupList"};
+}
+
+std::optional<std::string> OpenEditGroup(core::Session& session, std::int32_t groupId) {
+  const core::Result group = session.StoreConnection.Query(
+      "Select groupname from group_master where id = " + WholeText(groupId));
+  if (group.AtEnd()) {
+    session.Shown.ShowMessage(kNoRecord, core::MessageButtons::Ok, core::MessageIcon::Stop);
+    return std::nullopt;
+  }
+  return group.Text("groupname");
+}
+
 core::SaveResult DeleteGroup(core::Session& session, std::int32_t groupId) {
-  if (!session.State.OpenHoroscopes.empty()) {
-    return Refuse("Can't delete a Group when one or more Horoscopes are open.",
-                  core::MessageIcon::Information);
+  if (std::optional<core::Refusal> refused = CheckDeleteGroup(session)) {
+    return {0, std::move(refused)};
   }
   if (!Exists(session, groupId)) {
     return Refuse(kNoRecord, core::MessageIcon::Stop);
   }
-  return WriteBatch(session, [&session, groupId](core::Store& store) {
+  return DeleteAfterBackup(session, [&session, groupId](core::Store& store) {
     DeleteClients(store, WholeText(groupId));
     store.Execute("Delete from group_master where id = " + WholeText(groupId));
     if (session.State.InstantChartGroupId == groupId) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "core/save_result.h"
@@ -13,6 +14,11 @@ namespace orvex::practice {
 inline constexpr const char* kDeleteGroupQuestion =
     "Are you sure you want to delete the selected Group and all Clients under it?";
 
+// What the lists and the status panel show without groups.
+inline constexpr const char* kNoGroups = "No Groups Found";
+inline constexpr const char* kNoGroupsStatus =
+    "No Groups defined. Please add a Group to get started.";
+
 enum class GroupColumn { GroupName };
 
 // All groups by name. The tag of a row is the group's id.
@@ -23,8 +29,15 @@ core::Table LoadGroups(const core::Session& session);
 core::SaveResult AddGroup(core::Session& session, const std::string& name);
 core::SaveResult RenameGroup(core::Session& session, std::int32_t groupId, const std::string& name);
 
-// Deletes a group with all its clients, in one batch. Refused while a horoscope is open. Where it
-// was the group of the instant charts, the first group takes its place.
+// The name of a stored group as the dialog opens on it; nothing where it is gone, after the
+// program's message.
+std::optional<std::string> OpenEditGroup(core::Session& session, std::int32_t groupId);
+
+// Why no group may be deleted now: a horoscope is open. Nothing where one may.
+std::optional<core::Refusal> CheckDeleteGroup(const core::Session& session);
+
+// Deletes a group with all its clients, in one batch, after the store is backed up. Refused while a
+// horoscope is open. Where it was the group of the instant charts, the first group takes its place.
 core::SaveResult DeleteGroup(core::Session& session, std::int32_t groupId);
 
 }  // namespace orvex::practice

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/exact_numbers.h"
-#include "core/text.h"
 #include "core/store_write.h"
+#include "core/text.h"
 
 namespace orvex::practice {
 
@@ -59,6 +59,10 @@ bool Exists(const core::Session& session, const std::string& table, std::int32_t
 }
 
 }  // namespace
+
+std::string RemedyCaption(const std::string& clientName) {
+  return "Remedy given to: " + clientName;
+}
 
 core::Table LoadRemedies(const core::Session& session, std::int32_t clientId) {
   core::Table table{

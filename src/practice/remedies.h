@@ -16,6 +16,12 @@ inline constexpr const char* kDeleteRemedyQuestion =
 
 enum class RemedyColumn { Problem, Solution, ForPlanet, RemedyDate };
 
+// The caption of the manager's remedy list: for a client, for a list without clients, and while a
+// filter is typed.
+std::string RemedyCaption(const std::string& clientName);
+inline constexpr const char* kNoRemedyCaption = "Remedy Given:";
+inline constexpr const char* kFilteredRemedyCaption = "Remedy given:";
+
 // The remedies of a client by date. The tag of a row is the remedy's id. Planet 0 reads "None"; a
 // number that is no planet reads as the row before it.
 core::Table LoadRemedies(const core::Session& session, std::int32_t clientId);

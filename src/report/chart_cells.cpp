@@ -32,7 +32,8 @@ void FillNorth(const chart::HoroscopeModel& model, std::size_t house, ChartCells
   cell.Tooltip = rashi.Tag + "Direction: " + chart::VastuDirection(sign);
   core::Cell& kp = cells.NorthKP.at(house);
   kp.Tag = HouseText(model, house, HouseColumn::KpChartRashi);
-  kp.Text = core::Trim(kp.Tag + " " + HouseText(model, house, HouseColumn::BcPlanets));
+  kp.Text = "(" + HouseText(model, house, HouseColumn::CuspDegree) + ")\n" +
+            core::Trim(kp.Tag + " " + HouseText(model, house, HouseColumn::BcPlanets));
 }
 
 void FillEast(const chart::HoroscopeModel& model, std::size_t house, ChartCells& cells) {

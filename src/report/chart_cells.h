@@ -13,7 +13,7 @@ using SouthGrid = std::array<std::array<core::Cell, chart::kSouthSide>, chart::k
 
 struct ChartCells {
   std::array<core::Cell, chart::kHouses> North;    // rashi chart by house
-  std::array<core::Cell, chart::kHouses> NorthKP;  // chalit houses: sign of the cusp and planets
+  std::array<core::Cell, chart::kHouses> NorthKP;  // chalit houses: cusp's degree, sign, planets
   std::array<core::Cell, chart::kHouses> East;     // rashi chart by sign
   std::array<core::Cell, chart::kHouses> EastKP;   // planets by chalit house, by the cusp's sign
   SouthGrid SouthRashi;

@@ -1,0 +1,58 @@
+// The search for clients or remedies by filters.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/date_text.h"
+#include "core/save_result.h"
+#include "core/session.h"
+#include "core/table.h"
+
+namespace orvex::practice {
+
+enum class SearchMode { Clients, Remedies };
+enum class DateRange { Any, After, Before, Between };
+
+// clang-format off
+enum class ClientResultColumn {
+  ClientName, Gender, GroupName, BirthDate, Email, Mobile, City, Latitude, Longitude, Offset,
+  Comments
+};
+enum class RemedyResultColumn {
+  ClientName, Gender, GroupName, RemedyDate, Email, Mobile, Problem, Remedy
+};
+// clang-format on
+
+inline constexpr const char* kEmptyResultLine = "Search Result(s):";
+
+struct SearchFilter {
+  SearchMode Mode = SearchMode::Clients;
+  std::optional<std::vector<std::int32_t>> GroupIds;  // nothing: all groups
+  std::string Gender;                                 // "M", "F", "O"; "" any
+  int RetrogradePlanetId = 0;                         // planet_master.id; 0 is passed over
+  int AscendantRashi = 0;                             // 1 to 12; 0 any
+  std::string Text;                                   // as typed
+  DateRange Dates = DateRange::Any;
+  core::DateTime From{};
+  core::DateTime To{};
+  std::optional<int> ForPlanetId;  // remedies only; nothing: any
+};
+
+struct SearchResult {
+  core::Table Results;
+  std::string ResultLine = kEmptyResultLine;
+  std::optional<core::Refusal> Refused;  // no search was run
+};
+
+// The empty result table of a mode.
+core::Table ResultTable(SearchMode mode);
+
+// Runs the search. The tag of a row is the client's id; dates and numbers carry sort keys. The text
+// goes into the statement as typed, so one with a quote makes it fail: a statement that fails gives
+// an empty list. Refused where groups are to be selected and none is.
+SearchResult SearchClients(const core::Session& session, const SearchFilter& filter);
+
+}  // namespace orvex::practice

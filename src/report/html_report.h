@@ -1,0 +1,45 @@
+// The HTML report of an open horoscope: a template whose placeholders are replaced one after the
+// other.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "core/session.h"
+#include "horoscope/create_horoscope.h"
+#include "report/chart_picture.h"
+
+namespace orvex::report {
+
+// How deep the tables of periods go: 81, 729 or 6561 rows.
+enum class ReportDetail { DB, DBA, DBAS };
+
+// Paints a chart into a bitmap file.
+using ChartPainter =
+    std::function<void(const ChartPicture& picture, const std::filesystem::path& file)>;
+
+struct ReportRequest {
+  ReportDetail Detail = ReportDetail::DB;
+  char Style = 'N';
+  ChartPainter Paint;  // not used for style 'S'
+};
+
+// Writes <clientid>.htm into the chart folder, beside it the two pictures for styles 'N' and 'E',
+// and gives its path. The old report stays whole until the new one is. Where the template is
+// missing the program's message is shown, nothing is written and the path is empty.
+// std::runtime_error where the chart folder can't be written.
+std::filesystem::path GenerateHoroscopeView(core::Session& session,
+                                            const horoscope::OpenedHoroscope& opened,
+                                            const ReportRequest& request);
+
+// The report's text for a template. Charts are as in `charts`: two fragments of HTML.
+struct ChartFragments {
+  std::string Rashi;
+  std::string Chalit;
+};
+std::string FillTemplate(const core::Session& session, const chart::HoroscopeModel& model,
+                         ReportDetail detail, const ChartFragments& charts,
+                         const std::string& templateText);
+
+}  // namespace orvex::report

@@ -1,0 +1,71 @@
+#include "ui/app/start.h"
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QLocale>
+#include <iostream>
+#include <memory>
+
+#include "astro/ephemeris_gateway.h"
+#include "core/startup.h"
+#include "ui/base/layout_memory.h"
+#include "ui/base/message_boxes.h"
+#include "ui/base/theme.h"
+#include "ui/base/workplace.h"
+
+namespace orvex::ui {
+
+namespace {
+
+constexpr int kRefused = 1;
+
+// The toolkit ends the process where it finds no display, after several lines of its own. One line
+// tells the user what is wrong.
+void SayThatNoDisplayIsThere(QtMsgType kind, const QMessageLogContext& /*where*/,
+                             const QString& /*text*/) {
+  if (kind == QtFatalMsg) {
+    std::cerr << "Orvex+ needs a display to open its windows; orvex-cli does the same work without "
+                 "one.\n";
+    ::_exit(kRefused);
+  }
+}
+
+std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv) {
+  const QtMessageHandler usual = qInstallMessageHandler(SayThatNoDisplayIsThere);
+  auto application = std::make_unique<QApplication>(argc, argv);
+  qInstallMessageHandler(usual);
+  return application;
+}
+
+std::unique_ptr<core::Clock> ClockOf(const StartOptions& options) {
+  const std::optional<core::DateTime> moment = core::ParseDateTime(options.Now);
+  if (moment) {
+    return std::make_unique<core::FixedClock>(*moment);
+  }
+  return std::make_unique<core::SystemClock>();
+}
+
+}  // namespace
+
+int RunWorkbench(int& argc, char** argv, const StartOptions& options) {
+  const std::unique_ptr<QApplication> application = OpenDisplay(argc, argv);
+  QApplication::setApplicationName("Orvex+");
+  QLocale::setDefault(QLocale::c());
+  Theme::Apply(*application);
+
+  MessageBoxes messages;
+  astro::EphemerisGateway ephemeris;
+  const std::unique_ptr<core::Clock> clock = ClockOf(options);
+  const core::StartupPlan plan{core::Home{core::HomeFolder(options.Home)},
+                               core::ShippedDataFolder(), core::MachineSettings::DefaultFile(),
+                               core::StartMode::Owner};
+  const std::unique_ptr<core::Session> session =
+      core::RunStartup(plan, *clock, messages, ephemeris);
+  if (!session) {
+    return kRefused;
+  }
+  return QApplication::exec();
+}
+
+}  // namespace orvex::ui

@@ -1,0 +1,27 @@
+#include "ui/base/moment_edit.h"
+
+namespace orvex::ui {
+
+namespace {
+
+QDateTimeEdit* MakeEdit(const QString& objectName, const QString& format) {
+  auto* edit = new QDateTimeEdit;
+  edit->setObjectName(objectName);
+  edit->setTimeSpec(Qt::UTC);
+  edit->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+  edit->setDisplayFormat(format);
+  edit->setCalendarPopup(true);
+  return edit;
+}
+
+}  // namespace
+
+QDateTimeEdit* MakeDateEdit(const QString& objectName) {
+  return MakeEdit(objectName, "dd-MM-yyyy");
+}
+
+QDateTimeEdit* MakeMomentEdit(const QString& objectName) {
+  return MakeEdit(objectName, "dd-MM-yyyy hh:mm:ss AP");
+}
+
+}  // namespace orvex::ui

@@ -1,0 +1,227 @@
+#include "ui/base/table_view.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+#include <set>
+
+#include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+
+namespace orvex::ui {
+
+namespace {
+
+constexpr int kWidestColumn = 45 * kGrid;
+
+// A cell's text in one line between tabs.
+QString OneLine(const std::string& text) {
+  return Shown(text).replace('\t', ' ').replace('\n', ' ').remove('\r');
+}
+
+}  // namespace
+
+TableView::TableView(QWidget* parent) : QTableView(parent), model_(new TableModel(this)) {
+  setModel(model_);
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setAlternatingRowColors(true);
+  setShowGrid(false);
+  setWordWrap(false);
+  setTabKeyNavigation(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setCornerButtonEnabled(false);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kGrid);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSortIndicatorClearable(true);
+  horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  setSortingEnabled(true);
+  connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
+    emit TagActivated(Shown(model_->TagOf(index.row())));
+  });
+}
+
+void TableView::SetTable(core::Table table) {
+  model_->SetTable(std::move(table));
+  HideColumns();
+  SizeToContent();
+  SelectMarked();
+}
+
+void TableView::HideColumns() {
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    setColumnHidden(column, Table().Columns[static_cast<std::size_t>(column)].Width == 0);
+  }
+}
+
+void TableView::SizeToContent() {
+  resizeColumnsToContents();
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    if (!isColumnHidden(column) && column != stretchColumn_) {
+      setColumnWidth(column, std::min(columnWidth(column) + kGrid, kWidestColumn));
+    }
+  }
+  if (stretchColumn_ >= 0 && stretchColumn_ < model_->columnCount()) {
+    horizontalHeader()->setSectionResizeMode(stretchColumn_, QHeaderView::Stretch);
+  }
+  if (fitsHeight_) {
+    setFixedHeight(sizeHint().height());
+  }
+  updateGeometry();
+}
+
+void TableView::SelectMarked() {
+  QItemSelection marked;
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    if (Table().Rows[model_->TableRow(row)].Selected) {
+      marked.select(model_->index(row, 0), model_->index(row, model_->columnCount() - 1));
+    }
+  }
+  if (!marked.isEmpty()) {
+    selectionModel()->select(marked, QItemSelectionModel::ClearAndSelect);
+  }
+}
+
+void TableView::SetEmptyText(const QString& text) {
+  emptyText_ = text;
+  viewport()->update();
+}
+
+std::string TableView::SelectedTag() const {
+  const QModelIndexList rows = selectionModel()->selectedRows();
+  return rows.isEmpty() ? "" : model_->TagOf(rows.constFirst().row());
+}
+
+bool TableView::SelectTag(const std::string& tag) {
+  const std::optional<int> row = model_->RowOfTag(tag);
+  if (!row) {
+    return false;
+  }
+  selectRow(*row);
+  setCurrentIndex(model_->index(*row, 0));
+  scrollTo(model_->index(*row, 0), PositionAtCenter);
+  return true;
+}
+
+void TableView::SelectFirst() {
+  if (model_->rowCount() > 0) {
+    selectRow(0);
+    setCurrentIndex(model_->index(0, 0));
+  }
+}
+
+QString TableView::AsTabbedText() const {
+  std::set<int> rows;
+  for (const QModelIndex& index : selectionModel()->selectedRows()) {
+    rows.insert(index.row());
+  }
+  const bool all = rows.size() < 2;
+  QStringList captions;
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    if (!isColumnHidden(column)) {
+      captions << OneLine(Table().Columns[static_cast<std::size_t>(column)].Caption);
+    }
+  }
+  QString text = captions.join('\t') + '\n';
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    if (!all && !rows.contains(row)) {
+      continue;
+    }
+    QStringList cells;
+    for (int column = 0; column < model_->columnCount(); ++column) {
+      if (!isColumnHidden(column)) {
+        cells << OneLine(Typed(model_->index(row, column).data().toString()));
+      }
+    }
+    text += cells.join('\t') + '\n';
+  }
+  return text;
+}
+
+void TableView::CopyToClipboard() const { QGuiApplication::clipboard()->setText(AsTabbedText()); }
+
+void TableView::SetExport(std::function<void(const core::Table&)> exportTable) {
+  export_ = std::move(exportTable);
+}
+
+void TableView::AddMenuAction(QAction* action) { actions_.push_back(action); }
+
+void TableView::FitHeightToRows() {
+  fitsHeight_ = true;
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  SizeToContent();
+}
+
+void TableView::SetStretchColumn(int column) { stretchColumn_ = column; }
+
+QSize TableView::sizeHint() const {
+  constexpr int kMostRows = 14;
+  const int rows = fitsHeight_ ? model_->rowCount() : std::min(model_->rowCount(), kMostRows);
+  const int height = horizontalHeader()->sizeHint().height() +
+                     rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth();
+  const int bar = fitsHeight_ ? 0 : verticalScrollBar()->sizeHint().width();
+  return {horizontalHeader()->length() + bar + 2 * frameWidth(), height};
+}
+
+void TableView::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    CopyToClipboard();
+    return;
+  }
+  const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enters && currentIndex().isValid()) {
+    emit TagActivated(Shown(model_->TagOf(currentIndex().row())));
+    return;
+  }
+  QTableView::keyPressEvent(event);
+}
+
+void TableView::FillMenu(QMenu& menu) {
+  for (QAction* action : actions_) {
+    menu.addAction(action);
+  }
+  if (!actions_.empty()) {
+    menu.addSeparator();
+  }
+  menu.addAction(selectionModel()->selectedRows().size() > 1 ? tr("&Copy rows") : tr("&Copy table"),
+                 QKeySequence::Copy, this, [this] { CopyToClipboard(); });
+  if (export_) {
+    menu.addAction(tr("E&xport to spreadsheet…"), this, [this] { export_(Table()); });
+  }
+}
+
+void TableView::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu menu(this);
+  menu.setObjectName("tableMenu");
+  FillMenu(menu);
+  menu.exec(event->globalPos());
+}
+
+void TableView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (model_->rowCount() > 0 || emptyText_.isEmpty()) {
+    return;
+  }
+  QPainter painter(viewport());
+  painter.setPen(Theme::Muted());
+  painter.drawText(viewport()->rect().adjusted(kGrid, kGrid, -kGrid, -kGrid),
+                   Qt::AlignCenter | Qt::TextWordWrap, emptyText_);
+}
+
+void TableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  if (current.row() != previous.row() || !previous.isValid()) {
+    emit TagChosen(current.isValid() ? Shown(model_->TagOf(current.row())) : QString());
+  }
+}
+
+}  // namespace orvex::ui

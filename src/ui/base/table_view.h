@@ -1,0 +1,85 @@
+// A display table in a window: sized to its content, ordered by a click on a header, searched by
+// typing, copied with Ctrl+C.
+#pragma once
+
+#include <QTableView>
+#include <functional>
+
+#include "ui/base/table_model.h"
+
+class QAction;
+class QMenu;
+
+namespace orvex::ui {
+
+class TableView : public QTableView {
+  Q_OBJECT
+
+ public:
+  explicit TableView(QWidget* parent = nullptr);
+
+  // Shows a table and selects the rows that it marks as selected.
+  void SetTable(core::Table table);
+  const core::Table& Table() const { return model_->Table(); }
+  TableModel& Model() { return *model_; }
+  const TableModel& Model() const { return *model_; }
+
+  // The text that stands in the middle of a table without rows and says what to do next.
+  void SetEmptyText(const QString& text);
+
+  // Narrows the rows as SetFilter of the model does.
+  void SetFilter(const QString& text) { model_->SetFilter(text); }
+
+  // The tag of the selected row, "" without one.
+  std::string SelectedTag() const;
+
+  // Selects the row of a tag and brings it into sight. False where no row has it.
+  bool SelectTag(const std::string& tag);
+  void SelectFirst();
+
+  // The rows of the selection, or all rows without one, with the captions above: cells between
+  // tabs.
+  QString AsTabbedText() const;
+  void CopyToClipboard() const;
+
+  // Offers "Export to spreadsheet" in the context menu.
+  void SetExport(std::function<void(const core::Table&)> exportTable);
+
+  // Entries of the window that stand above those of every table.
+  void AddMenuAction(QAction* action);
+
+  // The table takes the height of its rows and shows no bar of its own.
+  void FitHeightToRows();
+
+  // A column takes the room that is left.
+  void SetStretchColumn(int column);
+
+  QSize sizeHint() const override;
+
+ signals:
+  // Another row is selected; "" for none.
+  void TagChosen(const QString& tag);
+  // A double click or the Enter key on a row.
+  void TagActivated(const QString& tag);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+ private:
+  void SizeToContent();
+  void HideColumns();
+  void SelectMarked();
+  void FillMenu(QMenu& menu);
+
+  TableModel* model_;
+  QString emptyText_;
+  std::function<void(const core::Table&)> export_;
+  std::vector<QAction*> actions_;
+  bool fitsHeight_ = false;
+  int stretchColumn_ = -1;
+};
+
+}  // namespace orvex::ui

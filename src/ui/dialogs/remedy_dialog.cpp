@@ -1,0 +1,93 @@
+#include "ui/dialogs/remedy_dialog.h"
+
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <algorithm>
+
+#include "ui/base/moment_edit.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+
+namespace orvex::ui {
+
+namespace {
+
+QPlainTextEdit* TextBox(const char* name) {
+  auto* box = new QPlainTextEdit;
+  box->setObjectName(name);
+  box->setTabChangesFocus(true);
+  box->setMinimumSize(48 * kGrid, 10 * kGrid);
+  return box;
+}
+
+}  // namespace
+
+RemedyDialog* RemedyDialog::ForNew(Workplace& place, std::int32_t clientId, QWidget* parent) {
+  auto* dialog = new RemedyDialog(place, practice::OpenAddRemedy(place.Session), parent);
+  dialog->clientId_ = clientId;
+  dialog->Build(tr("Add Remedy"), tr("&Add"));
+  return dialog;
+}
+
+RemedyDialog* RemedyDialog::ForEdit(Workplace& place, std::int32_t remedyId, QWidget* parent) {
+  const std::optional<practice::RemedyForm> form =
+      practice::OpenEditRemedy(place.Session, remedyId);
+  if (!form) {
+    return nullptr;
+  }
+  auto* dialog = new RemedyDialog(place, *form, parent);
+  dialog->remedyId_ = remedyId;
+  dialog->Build(tr("Edit Remedy"), tr("&Save"));
+  return dialog;
+}
+
+RemedyDialog::RemedyDialog(Workplace& place, const practice::RemedyForm& form, QWidget* parent)
+    : FormDialog(place, "remedyDialog", parent),
+      planet_(new QComboBox),
+      problem_(TextBox("problem")),
+      remedy_(TextBox("remedy")),
+      date_(MakeDateEdit("remedyDate")) {
+  planet_->setObjectName("forPlanet");
+  FillPlanets();
+  planet_->setCurrentIndex(std::max(0, planet_->findData(form.PlanetId)));
+  problem_->setPlainText(Shown(form.Problem));
+  remedy_->setPlainText(Shown(form.Remedy));
+  date_->setDateTime(ToField(form.Date));
+}
+
+void RemedyDialog::FillPlanets() {
+  std::vector<core::PlanetInfo> planets = Session().Reference.Planets;
+  std::sort(planets.begin(), planets.end(),
+            [](const core::PlanetInfo& left, const core::PlanetInfo& right) {
+              return left.PlanetName < right.PlanetName;
+            });
+  planet_->addItem(tr("None"), 0);
+  for (const core::PlanetInfo& planet : planets) {
+    planet_->addItem(Shown(planet.PlanetName), planet.Id);
+  }
+}
+
+void RemedyDialog::Build(const QString& title, const QString& action) {
+  setWindowTitle(title);
+  auto* fields = new QFormLayout;
+  fields->addRow(tr("&Problem/Symptom:"), problem_);
+  fields->addRow(tr("Remedy/S&olution:"), remedy_);
+  fields->addRow(tr("For P&lanet:"), planet_);
+  fields->addRow(tr("Remedy &Date:"), date_);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->addLayout(fields);
+  layout->addLayout(MakeButtons(action));
+}
+
+void RemedyDialog::Save() {
+  const practice::RemedyForm form{planet_->currentData().toInt(), Typed(problem_->toPlainText()),
+                                  Typed(remedy_->toPlainText()), FromField(date_->dateTime())};
+  Finish(remedyId_ == 0 ? practice::SaveNewRemedy(Session(), form, clientId_)
+                        : practice::SaveRemedyChanges(Session(), form, remedyId_));
+}
+
+}  // namespace orvex::ui
