@@ -289,7 +289,7 @@ TEST_F(Records, EachLineThatIsNoClientIsRefusedWithItsNumberAndReason) {
       {"A;1990-07-05;1;;", "is no moment of the years"},
       {"A;1990-07-05 14:30;999999;;", "there is no city"},
       {"A;1990-07-05 14:30;1;Pune;", "not \"Pune\""},
-      {"A;1990-07-05 14:30;;Springfield;", "cities are named \"Springfield\""},
+      {"A;1990-07-05 14:30;;San Pedro;", "cities are named \"San Pedro\""},
       {"A;1990-07-05 14:30;;Nowhere At All;", "there is no city"},
       {"A;1990-07-05 14:30;;;", "Please select a City from the list."},
       {"A;1990-07-05 14:30;1;;X", "gender: \"X\" is none of"},
