@@ -2,8 +2,8 @@
 
 #include "chart/place_checks.h"
 #include "core/exact_numbers.h"
-#include "core/text.h"
 #include "core/store_write.h"
+#include "core/text.h"
 
 namespace orvex::practice {
 
