@@ -82,6 +82,11 @@ core::Table SearchCities(const core::Session& session, const std::string& text) 
                       core::ReplaceAll(text, "'", "''") + "%' order by cm.cityname");
 }
 
+std::optional<core::Refusal> CheckPickedCity(std::int32_t cityId) {
+  return cityId == 0 ? std::optional(Refuse("Please select a City from the list.", "cityList"))
+                     : std::nullopt;
+}
+
 core::Table LoadTimeZones(const core::Session& session) {
   core::Table table{{{"Time Zone", 300}, {"Country", 70}, {"Offset", 50}}, {}};
   for (core::Result zone =

@@ -11,6 +11,7 @@
 #include "chart/client_saving.h"
 #include "chart/instant_chart.h"
 #include "practice/birthdays.h"
+#include "practice/cities.h"
 #include "practice/client_csv.h"
 #include "practice/client_import.h"
 #include "practice/client_list.h"
@@ -184,7 +185,10 @@ TEST_F(Records, EachRefusalOfListsGroupsAndRemediesReadsWordForWord) {
       {ClientCountText(0, true), "0 client(s) filtered"},
       {ClientCountText(3, false), "3 client(s)"},
       {TotalClients(*session_), "Total Clients: 1"},
-      {RemedyCaption("A"), "Remedy given to: A"}};
+      {RemedyCaption("A"), "Remedy given to: A"},
+      {CheckPickedCity(0)->Text, "Please select a City from the list."},
+      {RemedyPlanets(*session_).at(0).Name + ", " + RemedyPlanets(*session_).at(1).Name,
+       "None, Jupiter"}};
   for (const auto& [told, text] : cases) {
     EXPECT_EQ(told, text);
   }
