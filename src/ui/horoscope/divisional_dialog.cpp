@@ -1,6 +1,7 @@
 #include "ui/horoscope/divisional_dialog.h"
 
 #include <QGridLayout>
+#include <QLabel>
 
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
