@@ -1,20 +1,21 @@
 #include "ui/horoscope/divisional_dialog.h"
 
 #include <QGridLayout>
+#include <QLabel>
 
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/catalogue_table.h"
-#include "ui/horoscope/chart_view.h"
+#include "ui/horoscope/horoscope_chart.h"
 #include "vedic/divisional.h"
 
 namespace orvex::ui {
 
 namespace {
 
-ChartView* MakeChart(const char* name, const chart::HoroscopeModel& model, char style,
-                     vedic::Division division, const char* title) {
-  auto* chart = new ChartView(name);
+HoroscopeChart* MakeChart(const char* name, const chart::HoroscopeModel& model, char style,
+                          vedic::Division division, const char* title) {
+  auto* chart = new HoroscopeChart(name);
   chart->SetPicture(report::DivisionPicture(vedic::BuildDivision(model, division), style, title));
   return chart;
 }

@@ -1,6 +1,7 @@
 // The name of a value beside it, in the quiet colour of the theme.
 #pragma once
 
+#include <QEvent>
 #include <QLabel>
 
 #include "ui/base/theme.h"

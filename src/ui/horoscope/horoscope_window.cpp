@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
 #include <QToolBar>
@@ -19,6 +20,7 @@
 #include "ui/horoscope/head_pane.h"
 #include "ui/horoscope/page_stack.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
+#include "ui/horoscope/tables_page.h"
 
 namespace orvex::ui {
 
@@ -26,6 +28,7 @@ namespace {
 
 constexpr int kUsualWidth = 160 * kGrid;
 constexpr int kUsualHeight = 90 * kGrid;
+constexpr double kStatusText = 0.9;  // the positions of all planets fit a small screen
 
 struct StyleName {
   char Style;
@@ -62,7 +65,8 @@ HoroscopeWindow::HoroscopeWindow(Workplace& place, horoscope::OpenedHoroscope op
     : document_(place, std::move(opened)),
       tools_(new QToolBar),
       head_(new HeadPane(document_)),
-      pages_(new PageStack(document_)) {
+      pages_(new PageStack(document_)),
+      status_(MakeCaptionLabel("statusText")) {
   setObjectName("horoscopeWindow");
   setAttribute(Qt::WA_DeleteOnClose);
   MakeActions();
@@ -98,7 +102,11 @@ void HoroscopeWindow::LayOut() {
   layout->addWidget(head_);
   layout->addWidget(pages_, 1);
   setCentralWidget(middle);
-  statusBar()->setObjectName("status");
+  QFont font = status_->font();
+  font.setPointSizeF(font.pointSizeF() * kStatusText);
+  status_->setFont(font);
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->addWidget(status_, 1);
   if (!document_.Place().Layout.RestoreWindow(*this)) {
     resize(kUsualWidth, kUsualHeight);
   }
@@ -191,7 +199,7 @@ void HoroscopeWindow::ShowModel() {
   style_->setText(tr("&Style: %1").arg(tr(kStyles.at(PlaceOfStyle(document_.Style())).Name)));
   head_->ShowModel();
   pages_->ShowModel();
-  statusBar()->showMessage(Shown(captions.StatusBar));
+  status_->setText(Shown(captions.StatusBar));
 }
 
 void HoroscopeWindow::Turn(const QString& page) { pages_->Turn(page); }
@@ -210,10 +218,10 @@ void HoroscopeWindow::ShowDivisions() {
 
 void HoroscopeWindow::Export(report::ReportDetail detail, bool asPdf) {
   pages_->FirstPage().ShowRulingPlanetsOfBirth();
-  statusBar()->showMessage(tr("Exporting Horoscope...Please Wait"));
+  status_->setText("Exporting Horoscope...Please Wait");
   QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   const std::filesystem::path file = WriteReport(detail, asPdf);
-  statusBar()->showMessage(Shown(document_.Model().Captions.StatusBar));
+  status_->setText(Shown(document_.Model().Captions.StatusBar));
   if (!file.empty() && !document_.Place().Files.OpenWithDesktop(file)) {
     Inform(document_.Place().Session.Shown,
            "The report is written to " + file.string() + ", but no program opens it here.");

@@ -6,8 +6,9 @@
 
 #include "ui/horoscope/horoscope_document.h"
 
-class QToolBar;
+class QLabel;
 class QMenu;
+class QToolBar;
 
 namespace orvex::ui {
 
@@ -54,6 +55,7 @@ class HoroscopeWindow final : public QMainWindow {
   QToolBar* tools_;
   HeadPane* head_;
   PageStack* pages_;
+  QLabel* status_;
   QAction* style_ = nullptr;
   QAction* rectify_ = nullptr;
 };

@@ -7,11 +7,11 @@
 
 namespace orvex::ui {
 
-class ChartView final : public QWidget {
+class HoroscopeChart final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ChartView(const QString& objectName);
+  explicit HoroscopeChart(const QString& objectName);
 
   void SetPicture(const report::ChartPicture& picture);
   const report::ChartPicture& Picture() const { return picture_; }

@@ -1,4 +1,4 @@
-#include "ui/horoscope/chart_view.h"
+#include "ui/horoscope/horoscope_chart.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -18,22 +18,22 @@ constexpr int kUsualSide = 40 * kGrid;
 
 }  // namespace
 
-ChartView::ChartView(const QString& objectName) {
+HoroscopeChart::HoroscopeChart(const QString& objectName) {
   setObjectName(objectName);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-QSize ChartView::sizeHint() const { return {kUsualSide, kUsualSide}; }
+QSize HoroscopeChart::sizeHint() const { return {kUsualSide, kUsualSide}; }
 
-QSize ChartView::minimumSizeHint() const { return {kSmallestSide, kSmallestSide}; }
+QSize HoroscopeChart::minimumSizeHint() const { return {kSmallestSide, kSmallestSide}; }
 
-void ChartView::SetPicture(const report::ChartPicture& picture) {
+void HoroscopeChart::SetPicture(const report::ChartPicture& picture) {
   picture_ = picture;
   setAccessibleName(Shown(picture.Title));
   update();
 }
 
-QString ChartView::CodeAt(const QPointF& point) const {
+QString HoroscopeChart::CodeAt(const QPointF& point) const {
   for (const DrawnField& field : LayOutChart(picture_, font(), ChartSquare(rect()))) {
     for (const PlacedWord& word : field.Codes.Words) {
       if (word.Box.contains(point)) {
@@ -44,7 +44,7 @@ QString ChartView::CodeAt(const QPointF& point) const {
   return {};
 }
 
-QString ChartView::TooltipAt(const QPointF& point) const {
+QString HoroscopeChart::TooltipAt(const QPointF& point) const {
   const std::array<DrawnField, 12> drawn = LayOutChart(picture_, font(), ChartSquare(rect()));
   for (std::size_t i = 0; i < drawn.size(); ++i) {
     if (drawn.at(i).Outline.containsPoint(point, Qt::OddEvenFill)) {
@@ -54,7 +54,7 @@ QString ChartView::TooltipAt(const QPointF& point) const {
   return {};
 }
 
-bool ChartView::event(QEvent* event) {
+bool HoroscopeChart::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     QToolTip::showText(help->globalPos(), TooltipAt(help->pos()), this);
@@ -63,13 +63,13 @@ bool ChartView::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-void ChartView::paintEvent(QPaintEvent* /*event*/) {
+void HoroscopeChart::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   PaintChart(painter, rect(), picture_,
              Theme::Mode() == ThemeMode::Dark ? DarkColors() : PrintColors());
 }
 
-void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
+void HoroscopeChart::mouseDoubleClickEvent(QMouseEvent* event) {
   const QString code = CodeAt(event->position());
   if (!code.isEmpty()) {
     emit CodeActivated(code);
