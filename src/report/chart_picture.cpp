@@ -4,6 +4,7 @@
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "vedic/lal_kitab.h"
 
 namespace orvex::report {
 
@@ -120,6 +121,17 @@ ChartPicture DivisionPicture(const vedic::DivisionChart& division, char style,
         }
       }
     }
+  }
+  return picture;
+}
+
+ChartPicture AnnualPicture(const core::Table& lalKitabYear, char style) {
+  ChartPicture picture{KnownStyle(style), "Annual", {}};
+  for (std::size_t row = 0; row < lalKitabYear.Rows.size(); ++row) {
+    PictureField& field = picture.Fields.at(row);
+    field.Sign = lalKitabYear.At(row, vedic::LalKitabColumn::House).Text;
+    field.Codes = core::SplitWords(lalKitabYear.At(row, vedic::LalKitabColumn::Planets).Text);
+    field.Ascendant = row == 0;
   }
   return picture;
 }

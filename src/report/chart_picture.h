@@ -34,4 +34,8 @@ ChartPicture ChalitPicture(const ChartCells& cells, char style);
 ChartPicture DivisionPicture(const vedic::DivisionChart& division, char style,
                              const std::string& title);
 
+// The annual chart of a Lal Kitab table by house. It has no signs of its own: the number in a field
+// is that of the house, which in styles by sign stands where the sign of that number does.
+ChartPicture AnnualPicture(const core::Table& lalKitabYear, char style);
+
 }  // namespace orvex::report

@@ -62,4 +62,12 @@ void LayoutMemory::KeepHeader(const QHeaderView& header) {
   Keep("header", header, header.saveState());
 }
 
+QString LayoutMemory::ChosenEntry(const QObject& list) const {
+  return QString::fromUtf8(Value("entry", list).toByteArray());
+}
+
+void LayoutMemory::KeepChosenEntry(const QObject& list, const QString& entry) {
+  Keep("entry", list, entry.toUtf8());
+}
+
 }  // namespace orvex::ui

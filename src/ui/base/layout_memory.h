@@ -30,6 +30,10 @@ class LayoutMemory {
   bool RestoreHeader(QHeaderView& header) const;
   void KeepHeader(const QHeaderView& header);
 
+  // The entry of a list that the user stood on last, by the list's object name; "" for a new one.
+  QString ChosenEntry(const QObject& list) const;
+  void KeepChosenEntry(const QObject& list, const QString& entry);
+
  private:
   QVariant Value(const char* kind, const QObject& widget) const;
   void Keep(const char* kind, const QObject& widget, const QByteArray& state);

@@ -1,0 +1,72 @@
+#include "ui/horoscope/aspects_page.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QSplitter>
+
+#include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+#include "ui/horoscope/tables_page.h"
+
+namespace orvex::ui {
+
+AspectsPage::AspectsPage(HoroscopeDocument& document)
+    : HoroscopePage(document),
+      filter_(new QComboBox),
+      summary_(MakeCaptionLabel("houseAspects")),
+      planets_(new CatalogueTable(document, "PlanetAspectList")),
+      cusps_(new CatalogueTable(document, "AspectGrid")) {
+  filter_->setObjectName("aspectFilter");
+  filter_->addItems({tr("All aspects"), tr("Good aspects"), tr("Hard aspects")});
+  cusps_->KeepOrder();
+  planets_->View().SetEmptyText(tr("No aspect of this kind lies within its orb."));
+  auto* layout = new QVBoxLayout(this);
+  layout->addLayout(LayOutHead());
+  layout->addWidget(LayOutTables(), 1);
+  Connect();
+}
+
+QHBoxLayout* AspectsPage::LayOutHead() {
+  auto* caption = new QLabel(tr("&Show"));
+  caption->setBuddy(filter_);
+  auto* head = new QHBoxLayout;
+  head->addWidget(caption);
+  head->addWidget(filter_);
+  head->addSpacing(kMargin);
+  head->addWidget(summary_, 1);
+  return head;
+}
+
+QSplitter* AspectsPage::LayOutTables() {
+  auto* tables = new QSplitter(Qt::Horizontal);
+  tables->setObjectName("aspectTables");
+  tables->addWidget(planets_);
+  tables->addWidget(cusps_);
+  tables->setStretchFactor(0, 1);
+  tables->setStretchFactor(1, 3);
+  Remember(Document().Place().Layout, *tables);
+  return tables;
+}
+
+void AspectsPage::Connect() {
+  connect(filter_, &QComboBox::currentIndexChanged, this,
+          [this](int choice) { Document().FilterAspects(static_cast<AspectFilter>(choice)); });
+  for (CatalogueTable* table : {planets_, cusps_}) {
+    connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
+  }
+}
+
+void AspectsPage::ShowModel() {
+  const QSignalBlocker quiet(filter_);
+  filter_->setCurrentIndex(static_cast<int>(Document().Filter()));
+  const chart::HoroscopeCaptions& captions = Model().Captions;
+  summary_->setText(QStringList{Shown(captions.SaturnAspects), Shown(captions.MarsAspects),
+                                Shown(captions.JupiterAspects)}
+                        .join("   |   "));
+  planets_->ShowModel();
+  cusps_->ShowModel();
+}
+
+}  // namespace orvex::ui

@@ -1,0 +1,86 @@
+#include "ui/horoscope/birth_star_page.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <array>
+
+#include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+#include "ui/horoscope/field_label.h"
+#include "ui/horoscope/tables_page.h"
+
+namespace orvex::ui {
+
+namespace {
+
+using C = chart::HoroscopeCaptions;
+using chart::PlanetColumn;
+using chart::PlanetPlace;
+using chart::StarColumn;
+
+struct Fact {
+  const char* Label;
+  std::string C::*Value;
+};
+
+constexpr std::array<Fact, 8> kFacts = {{
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Star of the Moon"), &C::Nakshatra},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Varna - Gana"), &C::VarnaGana},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Nadi - Yoni"), &C::NadiYoni},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Vasya - Rajju"), &C::VasyaRajju},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Tithi"), &C::Tithi},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Yoga - Karan"), &C::YogaKaran},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Bhrigu Bindu"), &C::BhriguBindu},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Fortune"), &C::PartOfFortune},
+}};
+
+}  // namespace
+
+BirthStarPage::BirthStarPage(HoroscopeDocument& document)
+    : HoroscopePage(document), stars_(new CatalogueTable(document, "StarTable")) {
+  stars_->View().setSelectionMode(QAbstractItemView::SingleSelection);
+  auto* layout = new QHBoxLayout(this);
+  layout->addLayout(LayOutFacts());
+  layout->addSpacing(kMargin);
+  layout->addWidget(stars_, 1);
+}
+
+QFormLayout* BirthStarPage::LayOutFacts() {
+  auto* facts = new QFormLayout;
+  facts->addRow(MakeHeading(tr("At birth")));
+  for (const Fact& fact : kFacts) {
+    facts_.push_back(MakeCaptionLabel(QString("birthStar") + fact.Label));
+    facts->addRow(new FieldLabel(tr(fact.Label)), facts_.back());
+  }
+  return facts;
+}
+
+void BirthStarPage::ShowModel() {
+  for (std::size_t i = 0; i < kFacts.size(); ++i) {
+    facts_.at(i)->setText(Shown(Model().Captions.*kFacts.at(i).Value));
+  }
+  stars_->ShowModel();
+  SelectQuarterOfMoon();
+}
+
+void BirthStarPage::SelectQuarterOfMoon() {
+  const std::size_t moon = chart::RowOf(PlanetPlace::Moon);
+  if (moon >= Model().PlanetTable.Rows.size()) {
+    return;
+  }
+  const std::string& star = chart::PlanetText(Model(), moon, PlanetColumn::Nakshatra);
+  const std::string& pada = chart::PlanetText(Model(), moon, PlanetColumn::Pada);
+  const core::Table& stars = Model().StarTable;
+  for (std::size_t row = 0; row < stars.Rows.size(); ++row) {
+    if (stars.At(row, StarColumn::StarName).Text == star &&
+        stars.At(row, StarColumn::Pada).Text == pada) {
+      TableView& view = stars_->View();
+      const QModelIndex shown = view.Model().index(view.Model().ShownRow(row).value_or(0), 0);
+      view.setCurrentIndex(shown);
+      view.scrollTo(shown, QAbstractItemView::PositionAtCenter);
+    }
+  }
+}
+
+}  // namespace orvex::ui

@@ -1,0 +1,87 @@
+#include "ui/horoscope/catalogue_table.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <stdexcept>
+
+#include "practice/export_list.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+
+namespace orvex::ui {
+
+namespace {
+
+const horoscope::TableEntry& EntryOf(const std::string& name) {
+  const std::vector<horoscope::TableEntry>& entries = horoscope::HoroscopeTables();
+  const auto found = std::find_if(entries.begin(), entries.end(),
+                                  [&](const auto& entry) { return entry.Name == name; });
+  if (found == entries.end()) {
+    throw std::out_of_range("the catalogue has no table " + name);
+  }
+  return *found;
+}
+
+}  // namespace
+
+std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, const QString& text) {
+  const std::string word = Typed(text.section(' ', 0, 0).remove('*').remove('~'));
+  const std::optional<std::size_t> named = chart::RowOfPlanet(model, word);
+  return named || word.size() != 2 ? named : chart::RowOfCode(model, word);
+}
+
+void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
+                 const std::string& title) {
+  const auto file = place.Files.ChooseFileToWrite(&parent, "Export to spreadsheet", title + ".xlsx",
+                                                  "Spreadsheets (*.xlsx)");
+  if (!file) {
+    return;
+  }
+  if (const auto refused = practice::ExportList(table, *file, title)) {
+    place.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
+  }
+}
+
+QLabel* MakeHeading(const QString& text) {
+  auto* heading = new QLabel(text);
+  QFont font = heading->font();
+  font.setWeight(QFont::DemiBold);
+  heading->setFont(font);
+  heading->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  return heading;
+}
+
+CatalogueTable::CatalogueTable(HoroscopeDocument& document, const char* name)
+    : document_(document), entry_(EntryOf(name)), view_(new TableView) {
+  view_->setObjectName(name);
+  view_->setAccessibleName(entry_.Title);
+  view_->SetExport([this](const core::Table& table) {
+    ExportTable(document_.Place(), *this, table, entry_.Title);
+  });
+  connect(view_, &QTableView::activated, this, &CatalogueTable::Activate);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGrid / 2);
+  layout->addWidget(MakeHeading(entry_.Title));
+  layout->addWidget(view_, 1);
+}
+
+void CatalogueTable::Activate(const QModelIndex& index) {
+  for (const QModelIndex& cell : {index, index.siblingAtColumn(0)}) {
+    if (const auto row = PlanetOfText(document_.Model(), cell.data().toString())) {
+      emit PlanetActivated(*row);
+      return;
+    }
+  }
+}
+
+void CatalogueTable::ShowModel() {
+  view_->SetTable(entry_.Of(document_.Model()));
+  if (growsRows_) {
+    view_->resizeRowsToContents();
+  }
+}
+
+}  // namespace orvex::ui

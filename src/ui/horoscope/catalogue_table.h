@@ -1,0 +1,56 @@
+// A table of the catalogue under its title.
+#pragma once
+
+#include <QWidget>
+
+#include "horoscope/catalogue.h"
+#include "ui/base/table_view.h"
+#include "ui/horoscope/horoscope_document.h"
+
+class QLabel;
+
+namespace orvex::ui {
+
+class CatalogueTable final : public QWidget {
+  Q_OBJECT
+
+ public:
+  // The entry of that name; its view has the name as object name. std::out_of_range for a name that
+  // the catalogue does not have.
+  CatalogueTable(HoroscopeDocument& document, const char* name);
+
+  void ShowModel();
+  TableView& View() { return *view_; }
+
+  // Rows as high as their texts, for cells of several lines.
+  void GrowRows() { growsRows_ = true; }
+
+  // The order of the rows has a meaning: a click on a header changes nothing.
+  void KeepOrder() { view_->setSortingEnabled(false); }
+
+ signals:
+  // A cell that names a planet, or a row that begins with one, was picked; its row in the planet
+  // table.
+  void PlanetActivated(std::size_t row);
+
+ private:
+  void Activate(const QModelIndex& index);
+
+  HoroscopeDocument& document_;
+  const horoscope::TableEntry& entry_;
+  TableView* view_;
+  bool growsRows_ = false;
+};
+
+// The row of the planet that a text begins with, by name or code: "Venus (8 1)", "VE (8 1)", "VE*";
+// nothing for any other text.
+std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, const QString& text);
+
+// Asks for a file and writes the table into it as a spreadsheet.
+void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
+                 const std::string& title);
+
+// A heading above a part of a page.
+QLabel* MakeHeading(const QString& text);
+
+}  // namespace orvex::ui

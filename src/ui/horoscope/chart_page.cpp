@@ -1,0 +1,107 @@
+#include "ui/horoscope/chart_page.h"
+
+#include <QHBoxLayout>
+#include <QRadioButton>
+#include <QSplitter>
+
+#include "ui/base/theme.h"
+#include "ui/horoscope/tables_page.h"
+
+namespace orvex::ui {
+
+ChartPage::ChartPage(HoroscopeDocument& document)
+    : HoroscopePage(document),
+      rashi_(new HoroscopeChart("rashiChart")),
+      chalit_(new HoroscopeChart("chalitChart")),
+      planets_(new CatalogueTable(document, "PlanetTable")),
+      cusps_(new CatalogueTable(document, "CuspTable")),
+      ruling_(new CatalogueTable(document, "RulingPlanets")),
+      ofBirth_(new QRadioButton(tr("At &birth"))),
+      ofNow_(new QRadioButton(tr("&Now"))) {
+  ofBirth_->setObjectName("rulingOfBirth");
+  ofNow_->setObjectName("rulingOfNow");
+  ofBirth_->setChecked(true);
+  auto* halves = new QSplitter(Qt::Horizontal);
+  halves->setObjectName("chartHalves");
+  halves->addWidget(LayOutCharts());
+  halves->addWidget(LayOutTables());
+  halves->setStretchFactor(0, 2);
+  halves->setStretchFactor(1, 5);
+  auto* layout = new QHBoxLayout(this);
+  layout->addWidget(halves);
+  Remember(document.Place().Layout, *halves);
+  Connect();
+}
+
+QSplitter* ChartPage::LayOutCharts() {
+  auto* charts = new QSplitter(Qt::Vertical);
+  charts->setObjectName("charts");
+  charts->addWidget(rashi_);
+  charts->addWidget(chalit_);
+  Remember(Document().Place().Layout, *charts);
+  return charts;
+}
+
+QSplitter* ChartPage::LayOutTables() {
+  auto* lower = new QSplitter(Qt::Horizontal);
+  lower->setObjectName("chartLowerTables");
+  lower->addWidget(cusps_);
+  lower->addWidget(LayOutRulingPlanets());
+  lower->setStretchFactor(0, 3);
+  lower->setStretchFactor(1, 1);
+  Remember(Document().Place().Layout, *lower);
+  auto* tables = new QSplitter(Qt::Vertical);
+  tables->setObjectName("chartTables");
+  tables->addWidget(planets_);
+  tables->addWidget(lower);
+  Remember(Document().Place().Layout, *tables);
+  return tables;
+}
+
+QWidget* ChartPage::LayOutRulingPlanets() {
+  auto* part = new QWidget;
+  auto* choice = new QHBoxLayout;
+  choice->addWidget(ofBirth_);
+  choice->addWidget(ofNow_);
+  choice->addStretch(1);
+  auto* layout = new QVBoxLayout(part);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(ruling_, 1);
+  layout->addLayout(choice);
+  return part;
+}
+
+void ChartPage::Connect() {
+  connect(ofNow_, &QRadioButton::toggled, this, &ChartPage::ShowRulingPlanets);
+  for (CatalogueTable* table : {planets_, cusps_, ruling_}) {
+    connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
+  }
+  for (HoroscopeChart* chart : {rashi_, chalit_}) {
+    connect(chart, &HoroscopeChart::CodeActivated, this, [this](const QString& code) {
+      if (const auto row = PlanetOfText(Model(), code)) {
+        emit PlanetActivated(*row);
+      }
+    });
+  }
+}
+
+void ChartPage::ShowModel() {
+  const report::ChartCells cells = report::BuildChartCells(Model());
+  rashi_->SetPicture(report::RashiPicture(cells, Document().Style()));
+  chalit_->SetPicture(report::ChalitPicture(cells, Document().Style()));
+  planets_->ShowModel();
+  cusps_->ShowModel();
+  ShowRulingPlanets();
+}
+
+void ChartPage::ShowRulingPlanets() {
+  if (ofNow_->isChecked()) {
+    ruling_->View().SetTable(Document().RulingPlanetsNow());
+  } else {
+    ruling_->ShowModel();
+  }
+}
+
+void ChartPage::ShowRulingPlanetsOfBirth() { ofBirth_->setChecked(true); }
+
+}  // namespace orvex::ui

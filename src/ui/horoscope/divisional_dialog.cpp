@@ -1,0 +1,41 @@
+#include "ui/horoscope/divisional_dialog.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+#include "ui/horoscope/catalogue_table.h"
+#include "ui/horoscope/horoscope_chart.h"
+#include "vedic/divisional.h"
+
+namespace orvex::ui {
+
+namespace {
+
+HoroscopeChart* MakeChart(const char* name, const chart::HoroscopeModel& model, char style,
+                          vedic::Division division, const char* title) {
+  auto* chart = new HoroscopeChart(name);
+  chart->SetPicture(report::DivisionPicture(vedic::BuildDivision(model, division), style, title));
+  return chart;
+}
+
+}  // namespace
+
+DivisionalDialog::DivisionalDialog(const chart::HoroscopeModel& model, char style, QWidget* parent)
+    : QDialog(parent) {
+  setObjectName("divisionalCharts");
+  setWindowTitle(tr("Divisional charts of %1").arg(Shown(model.Name)));
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  grid->setHorizontalSpacing(kMargin);
+  grid->addWidget(MakeHeading("Navamsha (D9):"), 0, 0);
+  grid->addWidget(MakeHeading("Dashamsha (D10):"), 0, 1);
+  grid->addWidget(MakeChart("navamsha", model, style, vedic::Division::Navamsha, "Navamsha (D9)"),
+                  1, 0);
+  grid->addWidget(
+      MakeChart("dashamsha", model, style, vedic::Division::Dashamsha, "Dashamsha (D10)"), 1, 1);
+  grid->setRowStretch(1, 1);
+}
+
+}  // namespace orvex::ui

@@ -1,0 +1,79 @@
+#include "ui/horoscope/horoscope_chart.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+#include "ui/painting/chart_painter.h"
+
+namespace orvex::ui {
+
+namespace {
+
+constexpr int kSmallestSide = 26 * kGrid;
+constexpr int kUsualSide = 40 * kGrid;
+
+}  // namespace
+
+HoroscopeChart::HoroscopeChart(const QString& objectName) {
+  setObjectName(objectName);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize HoroscopeChart::sizeHint() const { return {kUsualSide, kUsualSide}; }
+
+QSize HoroscopeChart::minimumSizeHint() const { return {kSmallestSide, kSmallestSide}; }
+
+void HoroscopeChart::SetPicture(const report::ChartPicture& picture) {
+  picture_ = picture;
+  setAccessibleName(Shown(picture.Title));
+  update();
+}
+
+QString HoroscopeChart::CodeAt(const QPointF& point) const {
+  for (const DrawnField& field : LayOutChart(picture_, font(), ChartSquare(rect()))) {
+    for (const PlacedWord& word : field.Codes.Words) {
+      if (word.Box.contains(point)) {
+        return word.Text;
+      }
+    }
+  }
+  return {};
+}
+
+QString HoroscopeChart::TooltipAt(const QPointF& point) const {
+  const std::array<DrawnField, 12> drawn = LayOutChart(picture_, font(), ChartSquare(rect()));
+  for (std::size_t i = 0; i < drawn.size(); ++i) {
+    if (drawn.at(i).Outline.containsPoint(point, Qt::OddEvenFill)) {
+      return Shown(picture_.Fields.at(i).Tooltip).toHtmlEscaped();
+    }
+  }
+  return {};
+}
+
+bool HoroscopeChart::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), TooltipAt(help->pos()), this);
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+void HoroscopeChart::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  PaintChart(painter, rect(), picture_,
+             Theme::Mode() == ThemeMode::Dark ? DarkColors() : PrintColors());
+}
+
+void HoroscopeChart::mouseDoubleClickEvent(QMouseEvent* event) {
+  const QString code = CodeAt(event->position());
+  if (!code.isEmpty()) {
+    emit CodeActivated(code);
+  }
+}
+
+}  // namespace orvex::ui

@@ -1,0 +1,89 @@
+#include "ui/horoscope/horoscope_document.h"
+
+#include <algorithm>
+#include <array>
+
+#include "chart/aspects.h"
+#include "chart/transit_now.h"
+#include "panchang/sky_view.h"
+#include "practice/remedies.h"
+#include "ui/painting/picture_files.h"
+
+namespace orvex::ui {
+
+namespace {
+
+constexpr int kPictureSide = 720;
+
+}  // namespace
+
+HoroscopeDocument::HoroscopeDocument(Workplace& place, horoscope::OpenedHoroscope opened)
+    : place_(place), opened_(std::move(opened)), style_(place.Session.State.DefaultChartType) {}
+
+void HoroscopeDocument::SetStyle(char style) {
+  style_ = style;
+  emit Changed();
+}
+
+void HoroscopeDocument::Rotate(int house) {
+  horoscope::RotateNow(place_.Session, opened_, house);
+  ApplyFilter();
+  emit Changed();
+}
+
+void HoroscopeDocument::ShowYear(int year) {
+  horoscope::ShowYear(opened_, year);
+  emit Changed();
+}
+
+void HoroscopeDocument::SelectPeriod(chart::DashaLevel level, std::size_t row) {
+  chart::SelectPeriod(place_.Session, opened_.Model, level, row);
+  emit Changed();
+}
+
+void HoroscopeDocument::FilterAspects(AspectFilter filter) {
+  filter_ = filter;
+  ApplyFilter();
+  emit Changed();
+}
+
+void HoroscopeDocument::ApplyFilter() {
+  constexpr std::array<const char*, 3> kMarks = {"", "+", "-"};
+  chart::LoadPlanetAspects(opened_.Model, place_.Session.State.AspectBands,
+                           kMarks.at(static_cast<std::size_t>(filter_)));
+}
+
+void HoroscopeDocument::ReadRemediesAgain() {
+  opened_.Model.RemedyTable = practice::LoadRemedies(place_.Session, Model().ClientId);
+  emit Changed();
+}
+
+void HoroscopeDocument::ReadSkyAgain() {
+  chart::BuildTransitNow(place_.Session, opened_.Model);
+  emit Changed();
+}
+
+core::Table HoroscopeDocument::RulingPlanetsNow() {
+  panchang::SkyView sky;
+  panchang::GetCurrentTransit(place_.Session, sky);
+  std::vector<core::Row>& rows = sky.SkyRulingPlanets.Rows;
+  // The last row of the sky is the Part of Fortune, which the birth has in its captions.
+  rows.resize(std::min(rows.size(), Model().RulingPlanets.Rows.size()));
+  return sky.SkyRulingPlanets;
+}
+
+horoscope::Recalculation HoroscopeDocument::Recalculate(const horoscope::RecalculationForm& form) {
+  return horoscope::Recalculate(place_.Session, Model(), form);
+}
+
+std::filesystem::path HoroscopeDocument::WriteReport(report::ReportDetail detail) {
+  report::ReportRequest request;
+  request.Detail = detail;
+  request.Style = style_;
+  request.Paint = [](const report::ChartPicture& picture, const std::filesystem::path& file) {
+    WriteChartPicture(picture, PictureFormat::Bmp, kPictureSide, file);
+  };
+  return report::GenerateHoroscopeView(place_.Session, opened_, request);
+}
+
+}  // namespace orvex::ui

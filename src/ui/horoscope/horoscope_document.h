@@ -1,0 +1,67 @@
+// An open horoscope and the moves of its reader. The pages of its window read the model from here
+// and are told when it has changed.
+#pragma once
+
+#include <QObject>
+#include <string>
+
+#include "chart/dasha.h"
+#include "horoscope/create_horoscope.h"
+#include "horoscope/recalculation.h"
+#include "report/html_report.h"
+#include "ui/base/workplace.h"
+
+namespace orvex::ui {
+
+// The three choices of the list of aspects.
+enum class AspectFilter { All, Good, Hard };
+
+class HoroscopeDocument final : public QObject {
+  Q_OBJECT
+
+ public:
+  HoroscopeDocument(Workplace& place, horoscope::OpenedHoroscope opened);
+
+  Workplace& Place() { return place_; }
+  const chart::HoroscopeModel& Model() const { return opened_.Model; }
+
+  // 'N', 'E' or 'S'; a window begins with that of the settings.
+  char Style() const { return style_; }
+  void SetStyle(char style);
+
+  // Reads the horoscope from a house, 1 to 12, as the first. The filter of the aspects stays.
+  void Rotate(int house);
+
+  // Shows a year of life, 1 to 120, in the annual chart.
+  void ShowYear(int year);
+
+  void SelectPeriod(chart::DashaLevel level, std::size_t row);
+
+  AspectFilter Filter() const { return filter_; }
+  void FilterAspects(AspectFilter filter);
+
+  void ReadRemediesAgain();
+  void ReadSkyAgain();
+
+  // The rows of the ruling planets at the present moment.
+  core::Table RulingPlanetsNow();
+
+  // The chart for a changed place or moment; the model stays as it is.
+  horoscope::Recalculation Recalculate(const horoscope::RecalculationForm& form);
+
+  // Writes the report of what is shown; an empty path where it was refused with a message.
+  std::filesystem::path WriteReport(report::ReportDetail detail);
+
+ signals:
+  void Changed();
+
+ private:
+  void ApplyFilter();
+
+  Workplace& place_;
+  horoscope::OpenedHoroscope opened_;
+  char style_;
+  AspectFilter filter_ = AspectFilter::All;
+};
+
+}  // namespace orvex::ui

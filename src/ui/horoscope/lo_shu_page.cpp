@@ -1,0 +1,21 @@
+#include "ui/horoscope/lo_shu_page.h"
+
+#include <QHeaderView>
+
+namespace orvex::ui {
+
+LoShuPage::LoShuPage(HoroscopeDocument& document)
+    : TablesPage(document, {"loShu",
+                            {"LoShuTitle", "Numerology"},
+                            {{"LoShuGrid", "LoShuAnalysis"}, {"LoShuPlanes"}}}) {
+  CatalogueTable& grid = TableOf("LoShuGrid");
+  grid.GrowRows();
+  grid.KeepOrder();
+  grid.View().horizontalHeader()->hide();
+  grid.View().horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  grid.View().setShowGrid(true);
+  grid.View().setAlternatingRowColors(false);
+  grid.View().setSelectionMode(QAbstractItemView::NoSelection);
+}
+
+}  // namespace orvex::ui

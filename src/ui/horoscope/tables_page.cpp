@@ -1,0 +1,88 @@
+#include "ui/horoscope/tables_page.h"
+
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <stdexcept>
+
+#include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+
+namespace orvex::ui {
+
+std::string chart::HoroscopeCaptions::*CaptionOf(const std::string& name) {
+  const std::vector<horoscope::CaptionEntry>& entries = horoscope::HoroscopeCaptionTexts();
+  const auto found = std::find_if(entries.begin(), entries.end(),
+                                  [&](const auto& entry) { return entry.Name == name; });
+  if (found == entries.end()) {
+    throw std::out_of_range("the catalogue has no caption " + name);
+  }
+  return found->Text;
+}
+
+QLabel* MakeCaptionLabel(const QString& objectName) {
+  auto* label = new QLabel;
+  label->setObjectName(objectName);
+  label->setTextFormat(Qt::PlainText);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return label;
+}
+
+void Remember(LayoutMemory& memory, QSplitter& splitter) {
+  splitter.setChildrenCollapsible(false);
+  memory.RestoreSplitter(splitter);
+  QObject::connect(&splitter, &QSplitter::splitterMoved, &splitter,
+                   [&memory, &splitter] { memory.KeepSplitter(splitter); });
+}
+
+TablesPage::TablesPage(HoroscopeDocument& document, const PagePlan& plan)
+    : HoroscopePage(document) {
+  auto* layout = new QVBoxLayout(this);
+  for (const char* name : plan.Captions) {
+    QLabel* label = MakeCaptionLabel(name);
+    captions_.emplace_back(label, CaptionOf(name));
+    layout->addWidget(label);
+  }
+  auto* rows = new QSplitter(Qt::Vertical);
+  rows->setObjectName(QString(plan.Name) + "Rows");
+  for (std::size_t row = 0; row < plan.Tables.size(); ++row) {
+    rows->addWidget(MakeRow(plan, row));
+  }
+  layout->addWidget(rows, 1);
+  Remember(document.Place().Layout, *rows);
+}
+
+QSplitter* TablesPage::MakeRow(const PagePlan& plan, std::size_t row) {
+  auto* splitter = new QSplitter(Qt::Horizontal);
+  splitter->setObjectName(QString(plan.Name) + "Row" + WholeText(static_cast<int>(row)));
+  for (const char* name : plan.Tables.at(row)) {
+    auto* table = new CatalogueTable(Document(), name);
+    connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
+    tables_.push_back(table);
+    splitter->addWidget(table);
+  }
+  Remember(Document().Place().Layout, *splitter);
+  return splitter;
+}
+
+CatalogueTable& TablesPage::TableOf(const char* name) {
+  const auto found = std::find_if(tables_.begin(), tables_.end(), [&](CatalogueTable* table) {
+    return table->View().objectName() == name;
+  });
+  if (found == tables_.end()) {
+    throw std::out_of_range(std::string("the page has no table ") + name);
+  }
+  return **found;
+}
+
+void TablesPage::ShowModel() {
+  for (const auto& [label, text] : captions_) {
+    label->setText(Shown(Model().Captions.*text));
+  }
+  for (CatalogueTable* table : tables_) {
+    table->ShowModel();
+  }
+}
+
+}  // namespace orvex::ui

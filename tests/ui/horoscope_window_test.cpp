@@ -1,0 +1,411 @@
+#include "ui/horoscope/horoscope_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
+#include <chrono>
+#include <fstream>
+#include <iostream>
+
+#include "chart/aspects.h"
+#include "chart/client_saving.h"
+#include "support/test_home.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/table_view.h"
+#include "ui/horoscope/horoscope_chart.h"
+#include "ui/horoscope/planet_sheet_dialog.h"
+#include "vedic/vastu.h"
+
+namespace orvex::ui {
+namespace {
+
+// Opens nothing and writes down what it was asked to open.
+class RecordedFiles final : public FileDialogs {
+ public:
+  std::optional<std::filesystem::path> ChooseFileToWrite(QWidget* /*parent*/,
+                                                         const std::string& /*title*/,
+                                                         const std::filesystem::path& /*start*/,
+                                                         const std::string& /*filter*/) override {
+    return Chosen;
+  }
+
+  bool OpenWithDesktop(const std::filesystem::path& file) override {
+    Opened.push_back(file);
+    return true;
+  }
+
+  std::filesystem::path Chosen;
+  std::vector<std::filesystem::path> Opened;
+};
+
+class HoroscopeWindowTest : public testing::Test {
+ protected:
+  HoroscopeWindowTest()
+      : session_(home_.Start()),
+        layout_(home_.Place.Folder / "windows.ini"),
+        place_{*session_, files_, layout_} {
+    client_ = AddClient();
+  }
+
+  ~HoroscopeWindowTest() override { delete window_; }
+
+  std::int32_t AddClient() {
+    chart::ClientForm form = chart::OpenAddClient(*session_);
+    chart::SelectCity(*session_, 1, form);
+    form.CityId = 1;
+    form.FullName = "Asha Rao";
+    form.Birth = test::Moment("1990-07-05 14:30:00");
+    const core::SaveResult saved = chart::SaveNewClient(*session_, form, 1);
+    EXPECT_FALSE(saved.Refused) << saved.Refused->Text;
+    return saved.Id;
+  }
+
+  HoroscopeWindow& Open() {
+    window_ = OpenHoroscope(place_, client_);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(window_));
+    return *window_;
+  }
+
+  template <typename Widget>
+  Widget& Find(const char* name) {
+    auto* found = window_->findChild<Widget*>(name);
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+
+  // Turns to a page by its title, with the keys.
+  void Turn(const char* title) {
+    auto& pages = Find<QListWidget>("pages");
+    pages.setFocus();
+    QTest::keyClicks(&pages, title);
+    EXPECT_EQ(pages.currentItem()->text(), title);
+  }
+
+  QAction& MenuEntry(const char* menu, const QString& text) {
+    for (QAction* action : Find<QMenu>(menu).actions()) {
+      if (action->text() == text) {
+        return *action;
+      }
+    }
+    ADD_FAILURE() << menu << " has no " << text.toStdString();
+    return *Find<QMenu>(menu).actions().constFirst();
+  }
+
+  std::string Text(const char* table, int row, int column) {
+    return Typed(Find<TableView>(table).Model().index(row, column).data().toString());
+  }
+
+  void ClickCell(const char* table, int row, int column, bool twice = false) {
+    auto& view = Find<TableView>(table);
+    const QModelIndex index = view.Model().index(row, column);
+    view.scrollTo(index);
+    const QPoint at = view.visualRect(index).center();
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at);
+    if (twice) {
+      QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, at);
+    }
+    QCoreApplication::processEvents();
+  }
+
+  // What is told when the modal dialog of that name stands open.
+  template <typename Deed>
+  void WhenOpen(const char* dialog, Deed deed) {
+    QTimer::singleShot(0, [this, dialog, deed] {
+      QWidget* open = QApplication::activeModalWidget();
+      if (open == nullptr || open->objectName() != dialog) {
+        WhenOpen(dialog, deed);
+        return;
+      }
+      deed(*static_cast<QDialog*>(open));
+    });
+  }
+
+  test::TestHome home_;
+  std::unique_ptr<core::Session> session_;
+  RecordedFiles files_;
+  LayoutMemory layout_;
+  Workplace place_;
+  std::int32_t client_ = 0;
+  HoroscopeWindow* window_ = nullptr;
+};
+
+TEST_F(HoroscopeWindowTest, OneWindowAClientIsRegisteredFromItsOpeningToItsClosing) {
+  HoroscopeWindow& window = Open();
+  EXPECT_EQ(session_->State.OpenHoroscopes, std::vector<std::int32_t>{client_});
+  EXPECT_EQ(OpenHoroscope(place_, client_), &window);
+  EXPECT_EQ(session_->State.OpenHoroscopes.size(), 1U);
+  EXPECT_EQ(window.windowTitle(), "Horoscope for Asha Rao");
+  EXPECT_EQ(Find<QLabel>("Date").text(), "5 July 1990 02:30 PM");
+  EXPECT_EQ(OpenHoroscope(place_, client_ + 99), nullptr);
+  window.close();
+  EXPECT_TRUE(session_->State.OpenHoroscopes.empty());
+  QCoreApplication::sendPostedEvents(&window, QEvent::DeferredDelete);
+  EXPECT_NE(window_ = OpenHoroscope(place_, client_), nullptr);
+}
+
+TEST_F(HoroscopeWindowTest, RotationShowsInTitleHeadAndTablesUntilItIsReset) {
+  Open();
+  const std::string first = Text("CuspTable", 0, 1);
+  const std::string seventh = Text("CuspTable", 6, 1);
+  MenuEntry("rotationMenu", "7").trigger();
+  EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao (Rotated to 7)");
+  EXPECT_EQ(Text("CuspTable", 0, 1), seventh);
+  EXPECT_EQ(Find<HoroscopeChart>("rashiChart").Picture().Fields[0].Sign, "1");
+  QTest::keyClick(window_, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao");
+  EXPECT_EQ(Text("CuspTable", 0, 1), first);
+}
+
+TEST_F(HoroscopeWindowTest, TheStyleButtonGoesRoundTheThreeStylesForThisWindowOnly) {
+  Open();
+  auto& chart = Find<HoroscopeChart>("rashiChart");
+  std::string styles;
+  for (int press = 0; press < 4; ++press) {
+    styles += chart.Picture().Style;
+    QTest::keyClick(window_, Qt::Key_T, Qt::ControlModifier);
+  }
+  EXPECT_EQ(styles, "NESN");
+  EXPECT_EQ(session_->State.DefaultChartType, 'N');
+}
+
+TEST_F(HoroscopeWindowTest, EveryPageOpensByItsNameAndShowsRows) {
+  Open();
+  auto& pages = Find<QListWidget>("pages");
+  for (int page = 0; page < pages.count(); ++page) {
+    Turn(pages.item(page)->text().toUtf8().constData());
+    QCoreApplication::processEvents();
+  }
+  for (const TableView* view : window_->findChildren<TableView*>()) {
+    if (view->objectName() != "RemedyTable") {
+      EXPECT_FALSE(view->Table().Rows.empty()) << view->objectName().toStdString();
+    }
+  }
+}
+
+TEST_F(HoroscopeWindowTest, APickedPeriodOpensTheListsBelowItAndTheSummaries) {
+  Open();
+  Turn("Dasha");
+  ClickCell("DashaList", 0, 1);
+  const auto& bhuktis = Find<TableView>("BhuktiList").Table();
+  EXPECT_EQ(bhuktis.Rows.front().Cells.front().Text, "Mercury");
+  EXPECT_EQ(bhuktis.Rows.back().Cells.back().Text, Text("DashaList", 0, 3));
+  ClickCell("BhuktiList", 3, 0);
+  EXPECT_EQ(Text("AntaraList", 0, 0), Text("BhuktiList", 3, 0));
+  EXPECT_EQ(Text("DBAPeriods", 0, 2), Text("BhuktiList", 3, 1));
+  // The arrow keys go on from the row picked, not from the first one.
+  QTest::keyClick(&Find<TableView>("BhuktiList"), Qt::Key_Down);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Text("AntaraList", 0, 0), Text("BhuktiList", 4, 0));
+  EXPECT_TRUE(Find<TableView>("BhuktiList").hasFocus());
+}
+
+TEST_F(HoroscopeWindowTest, TheFilterOfTheAspectsOutlivesARotation) {
+  Open();
+  Turn("Aspects");
+  auto& filter = Find<QComboBox>("aspectFilter");
+  const auto rowsOf = [&](const char* background) {
+    std::size_t rows = 0;
+    for (const core::Row& row : Find<TableView>("PlanetAspectList").Table().Rows) {
+      rows += row.Cells.at(core::Table::Index(chart::AspectColumn::Angle)).Background == background;
+    }
+    return rows;
+  };
+  const std::size_t good = rowsOf("CAFACB");
+  const std::size_t hard = rowsOf("FACACA");
+  ASSERT_GT(good, 0U);
+  ASSERT_GT(hard, 0U);
+  filter.setFocus();
+  QTest::keyClick(&filter, Qt::Key_Down);
+  EXPECT_EQ(std::pair(rowsOf("CAFACB"), rowsOf("FACACA")), std::pair(good, std::size_t{0}));
+  QTest::keyClick(&filter, Qt::Key_Down);
+  MenuEntry("rotationMenu", "4").trigger();
+  EXPECT_EQ(std::pair(rowsOf("CAFACB"), rowsOf("FACACA")), std::pair(std::size_t{0}, hard));
+  EXPECT_EQ(filter.currentText(), "Hard aspects");
+}
+
+TEST_F(HoroscopeWindowTest, ATypedYearOfLifeRedrawsTheAnnualChartAndTheHead) {
+  Open();
+  Turn("Annual chart");
+  auto& year = Find<QSpinBox>("yearOfLife");
+  EXPECT_EQ(year.value(), 37);
+  year.setFocus();
+  year.selectAll();
+  QTest::keyClicks(&year, "2");
+  QTest::keyClick(&year, Qt::Key_Return);
+  EXPECT_TRUE(Find<QLabel>("CurrentDBA").text().endsWith("Current BCP House: 2"));
+  const auto& chart = Find<HoroscopeChart>("annualChart").Picture();
+  for (int house = 0; house < 12; ++house) {
+    std::string codes;
+    for (const std::string& code : chart.Fields.at(static_cast<std::size_t>(house)).Codes) {
+      codes += (codes.empty() ? "" : " ") + code;
+    }
+    EXPECT_EQ(codes, Text("LalKitabYear", house, 1)) << house;
+  }
+}
+
+TEST_F(HoroscopeWindowTest, ADoubleClickOnAPlanetOpensItsSheet) {
+  Open();
+  ClickCell("PlanetTable", 2, 0, true);
+  auto* sheet = window_->findChild<PlanetSheetDialog*>();
+  ASSERT_NE(sheet, nullptr);
+  EXPECT_EQ(sheet->windowTitle(), "Sun (Gemini)");
+  QTest::keyClick(sheet, Qt::Key_Escape);
+  QCoreApplication::sendPostedEvents(sheet, QEvent::DeferredDelete);
+
+  // In the chart too, where the code carries marks.
+  auto& chart = Find<HoroscopeChart>("rashiChart");
+  QPoint found;
+  for (int x = 0; x < chart.width() && found.isNull(); x += 4) {
+    for (int y = 0; y < chart.height() && found.isNull(); y += 4) {
+      found = chart.CodeAt({double(x), double(y)}) == "SA~" ? QPoint(x, y) : QPoint();
+    }
+  }
+  QTest::mouseDClick(&chart, Qt::LeftButton, {}, found);
+  sheet = window_->findChild<PlanetSheetDialog*>();
+  ASSERT_NE(sheet, nullptr);
+  EXPECT_EQ(sheet->windowTitle(), "Saturn (Sagittarius)");
+}
+
+TEST_F(HoroscopeWindowTest, ThePlanOfPadsShowsItsSectorsAndTheDeitiesThatAreStruck) {
+  Open();
+  Turn("Vastu");
+  const auto& north = Find<QTableWidget>("vastuNorth");
+  const auto& south = Find<QTableWidget>("vastuSouth");
+  EXPECT_EQ(north.item(0, 0)->text() + north.item(1, 0)->text(), "NWN1");
+  EXPECT_EQ(north.columnSpan(0, 1), 2);
+  EXPECT_EQ(south.item(3, 0)->text() + south.item(2, 0)->text(), "SWS8");
+  EXPECT_EQ(Find<QTableWidget>("vastuEast").item(0, 2)->text(), "E1");
+  EXPECT_EQ(Find<QTableWidget>("vastuWest").item(7, 1)->text(), "W1");
+  EXPECT_EQ(north.item(1, 4)->toolTip(), "0 to 11.25 degrees");
+  const core::Cell& outer = horoscope::CreateHoroscope(*session_, client_)
+                                ->Model.VastuPads.At(0, vedic::PadColumn::Outer);
+  EXPECT_EQ(north.item(2, 0)->text(), Shown(outer.Text));
+  EXPECT_EQ(north.item(2, 0)->foreground().color() == QColor(255, 0, 0),
+            outer.Foreground == "FF0000");
+}
+
+TEST_F(HoroscopeWindowTest, RecalculationRefusesWithTheFieldInFocusAndChangesNothingStored) {
+  Open();
+  Turn("Recalculation");
+  const std::string ascendant = Text("workCusps", 0, 1);
+  const struct {
+    const char* Field;
+    const char* Typed;
+    const char* Message;
+  } cases[] = {
+      {"offset", "x", "Please enter a numeric value."},
+      {"offset", "27.5", "Incorrect Offset Value entered."},
+      {"latitude", " ", "Latitude is a mandatory field."},
+      {"longitude", "east", "Longitude is a numeric field."},
+  };
+  for (const auto& refused : cases) {
+    auto& field = Find<QLineEdit>(refused.Field);
+    const QString before = field.text();
+    field.selectAll();
+    QTest::keyClicks(&field, refused.Typed);
+    QTest::mouseClick(&Find<QPushButton>("recalculate"), Qt::LeftButton);
+    EXPECT_EQ(home_.Messages.All().back().Text, refused.Message);
+    EXPECT_EQ(window_->focusWidget(), &field) << refused.Message;
+    EXPECT_EQ(Text("workCusps", 0, 1), ascendant);
+    field.setText(before);
+  }
+  QTest::mouseClick(&Find<QPushButton>("later"), Qt::LeftButton);
+  EXPECT_EQ(Find<QLabel>("movedBirth").text(), "5 July 1990 02:31:00 PM");
+  EXPECT_NE(Text("workCusps", 0, 1), ascendant);
+  EXPECT_EQ(Find<TableView>("workCusps").Table().Rows[0].Cells[1].Background, "FEFA85");
+  QTest::mouseClick(&Find<QPushButton>("backToBirth"), Qt::LeftButton);
+  EXPECT_EQ(Text("workCusps", 0, 1), ascendant);
+  EXPECT_EQ(horoscope::CreateHoroscope(*session_, client_)->Model.CuspDegree1, "194.67");
+}
+
+TEST_F(HoroscopeWindowTest, RemediesAreAddedChangedAndDeleted) {
+  Open();
+  Turn("Remedies");
+  EXPECT_FALSE(Find<QPushButton>("editRemedy").isEnabled());
+  WhenOpen("remedyDialog", [](QDialog& dialog) {
+    QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("problem"), "No \"work\" & 'rest'");
+    QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("remedy"), "Yellow");
+    QTest::mouseClick(dialog.findChild<QPushButton*>("action"), Qt::LeftButton);
+  });
+  QTest::mouseClick(&Find<QPushButton>("addRemedy"), Qt::LeftButton);
+  EXPECT_EQ(Text("RemedyTable", 0, 0), "No \"work\" & 'rest'");
+  WhenOpen("remedyDialog", [](QDialog& dialog) {
+    QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("remedy"), "Blue ");
+    QTest::mouseClick(dialog.findChild<QPushButton*>("action"), Qt::LeftButton);
+  });
+  QTest::mouseClick(&Find<QPushButton>("editRemedy"), Qt::LeftButton);
+  EXPECT_EQ(Text("RemedyTable", 0, 1), "Blue Yellow");
+  QTest::mouseClick(&Find<QPushButton>("deleteRemedy"), Qt::LeftButton);
+  EXPECT_EQ(home_.Messages.All().back().Buttons, core::MessageButtons::YesNo);
+  EXPECT_EQ(Find<TableView>("RemedyTable").Table().Rows.size(), 1U) << "the question was denied";
+}
+
+TEST_F(HoroscopeWindowTest, ExportWritesTheReportOfWhatIsShownAndOpensIt) {
+  Open();
+  Turn("Vastu");
+  MenuEntry("rotationMenu", "7").trigger();
+  MenuEntry("exportMenu", "Report: Dasha, Bhukti and Antara").trigger();
+  ASSERT_EQ(files_.Opened.size(), 1U);
+  EXPECT_NE(test::ReadFile(files_.Opened[0]).find("Asha Rao (Rotated to 7)"), std::string::npos);
+  EXPECT_EQ(Find<QListWidget>("pages").currentRow(), 0);
+  EXPECT_TRUE(Find<QLabel>("statusText").text().startsWith("Asc = "));
+}
+
+TEST_F(HoroscopeWindowTest, TheDivisionsCloseOnEscape) {
+  Open();
+  bool seen = false;
+  WhenOpen("divisionalCharts", [&seen](QDialog& dialog) {
+    seen = dialog.findChild<HoroscopeChart*>("dashamsha") != nullptr;
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  QTest::keyClick(window_, Qt::Key_D, Qt::ControlModifier);
+  EXPECT_TRUE(seen);
+}
+
+TEST_F(HoroscopeWindowTest, AQueryHidesTheRectificationAndShowsItsQuestion) {
+  chart::ClientForm form = *chart::OpenEditClient(*session_, client_);
+  form.Horary = true;
+  form.HoraryNumber = "100";
+  form.HoraryQuestion = "When?";
+  ASSERT_FALSE(chart::SaveClientChanges(*session_, form, client_).Refused);
+  Open();
+  EXPECT_FALSE(Find<QAction>("rectify").isVisible());
+  EXPECT_EQ(Find<QLabel>("HoraryQuestion").text(), "When?");
+  EXPECT_TRUE(Find<QLabel>("Date").text().endsWith(" # 100"));
+}
+
+TEST_F(HoroscopeWindowTest, ThePageIsRememberedAndTablesAreCopied) {
+  Open();
+  Turn("Lo Shu");
+  window_->close();
+  QCoreApplication::sendPostedEvents(window_, QEvent::DeferredDelete);
+  Open();
+  EXPECT_EQ(Find<QListWidget>("pages").currentItem()->text(), "Lo Shu");
+  QTest::keyClick(&Find<TableView>("LoShuPlanes"), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Seq\tPlane\tDescription\n492\tMental"));
+}
+
+}  // namespace
+}  // namespace orvex::ui
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  QApplication application(argc, argv);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
