@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include "core/table.h"
 #include "ui/base/workplace.h"
 
 class QLabel;

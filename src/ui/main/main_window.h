@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 
+#include "core/table.h"
 #include "ui/base/workplace.h"
 
 class QLabel;
