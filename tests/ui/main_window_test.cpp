@@ -130,6 +130,7 @@ TEST_F(MainWindowTest, DeletingAsksFirstAndTheLastGroupLeavesWordsOfWhatToDo) {
 TEST_F(MainWindowTest, AnInstantChartIsStoredShownAndOpened) {
   AddClient("Asha Rao", "1990-11-24 14:30:00");
   Open();
+  home_.Clock.Set(home_.Clock.Now() + std::chrono::seconds(1));
   Trigger("instantChart");
   EXPECT_EQ(Label("totalClients"), "Total Clients: 2");
   EXPECT_EQ(session_->State.OpenHoroscopes.size(), 1U);

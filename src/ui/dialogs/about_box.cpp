@@ -49,7 +49,7 @@ HelpBox::HelpBox(QWidget* parent) : QDialog(parent) {
           "<tr><td>Ctrl+N</td><td>Add client</td></tr>"
           "<tr><td>Enter</td><td>View horoscope</td></tr>"
           "<tr><td>F2</td><td>Edit client</td></tr>"
-          "<tr><td>Del</td><td>Delete client</td></tr>"
+          "<tr><td>Ctrl+Del</td><td>Delete client</td></tr>"
           "<tr><td>Ctrl+M</td><td>Move client to another group</td></tr>"
           "<tr><td>Ctrl+F</td><td>Filter clients</td></tr>"
           "<tr><td>Ctrl+I</td><td>Instant chart</td></tr>"

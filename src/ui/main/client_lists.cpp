@@ -59,6 +59,7 @@ ClientLists::ClientLists(Workplace& place, QWidget* parent)
   columns->addWidget(BuildGroups());
   columns->addWidget(rows);
   columns->setStretchFactor(1, 1);
+  columns->setSizes({18 * kGrid, 64 * kGrid});
   Column(this)->addWidget(columns);
   Connect();
 }

@@ -129,7 +129,9 @@ void MainWindow::LayOut() {
   if (!place_.Layout.RestoreWindow(*this)) {
     resize(1366, 720);
   }
-  place_.Layout.RestoreSplitter(*halves_);
+  if (!place_.Layout.RestoreSplitter(*halves_)) {
+    halves_->setSizes({84 * kGrid, 82 * kGrid});
+  }
 }
 
 QWidget* MainWindow::BuildClientsPage() {
