@@ -85,9 +85,9 @@ int Run(int argc, char** argv) {
   DivisionalDialog divisions(horoscope::CreateHoroscope(*session, client)->Model, 'N', nullptr);
   WritePicture(divisions, folder / "divisions.png");
   for (int i = 0; i < 5; ++i) {
-    session->StoreConnection.Execute("Update client_master set createdate = " +
-                                     core::DateLiteral(test::Moment("2001-01-0" +
-                                                                    std::to_string(i + 1))));
+    session->StoreConnection.Execute(
+        "Update client_master set createdate = " +
+        core::DateLiteral(test::Moment("2001-01-0" + std::to_string(i + 1))));
     AddClient(*session, "1990-07-05 14:30:00");
   }
   Measure(place, client + 1);

@@ -71,6 +71,7 @@ QPalette PaletteOf(const Shades& shades) {
   palette.setColor(QPalette::Highlight, shades.Highlight);
   palette.setColor(QPalette::HighlightedText, shades.HighlightedText);
   palette.setColor(QPalette::Link, shades.Link);
+  palette.setColor(QPalette::Disabled, QPalette::Base, shades.Window);
   for (const QPalette::ColorRole role :
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, shades.Faint);
