@@ -78,7 +78,10 @@ void CatalogueTable::Activate(const QModelIndex& index) {
 }
 
 void CatalogueTable::ShowModel() {
-  view_->SetTable(entry_.Of(document_.Model()));
+  const core::Table& table = entry_.Of(document_.Model());
+  view_->horizontalHeader()->setStretchLastSection(!table.Columns.empty() &&
+                                                   !table.Columns.back().Centred);
+  view_->SetTable(table);
   if (growsRows_) {
     view_->resizeRowsToContents();
   }
