@@ -103,7 +103,7 @@ void ChartPage::ShowModel() {
 
 void ChartPage::ShowRulingPlanets() {
   if (ofNow_->isChecked()) {
-    ruling_->View().SetTable(Document().RulingPlanetsNow());
+    ruling_->ShowTable(Document().RulingPlanetsNow());
   } else {
     ruling_->ShowModel();
   }
