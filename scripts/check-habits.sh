@@ -31,6 +31,7 @@ forbid "Numbers become text in core/exact_numbers alone:" \
 forbid "Nothing depends on the locale of the machine:" '\b(setlocale|std::locale)\b' none
 owned "Only the gateway knows the ephemeris library:" swephexp.h src/astro/ephemeris_gateway.cpp
 owned "Only the store knows its engine:" sqlite3.h src/core/store.cpp
+owned "Only the calendar file knows its library:" libical/ical.h src/transit/calendar_file.cpp
 owned "Only the export knows the spreadsheet library:" xlsxwriter.h src/practice/export_list.cpp
 forbid "Below the windows nothing knows Qt:" '# *include *[<"]Q' 'src/ui/.*'
 

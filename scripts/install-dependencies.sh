@@ -9,6 +9,7 @@ packages=(
   libsqlite3-dev libxlsxwriter-dev libfmt-dev nlohmann-json3-dev libcli11-dev
   libhowardhinnant-date-dev tzdata
   qt6-base-dev libqt6svg6-dev fonts-dejavu-core weasyprint
+  libical-dev
   libgtest-dev libgmock-dev libbenchmark-dev python3
 )
 development=(clang-format-14 clang-tidy-14 clang-tools-14 locales xvfb xdotool)

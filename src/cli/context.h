@@ -92,5 +92,6 @@ void AddSettingsCommands(CLI::App& app, Context& context);    // settings
 void AddSkyCommands(CLI::App& app, Context& context);         // sky, hora
 void AddReportCommands(CLI::App& app, Context& context);      // report
 void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
+void AddTransitCommands(CLI::App& app, Context& context);     // grid, transit, find
 
 }  // namespace orvex::cli

@@ -59,6 +59,7 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddReportCommands(app, context);
   orvex::cli::AddPlanetCommands(app, context);
   orvex::cli::AddRemedyCommands(app, context);
+  orvex::cli::AddTransitCommands(app, context);
   orvex::cli::AddSearchCommands(app, context);
   orvex::cli::AddExportCommands(app, context);
   orvex::cli::AddImportCommand(app, context);

@@ -24,12 +24,12 @@ void RunBackup(Context& context) {
 
 // A store that can't be opened is restored too, so no session is started before.
 void RunRestore(Context& context, const std::string& file) {
-  const core::Home home{HomeFolder(context.HomeOption)};
+  const core::Home home{core::HomeFolder(context.HomeOption)};
   constexpr std::chrono::milliseconds kPatience{2000};
   if (!core::MakePrivateFolders(home.DataFolder())) {
     throw CommandFailed("The home could not be made.");
   }
-  const std::optional<core::HomeLock> lock = core::HomeLock::Acquire(home, kPatience);
+  const std::optional<core::FileLock> lock = core::FileLock::Acquire(home.LockFile(), kPatience);
   if (!lock) {
     throw CommandFailed("You can run only one instance of Orvex+ at a time.");
   }

@@ -107,7 +107,7 @@ fs::path BackUpStore(const Home& home, const Store& store, const Clock& clock) {
   if (!MakePrivateFolders(BackupFolder(home))) {
     throw StoreError(StoreFault::Statement, "the folder of the backups could not be made");
   }
-  const fs::path file = FreshName(home, clock);
+  fs::path file = FreshName(home, clock);
   const fs::path beside = file.string() + ".new";
   fs::remove(beside);
   fs::remove(beside.string() + "-journal");

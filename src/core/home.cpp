@@ -110,7 +110,8 @@ std::string ReadTextFile(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);
   std::ostringstream text;
   text << stream.rdbuf();
-  if (!stream || text.bad()) {
+  std::error_code ignored;
+  if (!stream || !fs::is_regular_file(file, ignored)) {
     throw std::runtime_error("The file " + file.string() + " could not be read.");
   }
   return text.str();

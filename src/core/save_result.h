@@ -15,7 +15,7 @@ struct Refusal {
   std::string Text;
   MessageIcon Icon = MessageIcon::Information;
   std::string Field;
-  std::string Page = "";
+  std::string Page{};
 };
 
 // Either the id of what was written or a refusal.

@@ -2,8 +2,8 @@
 
 #include "chart/place_checks.h"
 #include "core/exact_numbers.h"
-#include "core/text.h"
 #include "core/store_write.h"
+#include "core/text.h"
 
 namespace orvex::practice {
 
@@ -80,6 +80,11 @@ core::Table SearchCities(const core::Session& session, const std::string& text) 
                   "Select cm.*, tm.countrycode from city_master cm, timezone_master tm "
                   "where cm.timezone = tm.timezone and cm.cityname like '%" +
                       core::ReplaceAll(text, "'", "''") + "%' order by cm.cityname");
+}
+
+std::optional<core::Refusal> CheckPickedCity(std::int32_t cityId) {
+  return cityId == 0 ? std::optional(Refuse("Please select a City from the list.", "cityList"))
+                     : std::nullopt;
 }
 
 core::Table LoadTimeZones(const core::Session& session) {

@@ -24,6 +24,13 @@ core::Table SearchCities(const core::Session& session, const std::string& text);
 // All time zones by name.
 core::Table LoadTimeZones(const core::Session& session);
 
+// Why the choice of the pick-a-city dialog may not be taken: 0 is none. A change of tab and each
+// change of the filter clear the choice.
+std::optional<core::Refusal> CheckPickedCity(std::int32_t cityId);
+
+// What the zone list of the city dialog shows while a stored city is edited.
+inline constexpr const char* kZoneStays = "Time Zone can't be changed in Edit mode.";
+
 // The fields of the city dialog, numbers as texts.
 struct CityForm {
   std::string CityName;

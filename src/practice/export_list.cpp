@@ -104,8 +104,9 @@ void WriteCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const core
 void WriteColumns(lxw_worksheet* sheet, const core::Table& table, const Formats& formats) {
   lxw_row_col_options hidden{};
   hidden.hidden = LXW_TRUE;
-  for (lxw_col_t column = 0; column < table.Columns.size(); ++column) {
-    const core::Column& head = table.Columns[column];
+  for (std::size_t at = 0; at < table.Columns.size(); ++at) {
+    const auto column = static_cast<lxw_col_t>(at);
+    const core::Column& head = table.Columns[at];
     const double width =
         head.Width == core::Column::kNoWidth ? kPlainWidth : head.Width / kPixelsOfCharacter;
     Require(worksheet_set_column_opt(sheet, column, column, width, nullptr,
@@ -123,8 +124,9 @@ void Write(const core::Table& table, const fs::path& file, const std::string& ti
   lxw_row_t row = 0;
   for (const core::Row& cells : table.Rows) {
     ++row;
-    for (lxw_col_t column = 0; column < table.Columns.size(); ++column) {
-      WriteCell(sheet, row, column, cells.Cells.at(column), formats);
+    for (std::size_t at = 0; at < table.Columns.size(); ++at) {
+      const auto column = static_cast<lxw_col_t>(at);
+      WriteCell(sheet, row, column, cells.Cells.at(at), formats);
     }
   }
   book.Finish();

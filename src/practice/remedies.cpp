@@ -87,6 +87,16 @@ core::Table LoadRemedies(const core::Session& session, std::int32_t clientId) {
   return table;
 }
 
+std::vector<PlanetChoice> RemedyPlanets(const core::Session& session) {
+  std::vector<PlanetChoice> planets = {{0, "None"}};
+  for (core::Result row = session.StoreConnection.Query(
+           "Select id, planetname from planet_master order by planetname");
+       !row.AtEnd(); row.Next()) {
+    planets.push_back({static_cast<std::int32_t>(row.Integer("id")), row.Text("planetname")});
+  }
+  return planets;
+}
+
 RemedyForm OpenAddRemedy(const core::Session& session) { return {0, "", "", session.Time.Today()}; }
 
 std::optional<RemedyForm> OpenEditRemedy(core::Session& session, std::int32_t remedyId) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/save_result.h"
 #include "core/session.h"
@@ -25,6 +26,15 @@ inline constexpr const char* kFilteredRemedyCaption = "Remedy given:";
 // The remedies of a client by date. The tag of a row is the remedy's id. Planet 0 reads "None"; a
 // number that is no planet reads as the row before it.
 core::Table LoadRemedies(const core::Session& session, std::int32_t clientId);
+
+// A planet of the dialog's list.
+struct PlanetChoice {
+  std::int32_t Id = 0;
+  std::string Name;
+};
+
+// "None" with 0, then the planets by name.
+std::vector<PlanetChoice> RemedyPlanets(const core::Session& session);
 
 // The fields of the remedy dialog.
 struct RemedyForm {

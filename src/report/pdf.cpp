@@ -10,6 +10,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "core/home.h"
 #include "core/text.h"
 
 namespace orvex::report {
@@ -33,6 +34,24 @@ std::string ReadAll(int pipeEnd) {
     text.append(piece.data(), static_cast<std::size_t>(count));
   }
   return text;
+}
+
+// The heads of the tables as such, so that each page begins with them.
+std::string WithTableHeads(const std::string& html) {
+  constexpr std::string_view kOpening = "<tr bgcolor='#6D6D6D'>";
+  constexpr std::string_view kClosing = "</tr>";
+  std::string marked;
+  std::size_t done = 0;
+  for (std::size_t at = 0; (at = html.find(kOpening, done)) != std::string::npos;) {
+    const std::size_t end = html.find(kClosing, at);
+    if (end == std::string::npos) {
+      break;
+    }
+    const std::size_t next = end + kClosing.size();
+    marked += html.substr(done, at - done) + "<thead>" + html.substr(at, next - at) + "</thead>";
+    done = next;
+  }
+  return marked + html.substr(done);
 }
 
 // Starts the engine, whose errors go into a pipe. Nothing is handed to a shell.
@@ -81,8 +100,11 @@ fs::path WritePdf(const fs::path& report) {
   fs::path pdf = fs::absolute(report);
   pdf.replace_extension(".pdf");
   const fs::path beside = pdf.string() + ".new";
-  std::string failure = RunEngine(fs::absolute(report), beside);
+  const fs::path pages = pdf.string() + ".htm";
+  core::WriteFileSafely(pages, WithTableHeads(core::ReadTextFile(report)));
+  std::string failure = RunEngine(pages, beside);
   std::error_code error;
+  fs::remove(pages, error);
   if (failure.empty()) {
     fs::permissions(beside, fs::perms::owner_read | fs::perms::owner_write, error);
     if (!error) {

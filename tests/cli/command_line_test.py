@@ -6,6 +6,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import zipfile
 
 PROGRAM = os.path.abspath(sys.argv.pop())
 BIRTH = ["--birth", "1990-07-05 14:30", "--city", "1"]
@@ -75,8 +76,23 @@ class CommandLine(unittest.TestCase):
             (["city", "offset", "999999", "1990-01-01"],
              "The record you are trying to edit could not be retrieved."),
             (["group", "add", "general"], "The Group 'general' already exists in the database."),
+            (["client", "delete", "1"], "Are you sure you want to delete the selected Client?"),
+            (["client", "delete", "55", "--yes"], "There is no client with that id."),
+            (["client", "move", "55", "--group", "1"], "There is no client with that id."),
+            (["search", "--gender", "X"], "--gender"),
+            (["search", "--retro", "Sun"], "--retro"),
+            (["import", "/nowhere.csv"], "could not be read"),
             (["group", "delete", "1"], "Are you sure you want to delete"),
             ([*CHART, "--horary", "1000"], "--horary"),
+            (["find", "Sun", "--degree", "abc"], "Numeric value required."),
+            (["find", "Sun", "--degree", "-5"], "Value should be between 0 to 360 degrees."),
+            (["find", "Sun", "--degree", "361"], "Value should be between 0 to 360 degrees."),
+            (["find", "Sun", "--degree", "200", "--from", "2026-01-01", "--days", "3"],
+             "Not found within the days to search."),
+            (["find", "Pluto", "--degree", "1"], "no planet"),
+            (["grid", "1499", "12"], "1500 to 2500"),
+            (["grid", "2026", "11", "--time", "25:00"], "--time"),
+            (["transit", "Mars", "2026-11-24", "--hour", "24"], "--hour"),
             (["--now", "yesterday", "client", "list"], "--now"),
         ]
         for arguments, message in cases:
@@ -85,6 +101,91 @@ class CommandLine(unittest.TestCase):
                 self.assertEqual((status, out), (1, ""), arguments)
                 self.assertIn(message, err)
         self.assertEqual(json.loads(self.succeed("client", "list", "--json"))["rows"], [])
+
+    def test_settings_are_checked_and_apply_to_the_next_command(self):
+        changed = json.loads(self.succeed("settings", "set", "AstrologerName=O'Neil",
+                                          "sortbyfield=BHD", "DefaultChartType=South Indian",
+                                          "Orbit_30=0", "--json"))
+        self.assertEqual((changed["AstrologerName"], changed["SortByField"], changed["Orbit_30"],
+                          changed["DefaultChartType"]), ("O'Neil", "BHD", "0", "S"))
+        self.assertEqual(json.loads(self.succeed("settings", "show", "--json")), changed)
+        for setting, message in [("Orbit_150=4", "Value cannot be less than 0 or greater than 3."),
+                                 ("Orbit_150=x", "Numeric value required."),
+                                 ("AstrologerName=" + "x" * 51, "Name cannot exceed 50 characters."),
+                                 ("RahuKetuCalculation=X", "takes one of M (Mean), T (True)")]:
+            status, out, err = self.call("settings", "set", setting)
+            self.assertEqual((status, out), (1, ""), setting)
+            self.assertIn(message, err)
+        for setting in ("Shoe=4", "Orbit_30"):
+            self.assertEqual(self.call("settings", "set", setting)[0], 2)
+        self.assertEqual(json.loads(self.succeed("settings", "show", "--json")), changed)
+
+    def test_an_instant_chart_needs_a_group(self):
+        self.assertEqual(self.succeed("--now", "2026-11-24 10:00", "instant"), "1\n")
+        self.assertIn("Instant Chart - 24 Nov 2026 10:00", self.succeed("client", "list"))
+        self.succeed("settings", "set", "ICGroupID=0")
+        status, out, err = self.call("instant")
+        self.assertEqual((status, out, err), (
+            1, "", "Instant Chart not configured in Settings window. "
+            "Do you wish to configure it now?\n"))
+        self.assertEqual(len(json.loads(self.succeed("client", "list", "--json"))["rows"]), 1)
+
+    def test_a_search_lists_and_counts_and_a_quote_finds_nothing(self):
+        self.succeed("client", "add", "--name", "A", *BIRTH, "--comments", "it's work")
+        found = json.loads(self.succeed("search", "--text", "work", "--groups", "1", "--after",
+                                        "1990-07-05", "--before", "1990-07-06", "--json"))
+        self.assertEqual(found["captions"]["Result"],
+                         "Found 1 record(s). Double click on a record to View Horoscope.")
+        self.assertEqual(found["tables"]["Results"]["rows"][0]["tag"], "1")
+        self.assertIn("Found 0 record(s).", self.succeed("search", "--text", "it's"))
+        status, out, err = self.call("search", "--groups", "")
+        self.assertEqual((status, out, err), (
+            1, "", "You need to select at least one Group from the list.\n"))
+
+    def test_a_spreadsheet_holds_dates_numbers_and_harmless_texts(self):
+        self.succeed("client", "add", "--name", "=1+1", *BIRTH, "--mobile", "009")
+        file = os.path.join(self.home, "list.xlsx")
+        self.succeed("export", "search", "--gender", "M", "--file", file)
+        self.assertEqual(os.stat(file).st_mode & 0o777, 0o600)
+        with zipfile.ZipFile(file) as book:
+            sheet = book.read("xl/worksheets/sheet1.xml").decode()
+            texts = book.read("xl/sharedStrings.xml").decode()
+        self.assertNotIn("<f>", sheet)
+        self.assertIn("<t>=1+1</t>", texts)
+        self.assertIn("<t>009</t>", texts)
+        self.assertIn('state="frozen"', sheet)
+        self.assertRegex(sheet, r'<c r="D2" s="2"><v>33059\.6')  # 5 July 1990 as a day number
+        self.assertIn('<c r="H2"><v>19.07283</v>', sheet)
+        status, _, err = self.call("export", "birthdays", "--file", "/nowhere/x.xlsx")
+        self.assertEqual((status, err), (1, "Could not export data to Microsoft Excel.\n"))
+
+    def test_clients_go_out_as_csv_and_come_in_again(self):
+        self.succeed("client", "add", "--name", "=1+1", *BIRTH, "--comments", "a\n\"b\",c")
+        self.succeed("client", "add", "--name", "Q", *BIRTH, "--horary", "7", "--question", "-?")
+        out = self.succeed("client", "list", "--csv")
+        file = os.path.join(os.path.dirname(self.home), "clients.csv")
+        with open(file, "w", encoding="utf-8", newline="") as stream:
+            stream.write(out + "Bad,,1,,,,,,,,,,,,,\n")
+        self.home += "2"
+        status, printed, err = self.call("import", file, "--dry-run", "--json")
+        self.assertEqual((status, json.loads(printed)["imported"]), (0, 2))
+        self.assertIn("line 5: birth:", err)
+        self.assertEqual(json.loads(self.succeed("client", "list", "--json"))["rows"], [])
+        self.assertEqual(self.call("import", file)[0], 0)
+        self.assertEqual(self.succeed("client", "list", "--csv"), out)
+        status, printed, _ = self.call("import", file)
+        self.assertEqual((status, printed), (0, "0 imported, 2 already stored, 1 refused\n"))
+
+    def test_a_deleted_client_comes_back_with_a_backup(self):
+        self.succeed("client", "add", "--name", "A", *BIRTH)
+        backup = self.succeed("backup").strip()
+        self.assertEqual(self.succeed("client", "delete", "1", "--yes"), "1\n")
+        self.assertEqual(json.loads(self.succeed("client", "list", "--json"))["rows"], [])
+        self.succeed("restore", backup)
+        self.assertEqual(len(json.loads(self.succeed("client", "list", "--json"))["rows"]), 1)
+        status, out, err = self.call("restore", PROGRAM)
+        self.assertEqual((status, out), (1, ""))
+        self.assertIn("no database of Orvex+; nothing was changed", err)
 
     def test_words_that_are_off_exit_with_2_and_a_usage_line(self):
         for arguments in ([], ["nonsense"], ["client"], ["client", "add"], ["chart"],
@@ -121,6 +222,20 @@ class CommandLine(unittest.TestCase):
         status, _, err = self.call("chart", "--birth", "9999-01-01 00:00", "--offset", "0",
                                    "--latitude", "0", "--longitude", "0")
         self.assertEqual((status, err.count("no positions for this date")), (0, 1))
+
+    def test_found_transits_and_a_month_go_into_private_calendar_files(self):
+        for arguments in (["find", "Moon", "--degree", "100", "--from", "2026-01-01", "--count",
+                           "3"], ["grid", "2026", "11"]):
+            file = os.path.join(os.path.dirname(self.home), "transits.ics")
+            first = []
+            for _ in range(2):
+                self.succeed(*arguments, "--ics", file)
+                with open(file, encoding="utf8", newline="") as stream:
+                    text = stream.read()
+                first.append([line for line in text.split("\r\n") if line.startswith("UID:")])
+            self.assertEqual(os.stat(file).st_mode & 0o777, 0o600)
+            self.assertEqual(first[0], first[1])
+            self.assertGreater(len(first[0]), 2)
 
     def test_a_negative_number_is_a_value_and_not_an_option(self):
         chart = json.loads(self.succeed("chart", "--birth", "1990-07-05 14:30", "--offset", "-5",

@@ -216,6 +216,12 @@ TEST(MachineSettings, TellWhatIsWrongInTheProgramsWords) {
             "Could not open/create registry section");
   EXPECT_EQ(messageOf([&] { number.ReadMachineSetting("a", "b", "c", ""); }),
             "Registry data not a string");
+
+  // What a power cut can leave holds nothing and stops no start.
+  const MachineSettings empty(folder.Path() / "empty");
+  std::ofstream(folder.Path() / "empty").flush();
+  EXPECT_EQ(empty.ReadMachineSetting("a", "b", "c", "fallback"), "fallback");
+  EXPECT_EQ(messageOf([&] { empty.SaveMachineSetting("a", "b", "c", ""); }), "no error");
 }
 
 TEST(MachineSettings, ProgramsOfSeveralHomesWriteAtOnceAndLoseNothing) {

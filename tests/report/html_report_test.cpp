@@ -69,7 +69,7 @@ TEST_F(HtmlReport, TypedTextsAreShownAsTypedAndAreNoPlaceholders) {
   EXPECT_EQ(Filled("[COMMENTS]"), "Says \"&#91;DBA1]\" &amp; &lt;script&gt;");
   session_->State.AstrologerName = "[CURRENTDATE]<i>";
   EXPECT_EQ(Filled("[ASTROLOGERNAME] [CURRENTDATE] [NOTHING] [fullname]"),
-            "&#91;CURRENTDATE]&lt;i&gt; 24 Nov 2026 [NOTHING] [fullname]");
+            "&#91;CURRENTDATE]&lt;i&gt; 24 November 2026 [NOTHING] [fullname]");
 }
 
 TEST_F(HtmlReport, ScalarsAreThoseOfTheWindow) {
@@ -167,7 +167,7 @@ TEST_F(HtmlReport, RemediesAreEscapedAndTheirLackIsTold) {
   form.Remedy = "Rest & water";
   practice::SaveNewRemedy(*session_, form, id_);
   const std::string table = Filled("[REMEDYGIVEN]");
-  for (const char* text : {">&lt;b&gt;&#91;DBA1]<", ">Rest &amp; water<", ">24 Nov 2026<"}) {
+  for (const char* text : {">&lt;b&gt;&#91;DBA1]<", ">Rest &amp; water<", ">24 November 2026<"}) {
     EXPECT_NE(table.find(text), std::string::npos) << text;
   }
   EXPECT_EQ(table.find("No records"), std::string::npos);

@@ -14,6 +14,7 @@ constexpr double kLargestText = 0.044;
 constexpr double kSmallestText = 0.018;
 constexpr double kSignText = 0.030;
 constexpr double kTitleText = 0.046;
+constexpr double kNoteText = 0.8;  // of the planets' size
 constexpr double kBorderLine = 0.0055;
 constexpr double kInnerLine = 0.0030;
 
@@ -35,33 +36,37 @@ QPolygonF Placed(const QRectF& square, const QPolygonF& unit) {
   return outline;
 }
 
-// The sign's number with the cusp's degree behind it.
-QString SignLabel(const report::PictureField& field) {
-  QString label = QString::fromStdString(field.Sign);
-  if (!field.Note.empty()) {
-    label += "  " + QString::fromStdString(field.Note);
-  }
-  return label;
+QRectF NumberBox(const QPointF& tip, const QString& number, const QFontMetricsF& metrics) {
+  QRectF box(0, 0, metrics.horizontalAdvance(number), metrics.height());
+  box.moveCenter(tip);
+  return box;
 }
 
-// Around the tip; a label with a degree begins there, so that it keeps clear of the corner.
-QRectF LabelBox(const QPointF& tip, const QString& label, const QFontMetricsF& metrics) {
-  const double width = metrics.horizontalAdvance(label);
-  const double first =
-      label.contains(' ') ? metrics.horizontalAdvance(label.section(' ', 0, 0)) : width;
-  return {tip.x() - first / 2, tip.y() - metrics.height() / 2, width, metrics.height()};
+// The degree of the cusp and the planets, in the order in which they are set.
+QStringList WordsOf(const report::PictureField& field) {
+  QStringList words;
+  if (!field.Note.empty()) {
+    words.append(QString::fromStdString(field.Note));
+  }
+  for (const std::string& code : field.Codes) {
+    words.append(QString::fromStdString(code));
+  }
+  return words;
 }
 
 void PaintField(QPainter& painter, const DrawnField& drawn, const report::PictureField& field,
                 const QFont& font, const ChartColors& colors, double side) {
   painter.setFont(Sized(font, side * kSignText));
   painter.setPen(colors.Muted);
-  painter.drawText(drawn.SignBox, Qt::AlignCenter | Qt::TextDontClip, SignLabel(field));
+  painter.drawText(drawn.SignBox, Qt::AlignCenter | Qt::TextDontClip,
+                   QString::fromStdString(field.Sign));
   QFont codes = Sized(font, drawn.Codes.PixelSize);
   codes.setWeight(QFont::DemiBold);
-  painter.setFont(codes);
+  const QFont degree = Sized(font, drawn.Codes.PixelSize * kNoteText);
   for (const PlacedWord& word : drawn.Codes.Words) {
-    painter.setPen(word.Text.contains('~') ? colors.Retrograde : colors.Text);
+    const bool note = word.Text.startsWith('(');
+    painter.setFont(note ? degree : codes);
+    painter.setPen(note ? colors.Muted : word.Text.contains('~') ? colors.Retrograde : colors.Text);
     painter.drawText(word.Box, Qt::AlignCenter | Qt::TextDontClip, word.Text);
   }
 }
@@ -109,13 +114,9 @@ std::array<DrawnField, 12> LayOutChart(const report::ChartPicture& picture, cons
     const report::PictureField& field = picture.Fields.at(i);
     DrawnField& place = drawn.at(i);
     place.Outline = Placed(square, geometry.Fields.at(i).Outline);
-    place.SignBox =
-        LabelBox(Placed(square, geometry.Fields.at(i).Tip), SignLabel(field), signMetrics);
-    QStringList words;
-    for (const std::string& code : field.Codes) {
-      words.append(QString::fromStdString(code));
-    }
-    place.Codes = LayOutWords(words, place.Outline, {place.SignBox}, codeFont,
+    place.SignBox = NumberBox(Placed(square, geometry.Fields.at(i).Tip),
+                              QString::fromStdString(field.Sign), signMetrics);
+    place.Codes = LayOutWords(WordsOf(field), place.Outline, {place.SignBox}, codeFont,
                               square.width() * kSmallestText, square.width() * kLargestText);
   }
   return drawn;

@@ -1,0 +1,123 @@
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "bench_home.h"
+#include "core/exact_numbers.h"
+#include "core/text.h"
+#include "practice/birthdays.h"
+#include "practice/client_import.h"
+#include "practice/client_list.h"
+#include "practice/client_search.h"
+#include "practice/groups.h"
+
+namespace orvex::bench {
+namespace {
+
+// A session on 100,000 clients, made once.
+core::Session& LargePractice() {
+  static BenchHome home;
+  static const std::unique_ptr<core::Session> session = [] {
+    auto started = home.Start(core::StartMode::Writer);
+    std::ostringstream script;
+    script << std::ifstream(ORVEX_BENCH_FOLDER "/practice_100k.sql").rdbuf();
+    started->StoreConnection.ExecuteScript(script.str());
+    return started;
+  }();
+  return *session;
+}
+
+void ListAGroupOf5000(benchmark::State& state) {
+  const core::Session& session = LargePractice();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(practice::LoadClientsOfGroup(session, 5));
+  }
+}
+BENCHMARK(ListAGroupOf5000)->Unit(benchmark::kMillisecond);
+
+void FilterAGroupOf5000(benchmark::State& state) {
+  const core::Table list = practice::LoadClientsOfGroup(LargePractice(), 5);
+  for (auto _ : state) {
+    std::size_t shown = 0;
+    for (const core::Row& row : list.Rows) {
+      for (const core::Cell& cell : row.Cells) {
+        if (core::ContainsIgnoringCase(cell.Text, "client 77")) {
+          ++shown;
+          break;
+        }
+      }
+    }
+    benchmark::DoNotOptimize(shown);
+  }
+}
+BENCHMARK(FilterAGroupOf5000)->Unit(benchmark::kMillisecond);
+
+void BirthdaysOf100000(benchmark::State& state) {
+  const core::Session& session = LargePractice();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(practice::GetBirthdaysToday(session));
+  }
+}
+BENCHMARK(BirthdaysOf100000)->Unit(benchmark::kMillisecond);
+
+practice::SearchFilter FilterNumber(std::int64_t number) {
+  using practice::DateRange;
+  const core::DateTime from = core::ParseDateTime("1990-01-01").value();
+  const core::DateTime to = core::ParseDateTime("1990-12-31").value();
+  switch (number) {
+    case 0:
+      return {.GroupIds = std::vector<std::int32_t>{5, 6}};
+    case 1:
+      return {.RetrogradePlanetId = 4, .AscendantRashi = 3};
+    case 2:
+      return {.AscendantRashi = 12};
+    case 3:
+      return {.Text = "a house"};
+    case 4:
+      return {.Dates = DateRange::Between, .From = from, .To = to};
+    case 5:
+      return {.GroupIds = std::vector<std::int32_t>{5, 6},
+              .Gender = "F",
+              .RetrogradePlanetId = 4,
+              .AscendantRashi = 3,
+              .Text = "visits",
+              .Dates = DateRange::After,
+              .From = from};
+    case 6:
+      return {.Mode = practice::SearchMode::Remedies, .Text = "no sleep"};
+    default:
+      return {};
+  }
+}
+
+// 0 groups, 1 retrograde and Ascendant, 2 Ascendant, 3 text, 4 dates, 5 all filters, 6 remedies by
+// text, 7 no filter: all 100,000.
+void SearchOf100000(benchmark::State& state) {
+  const core::Session& session = LargePractice();
+  const practice::SearchFilter filter = FilterNumber(state.range(0));
+  std::size_t found = 0;
+  for (auto _ : state) {
+    found = practice::SearchClients(session, filter).Results.Rows.size();
+  }
+  state.counters["rows"] = static_cast<double>(found);
+}
+BENCHMARK(SearchOf100000)->DenseRange(0, 7)->Unit(benchmark::kMillisecond);
+
+void ImportOf10000Lines(benchmark::State& state) {
+  std::string text = "name,birth,city id\n";
+  for (int line = 0; line < 10000; ++line) {
+    text += "Client " + core::PaddedWhole(line, 5) +
+            ",1990-07-05 14:" + core::PaddedWhole(line % 60, 2) + ",1\n";
+  }
+  for (auto _ : state) {
+    BenchHome home;
+    const auto session = home.Start(core::StartMode::Writer);
+    benchmark::DoNotOptimize(
+        practice::ImportClients(*session, {text, 1}, [](std::size_t, std::size_t) {}));
+  }
+}
+BENCHMARK(ImportOf10000Lines)->Unit(benchmark::kSecond)->Iterations(1);
+
+}  // namespace
+}  // namespace orvex::bench
