@@ -103,9 +103,11 @@ void GeneralPage::FillGroups() {
 }
 
 void GeneralPage::ChooseChartPath() {
-  const std::string start = Typed(chartPath_->text());
-  const auto chosen = place_.Files.ChooseFolder(
-      this, "Select Chart Path", start.empty() ? place_.Session.Place.ChartFolder() : start);
+  std::filesystem::path start = Typed(chartPath_->text());
+  if (start.empty()) {
+    start = place_.Session.Place.ChartFolder();
+  }
+  const auto chosen = place_.Files.ChooseFolder(this, "Select Chart Path", start);
   if (chosen) {
     chartPath_->setText(Shown(chosen->string()));
   }

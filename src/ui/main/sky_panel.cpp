@@ -8,7 +8,8 @@
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
-#include "report/sky_picture.h"
+#include "report/chart_picture.h"
+#include "report/sky_chart.h"
 #include "ui/base/chart_view.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
@@ -131,7 +132,8 @@ void SkyPanel::Refresh() {
 
 void SkyPanel::Show() {
   ShowHeader();
-  chart_->SetPicture(report::SkyPicture(view_, place_.Session.State.DefaultChartType));
+  chart_->SetPicture(
+      report::RashiPicture(report::BuildSkyChart(view_), place_.Session.State.DefaultChartType));
   ruling_->SetTable(view_.SkyRulingPlanets);
   panchang_->SetTable(view_.Panchang);
   panchang_->FitHeightToRows();
