@@ -65,6 +65,7 @@ ClientLists::ClientLists(Workplace& place, QWidget* parent)
 }
 
 QWidget* ClientLists::BuildGroups() {
+  groups_->setAccessibleName(tr("Groups"));
   groups_->horizontalHeader()->setSortIndicatorShown(false);
   groups_->SetStretchColumn(0);
   groups_->SetEmptyText(practice::kNoGroups);
@@ -76,6 +77,7 @@ QWidget* ClientLists::BuildClients() {
   filter_->setObjectName("clientFilter");
   filter_->setPlaceholderText(tr("Filter clients (Ctrl+F)"));
   filter_->setClearButtonEnabled(true);
+  clients_->setAccessibleName(tr("Clients"));
   clients_->SetEmptyText(practice::kNoClients);
   auto* box = new QWidget;
   QVBoxLayout* column = Column(box);
@@ -87,6 +89,7 @@ QWidget* ClientLists::BuildClients() {
 QWidget* ClientLists::BuildRemedies() {
   remedyCaption_->setObjectName("remedyCaption");
   remedyCaption_->setTextFormat(Qt::PlainText);
+  remedies_->setAccessibleName(tr("Remedies"));
   remedies_->SetEmptyText(tr("Remedies are written in the client's horoscope."));
   auto* box = new QWidget;
   QVBoxLayout* column = Column(box);

@@ -152,6 +152,7 @@ QWidget* MainWindow::BuildClientsPage() {
 
 QWidget* MainWindow::BuildBirthdays() {
   birthdays_->setObjectName("birthdayList");
+  birthdays_->setAccessibleName(tr("Birthdays"));
   birthdays_->SetEmptyText(tr("Nobody has a birthday today."));
   auto* box = new QWidget;
   auto* column = new QVBoxLayout(box);
@@ -186,6 +187,10 @@ void MainWindow::Connect() {
   connect(commands_, &ClientCommands::SettingsWanted, this, [this] { OpenSettings(); });
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->setCurrentWidget(clientsPage_); });
+  for (TableView* list : findChildren<TableView*>()) {
+    list->SetExport(
+        [this, list](const core::Table& table) { Export(table, list->accessibleName()); });
+  }
   lists_->ClientTable().SetExport(
       [this](const core::Table& table) { Export(table, lists_->GroupName()); });
 }

@@ -75,6 +75,9 @@ SkyPanel::SkyPanel(Workplace& place, QWidget* parent)
 
 void SkyPanel::Build() {
   header_ = BuildHeader();
+  panchang_->setAccessibleName(tr("Panchang"));
+  ruling_->setAccessibleName(tr("Ruling Planets"));
+  planets_->setAccessibleName(tr("Sky View"));
   panchang_->horizontalHeader()->hide();
   panchang_->setSortingEnabled(false);
   panchang_->SetStretchColumn(3);
