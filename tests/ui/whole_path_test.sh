@@ -22,9 +22,20 @@ export DISPLAY=:$(cat "$work/display")
 
 await() { timeout 30 xdotool search --sync --onlyvisible --name "$1" | head -n 1; }
 
+# The splash has the same name; the main window is the wide one.
+main_window() {
+  for _ in $(seq 100); do
+    for id in $(xdotool search --onlyvisible --name '^Orvex\+$' 2>/dev/null); do
+      eval "$(xdotool getwindowgeometry --shell "$id" 2>/dev/null)"
+      if [ "${WIDTH:-0}" -gt 900 ]; then echo "$id"; return; fi
+    done
+    sleep 0.1
+  done
+}
+
 "$orvex" &
 program=$!
-main=$(await '^Orvex\+$')
+main=$(main_window)
 [ -n "$main" ] || fail "no main window"
 xdotool windowfocus --sync "$main"
 xdotool key --window "$main" ctrl+n
@@ -39,13 +50,13 @@ horoscope=$(await 'First Client')
 "$cli" client list | grep -q "First Client" || fail "the client was not stored"
 timeout 20 "$orvex" >/dev/null 2>&1 &
 second=$!
-box=$(await '^Orvex\+$' | head -n 1)
-sleep 2
+sleep 3
 [ "$(xdotool search --onlyvisible --name '^Orvex\+$' | wc -l)" -ge 2 ] || fail "no word of the second start"
 kill "$second" 2>/dev/null || true
 
 xdotool windowfocus --sync "$main"
-xdotool key --window "$main" ctrl+q
+# The window goes on the key, before the key comes up.
+xdotool key ctrl+q || true
 for _ in $(seq 50); do kill -0 "$program" 2>/dev/null || break; sleep 0.1; done
 kill -0 "$program" 2>/dev/null && fail "the program did not end with its main window"
 wait "$program" || fail "the program ended with an error"
