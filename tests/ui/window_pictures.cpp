@@ -84,7 +84,7 @@ void WriteAll(const std::filesystem::path& folder) {
   const std::int32_t client = AddClient(home, *session, "Asha Rao", "1943-11-24 10:00:00");
   AddClient(home, *session, "Ravi Iyer", "1981-02-01 06:10:00");
   AddClient(home, *session, "Meera Krishnan", "1975-08-30 21:45:00");
-  practice::AddGroup(*session, "Family");
+  practice::AddGroup(*session, "Students");
   practice::SaveNewRemedy(
       *session, {1, "Restless sleep", "Water to the Sun at dawn", session->Time.Today()}, client);
   WriteMain(place, folder / "main.png");

@@ -7,6 +7,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -114,6 +115,7 @@ void MainWindow::LayOut() {
   setWindowTitle("Orvex+");
   pages_->setObjectName("pages");
   pages_->setDocumentMode(true);
+  pages_->tabBar()->setDrawBase(false);
   AddPage(BuildClientsPage(), tr("Clients"));
   halves_->setObjectName("mainHalves");
   halves_->setChildrenCollapsible(false);
