@@ -1,4 +1,5 @@
 #include "panchang/day_tables.h"
+#include "core/exact_numbers.h"
 
 #include <gtest/gtest.h>
 
