@@ -34,13 +34,13 @@ Names Checked(const std::string& appName, const std::string& section, const std:
   return names;
 }
 
-// The whole file; an empty object where there is no file, or only the empty one that a power cut can
-// leave.
+// The whole file; an empty object where there is no file, or only the empty one that a power cut
+// can leave.
 Json Load(const std::filesystem::path& file, const char* message) {
   std::error_code error;
-  if (!file.empty() && (!std::filesystem::exists(file, error) ||
-                        (std::filesystem::is_regular_file(file, error) &&
-                         std::filesystem::file_size(file, error) == 0))) {
+  if (!file.empty() &&
+      (!std::filesystem::exists(file, error) || (std::filesystem::is_regular_file(file, error) &&
+                                                 std::filesystem::file_size(file, error) == 0))) {
     return Json::object();
   }
   std::ifstream stream(file);

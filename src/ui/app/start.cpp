@@ -3,16 +3,20 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QLocale>
+#include <QTimer>
 #include <iostream>
 #include <memory>
 
 #include "astro/ephemeris_gateway.h"
 #include "core/startup.h"
+#include "ui/app/splash.h"
 #include "ui/base/layout_memory.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/theme.h"
 #include "ui/base/workplace.h"
+#include "ui/main/main_window.h"
 
 namespace orvex::ui {
 
@@ -46,6 +50,31 @@ std::unique_ptr<core::Clock> ClockOf(const StartOptions& options) {
   return std::make_unique<core::SystemClock>();
 }
 
+// The splash is seen for 150 milliseconds at the least.
+void ShowSplash(Splash& splash) {
+  constexpr int kStep = 150;
+  splash.show();
+  QEventLoop loop;
+  QTimer::singleShot(kStep, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+int RunWindows(core::Session& session) {
+  FileDialogs files;
+  LayoutMemory layout(LayoutMemory::DefaultFile());
+  Workplace place{session, files, layout};
+  MainWindow window(place);
+  window.show();
+  const int status = QApplication::exec();
+  // Horoscopes read the session; those still open go before it does.
+  for (QWidget* open : QApplication::topLevelWidgets()) {
+    if (open->testAttribute(Qt::WA_DeleteOnClose)) {
+      delete open;
+    }
+  }
+  return status;
+}
+
 }  // namespace
 
 int RunWorkbench(int& argc, char** argv, const StartOptions& options) {
@@ -54,18 +83,22 @@ int RunWorkbench(int& argc, char** argv, const StartOptions& options) {
   QLocale::setDefault(QLocale::c());
   Theme::Apply(*application);
 
+  // Closing the main window ends the program, and nothing else does.
+  QApplication::setQuitOnLastWindowClosed(false);
+
   MessageBoxes messages;
   astro::EphemerisGateway ephemeris;
   const std::unique_ptr<core::Clock> clock = ClockOf(options);
   const core::StartupPlan plan{core::Home{core::HomeFolder(options.Home)},
                                core::ShippedDataFolder(), core::MachineSettings::DefaultFile(),
                                core::StartMode::Owner};
-  const std::unique_ptr<core::Session> session =
-      core::RunStartup(plan, *clock, messages, ephemeris);
-  if (!session) {
-    return kRefused;
+  std::unique_ptr<core::Session> session;
+  {
+    Splash splash;
+    ShowSplash(splash);
+    session = core::RunStartup(plan, *clock, messages, ephemeris);
   }
-  return QApplication::exec();
+  return session ? RunWindows(*session) : kRefused;
 }
 
 }  // namespace orvex::ui

@@ -4,10 +4,12 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 #include <algorithm>
 #include <set>
 
@@ -19,6 +21,7 @@ namespace orvex::ui {
 namespace {
 
 constexpr int kWidestColumn = 45 * kGrid;
+constexpr int kWidestTable = 80 * kGrid;
 
 // A cell's text in one line between tabs.
 QString OneLine(const std::string& text) {
@@ -166,10 +169,11 @@ void TableView::SetStretchColumn(int column) { stretchColumn_ = column; }
 QSize TableView::sizeHint() const {
   constexpr int kMostRows = 14;
   const int rows = fitsHeight_ ? model_->rowCount() : std::min(model_->rowCount(), kMostRows);
-  const int height = horizontalHeader()->sizeHint().height() +
-                     rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth();
+  const int header = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sizeHint().height();
+  const int height = header + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth();
   const int bar = fitsHeight_ ? 0 : verticalScrollBar()->sizeHint().width();
-  return {horizontalHeader()->length() + bar + 2 * frameWidth(), height};
+  const int width = std::min(horizontalHeader()->length() + bar, kWidestTable);
+  return {width + 2 * frameWidth(), height};
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
@@ -215,6 +219,21 @@ void TableView::paintEvent(QPaintEvent* event) {
   painter.setPen(Theme::Muted());
   painter.drawText(viewport()->rect().adjusted(kGrid, kGrid, -kGrid, -kGrid),
                    Qt::AlignCenter | Qt::TextWordWrap, emptyText_);
+}
+
+// A text that its column cuts off is told in full.
+bool TableView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = dynamic_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const bool isCut = index.isValid() && index.data(Qt::ToolTipRole).isNull() &&
+                       sizeHintForIndex(index).width() > columnWidth(index.column());
+    if (isCut) {
+      QToolTip::showText(help->globalPos(), index.data().toString().toHtmlEscaped(), this);
+      return true;
+    }
+  }
+  return QTableView::viewportEvent(event);
 }
 
 void TableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

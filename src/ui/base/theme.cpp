@@ -52,7 +52,7 @@ struct Shades {
 
 constexpr Shades kLight = {"#f4f5f7", "#ffffff", "#f8f9fb", "#1d242b", "#8a939c",
                            "#eceef1", "#1f6fb2", "#ffffff", "#1a5fa0"};
-constexpr Shades kDark = {"#1e2227", "#16191d", "#1a1e22", "#e4e7ea", "#7d8790",
+constexpr Shades kDark = {"#1e2227", "#272c33", "#2b3138", "#e4e7ea", "#7d8790",
                           "#2a3037", "#2f7fc4", "#ffffff", "#6cb3f0"};
 
 QPalette PaletteOf(const Shades& shades) {
@@ -71,6 +71,7 @@ QPalette PaletteOf(const Shades& shades) {
   palette.setColor(QPalette::Highlight, shades.Highlight);
   palette.setColor(QPalette::HighlightedText, shades.HighlightedText);
   palette.setColor(QPalette::Link, shades.Link);
+  palette.setColor(QPalette::Disabled, QPalette::Base, shades.Window);
   for (const QPalette::ColorRole role :
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, shades.Faint);

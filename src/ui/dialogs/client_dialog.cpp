@@ -99,7 +99,9 @@ QLayout* ClientDialog::BuildPerson() {
   comments_->setMinimumHeight(8 * kGrid);
   auto* form = new QFormLayout;
   form->addRow(tr("Client &Name:"), name_);
-  form->addRow(tr("&Date and time:"), BuildMoment());
+  auto* moment = new QLabel(tr("&Date and time:"));
+  moment->setBuddy(birth_);
+  form->addRow(moment, BuildMoment());
   form->addRow(tr("Gender:"), BuildGenders());
   form->addRow(tr("&E-mail:"), email_);
   form->addRow(tr("Mob&ile:"), mobile_);

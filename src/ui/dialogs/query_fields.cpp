@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -65,7 +66,9 @@ void QueryFields::Build() {
   auto* form = new QFormLayout(this);
   form->setContentsMargins(0, 0, 0, 0);
   form->addRow(tr("Query:"), horary_);
-  form->addRow(tr("Horary N&umber:"), number);
+  auto* caption = new QLabel(tr("Horary N&umber:"));
+  caption->setBuddy(number_);
+  form->addRow(caption, number);
   form->addRow(tr("&Question:"), question_);
   form->addRow(tr("Ascendant:"), ascendant);
 }

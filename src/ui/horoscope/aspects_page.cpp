@@ -12,6 +12,12 @@
 
 namespace orvex::ui {
 
+namespace {
+
+constexpr int kListWidth = 42 * kGrid;  // all columns of the list without a bar
+
+}  // namespace
+
 AspectsPage::AspectsPage(HoroscopeDocument& document)
     : HoroscopePage(document),
       filter_(new QComboBox),
@@ -44,8 +50,9 @@ QSplitter* AspectsPage::LayOutTables() {
   tables->setObjectName("aspectTables");
   tables->addWidget(planets_);
   tables->addWidget(cusps_);
-  tables->setStretchFactor(0, 1);
-  tables->setStretchFactor(1, 3);
+  planets_->setMinimumWidth(kListWidth);
+  tables->setStretchFactor(0, 0);
+  tables->setStretchFactor(1, 1);
   Remember(Document().Place().Layout, *tables);
   return tables;
 }

@@ -24,15 +24,13 @@ struct Fact {
   std::string C::*Value;
 };
 
-constexpr std::array<Fact, 8> kFacts = {{
+constexpr std::array<Fact, 6> kFacts = {{
     {QT_TRANSLATE_NOOP("BirthStarPage", "Star of the Moon"), &C::Nakshatra},
     {QT_TRANSLATE_NOOP("BirthStarPage", "Varna - Gana"), &C::VarnaGana},
     {QT_TRANSLATE_NOOP("BirthStarPage", "Nadi - Yoni"), &C::NadiYoni},
     {QT_TRANSLATE_NOOP("BirthStarPage", "Vasya - Rajju"), &C::VasyaRajju},
     {QT_TRANSLATE_NOOP("BirthStarPage", "Tithi"), &C::Tithi},
     {QT_TRANSLATE_NOOP("BirthStarPage", "Yoga - Karan"), &C::YogaKaran},
-    {QT_TRANSLATE_NOOP("BirthStarPage", "Bhrigu Bindu"), &C::BhriguBindu},
-    {QT_TRANSLATE_NOOP("BirthStarPage", "Fortune"), &C::PartOfFortune},
 }};
 
 }  // namespace

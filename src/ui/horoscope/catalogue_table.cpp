@@ -77,8 +77,14 @@ void CatalogueTable::Activate(const QModelIndex& index) {
   }
 }
 
-void CatalogueTable::ShowModel() {
-  view_->SetTable(entry_.Of(document_.Model()));
+void CatalogueTable::ShowModel() { ShowTable(entry_.Of(document_.Model())); }
+
+void CatalogueTable::ShowTable(const core::Table& table) {
+  // Columns are measured first; only then the last one takes the room that is left.
+  QHeaderView& header = *view_->horizontalHeader();
+  header.setStretchLastSection(false);
+  view_->SetTable(table);
+  header.setStretchLastSection(!table.Columns.empty() && !table.Columns.back().Centred);
   if (growsRows_) {
     view_->resizeRowsToContents();
   }

@@ -20,6 +20,10 @@ class CatalogueTable final : public QWidget {
   CatalogueTable(HoroscopeDocument& document, const char* name);
 
   void ShowModel();
+
+  // Shows another table of the same columns in its place, until the model is shown again.
+  void ShowTable(const core::Table& table);
+
   TableView& View() { return *view_; }
 
   // Rows as high as their texts, for cells of several lines.

@@ -9,6 +9,12 @@
 
 namespace orvex::ui {
 
+namespace {
+
+constexpr int kRulingWidth = 26 * kGrid;  // both columns without a bar
+
+}  // namespace
+
 ChartPage::ChartPage(HoroscopeDocument& document)
     : HoroscopePage(document),
       rashi_(new HoroscopeChart("rashiChart")),
@@ -43,23 +49,24 @@ QSplitter* ChartPage::LayOutCharts() {
 }
 
 QSplitter* ChartPage::LayOutTables() {
-  auto* lower = new QSplitter(Qt::Horizontal);
-  lower->setObjectName("chartLowerTables");
-  lower->addWidget(cusps_);
-  lower->addWidget(LayOutRulingPlanets());
-  lower->setStretchFactor(0, 3);
-  lower->setStretchFactor(1, 1);
-  Remember(Document().Place().Layout, *lower);
+  auto* upper = new QSplitter(Qt::Horizontal);
+  upper->setObjectName("chartUpperTables");
+  upper->addWidget(planets_);
+  upper->addWidget(LayOutRulingPlanets());
+  upper->setStretchFactor(0, 1);
+  upper->setStretchFactor(1, 0);
+  Remember(Document().Place().Layout, *upper);
   auto* tables = new QSplitter(Qt::Vertical);
   tables->setObjectName("chartTables");
-  tables->addWidget(planets_);
-  tables->addWidget(lower);
+  tables->addWidget(upper);
+  tables->addWidget(cusps_);
   Remember(Document().Place().Layout, *tables);
   return tables;
 }
 
 QWidget* ChartPage::LayOutRulingPlanets() {
   auto* part = new QWidget;
+  part->setMinimumWidth(kRulingWidth);
   auto* choice = new QHBoxLayout;
   choice->addWidget(ofBirth_);
   choice->addWidget(ofNow_);
@@ -96,7 +103,7 @@ void ChartPage::ShowModel() {
 
 void ChartPage::ShowRulingPlanets() {
   if (ofNow_->isChecked()) {
-    ruling_->View().SetTable(Document().RulingPlanetsNow());
+    ruling_->ShowTable(Document().RulingPlanetsNow());
   } else {
     ruling_->ShowModel();
   }

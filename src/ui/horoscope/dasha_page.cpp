@@ -1,7 +1,6 @@
 #include "ui/horoscope/dasha_page.h"
 
 #include <QHeaderView>
-#include <QLabel>
 #include <QScopedValueRollback>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -27,7 +26,6 @@ void StandOnMarkedRow(TableView& view) {
 
 DashaPage::DashaPage(HoroscopeDocument& document)
     : HoroscopePage(document),
-      balance_(MakeCaptionLabel("DashaBalance")),
       lists_{new CatalogueTable(document, "DashaList"), new CatalogueTable(document, "BhuktiList"),
              new CatalogueTable(document, "AntaraList"),
              new CatalogueTable(document, "SookshmaList")},
@@ -38,7 +36,6 @@ DashaPage::DashaPage(HoroscopeDocument& document)
   halves->addWidget(LayOutLists());
   halves->addWidget(LayOutSummaries());
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(balance_);
   layout->addWidget(halves, 1);
   Remember(document.Place().Layout, *halves);
   for (std::size_t level = 0; level < lists_.size(); ++level) {
@@ -89,7 +86,6 @@ void DashaPage::OpenLater(std::size_t level, std::size_t row) {
 
 void DashaPage::ShowModel() {
   const QScopedValueRollback<bool> showing(showing_, true);
-  balance_->setText(Shown(Model().Captions.DashaBalance));
   for (CatalogueTable* list : lists_) {
     list->ShowModel();
     StandOnMarkedRow(list->View());

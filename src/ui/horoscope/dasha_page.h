@@ -6,7 +6,6 @@
 #include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/horoscope_page.h"
 
-class QLabel;
 class QSplitter;
 
 namespace orvex::ui {
@@ -25,7 +24,6 @@ class DashaPage final : public HoroscopePage {
   void Connect(std::size_t level);
   void OpenLater(std::size_t level, std::size_t row);
 
-  QLabel* balance_;
   std::array<CatalogueTable*, 4> lists_;
   CatalogueTable* periods_;
   CatalogueTable* houses_;

@@ -13,7 +13,7 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr int kSmallestSide = 26 * kGrid;
+constexpr int kSmallestSide = 35 * kGrid;
 constexpr int kUsualSide = 40 * kGrid;
 
 }  // namespace

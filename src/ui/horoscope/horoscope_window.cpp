@@ -90,6 +90,14 @@ void HoroscopeWindow::closeEvent(QCloseEvent* event) {
   QMainWindow::closeEvent(event);
 }
 
+void HoroscopeWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  // Cells keep the colours of the palette in which they were filled.
+  if (event->type() == QEvent::PaletteChange && isVisible()) {
+    pages_->ShowModel();
+  }
+}
+
 void HoroscopeWindow::LayOut() {
   tools_->setObjectName("tools");
   tools_->setMovable(false);
@@ -138,6 +146,8 @@ void HoroscopeWindow::AddMenu(const QString& text, QMenu* menu, const QKeySequen
 void HoroscopeWindow::MakeActions() {
   style_ = AddAction(tr("&Style"), "nextStyle", Qt::CTRL | Qt::Key_T);
   style_->setMenu(MakeStyleMenu());
+  static_cast<QToolButton*>(tools_->widgetForAction(style_))
+      ->setPopupMode(QToolButton::MenuButtonPopup);
   connect(style_, &QAction::triggered, this, &HoroscopeWindow::NextStyle);
   AddMenu(tr("&Rotate"), MakeRotationMenu(), Qt::CTRL | Qt::Key_R);
   connect(AddAction(tr("&Divisional charts"), "divisions", Qt::CTRL | Qt::Key_D),

@@ -34,6 +34,7 @@ class HoroscopeWindow final : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void LayOut();

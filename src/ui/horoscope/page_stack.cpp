@@ -80,8 +80,10 @@ PageStack::PageStack(HoroscopeDocument& document)
       slots_(kPages.size()) {
   LayOut();
   Connect();
-  list_->setCurrentRow(0);
   Turn(document.Place().Layout.ChosenEntry(*list_));
+  if (list_->currentRow() < 0) {
+    list_->setCurrentRow(0);
+  }
 }
 
 void PageStack::LayOut() {
@@ -90,10 +92,11 @@ void PageStack::LayOut() {
   list_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   for (const PageEntry& entry : kPages) {
     auto* item = new QListWidgetItem(tr(entry.Title), list_);
-    item->setSizeHint(QSize(0, list_->fontMetrics().height() + kGrid));
+    item->setSizeHint(list_->fontMetrics().size(Qt::TextSingleLine, item->text()) +
+                      QSize(2 * kGrid, kGrid));
     stack_->addWidget(new QWidget);
   }
-  list_->setFixedWidth(list_->sizeHintForColumn(0) + 3 * kGrid);
+  list_->setFixedWidth(list_->sizeHintForColumn(0) + 2 * list_->frameWidth());
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(kGrid, 0, 0, 0);
   layout->setSpacing(0);

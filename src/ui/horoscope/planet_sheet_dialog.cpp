@@ -15,6 +15,8 @@ namespace orvex::ui {
 
 namespace {
 
+constexpr int kListHeight = 22 * kGrid;  // six aspects without a bar
+
 QLabel* Line(const char* name, const std::string& text) {
   QLabel* label = MakeCaptionLabel(name);
   label->setText(Shown(text));
@@ -35,6 +37,7 @@ QWidget* MakeList(const char* name, const std::string& caption, const core::Tabl
   view->setObjectName(name);
   view->SetEmptyText(Shown(emptyText));
   view->SetTable(table);
+  view->setMinimumHeight(kListHeight);
   auto* part = new QWidget;
   auto* layout = new QVBoxLayout(part);
   layout->setContentsMargins(0, 0, 0, 0);

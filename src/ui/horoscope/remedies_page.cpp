@@ -57,7 +57,8 @@ void RemediesPage::Connect() {
   connect(edit_, &QPushButton::clicked, this, &RemediesPage::Edit);
   connect(delete_, &QPushButton::clicked, this, &RemediesPage::Delete);
   connect(&remedies_->View(), &TableView::TagActivated, this, &RemediesPage::Edit);
-  connect(&remedies_->View(), &TableView::TagChosen, this, &RemediesPage::EnableButtons);
+  connect(remedies_->View().selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &RemediesPage::EnableButtons);
   auto* erase = new QShortcut(QKeySequence::Delete, &remedies_->View());
   erase->setContext(Qt::WidgetShortcut);
   connect(erase, &QShortcut::activated, this, &RemediesPage::Delete);

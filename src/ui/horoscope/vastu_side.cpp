@@ -16,6 +16,7 @@ using vedic::PlanSide;
 constexpr int kPadsOfSide = 8;
 constexpr int kDepth = 4;
 constexpr int kCellWidth = 64;
+constexpr double kTextSize = 0.9;  // the longest deity fits its cell on a small screen
 
 // From the outer edge inwards.
 enum Ring { kSectors, kNames, kOuter, kInner };
@@ -34,6 +35,9 @@ VastuSide::VastuSide(PlanSide side) : side_(side) {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideNone);
+  QFont small = font();
+  small.setPointSizeF(small.pointSizeF() * kTextSize);
+  setFont(small);
   horizontalHeader()->hide();
   verticalHeader()->hide();
   horizontalHeader()->setMinimumSectionSize(kCellWidth);

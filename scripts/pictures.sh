@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Writes pictures of every window, light and dark, at 1366 x 768 and at 200 per cent, from the real
+# windows: scripts/pictures.sh [FOLDER]
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+folder=${1:-build-pictures}
+
+cmake --preset test >/dev/null
+cmake --build --preset test --target window_pictures horoscope_pictures
+export QT_QPA_PLATFORM=offscreen
+for theme in light dark; do
+  for scale in 1 2; do
+    into="$folder/$theme-${scale}00"
+    mkdir -p "$into/horoscope"
+    ORVEX_THEME=$theme QT_SCALE_FACTOR=$scale build-test/tests/window_pictures "$into"
+    ORVEX_THEME=$theme QT_SCALE_FACTOR=$scale build-test/tests/horoscope_pictures "$into/horoscope"
+  done
+done
+echo "Pictures lie in $folder."

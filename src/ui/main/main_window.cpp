@@ -1,0 +1,278 @@
+#include "ui/main/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "practice/birthdays.h"
+#include "practice/client_list.h"
+#include "practice/export_list.h"
+#include "ui/base/message_boxes.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/table_view.h"
+#include "ui/base/theme.h"
+#include "ui/dialogs/about_box.h"
+#include "ui/dialogs/cities_dialog.h"
+#include "ui/dialogs/settings_dialog.h"
+#include "ui/main/client_commands.h"
+#include "ui/main/client_lists.h"
+#include "ui/main/first_run.h"
+#include "ui/main/sky_panel.h"
+
+namespace orvex::ui {
+
+namespace {
+
+QLabel* Panel(const char* name) {
+  auto* label = new QLabel;
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+QAction* Command(QWidget& window, const char* name, const QString& text, const QKeySequence& keys) {
+  auto* action = new QAction(text, &window);
+  action->setObjectName(name);
+  action->setShortcut(keys);
+  return action;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Workplace& place)
+    : place_(place),
+      pages_(new QTabWidget),
+      clientsPage_(new QStackedWidget),
+      lists_(new ClientLists(place)),
+      sky_(new SkyPanel(place)),
+      commands_(new ClientCommands(place, *lists_, *this)),
+      halves_(new QSplitter(Qt::Horizontal)),
+      birthdayCaption_(Panel("birthdayCaption")),
+      birthdays_(new TableView),
+      count_(Panel("clientCount")),
+      total_(Panel("totalClients")),
+      ascendant_(Panel("currentAscendant")),
+      nodes_(Panel("nodeMode")),
+      disha_(Panel("dishaShool")),
+      date_(Panel("dateNow")) {
+  MakeActions();
+  LayOut();
+  Connect();
+  Start();
+}
+
+void MainWindow::MakeActions() {
+  settings_ = Command(*this, "settings", tr("&Settings…"), tr("Ctrl+,"));
+  cities_ = Command(*this, "cities", tr("&Cities…"), {});
+  refresh_ = Command(*this, "refreshSky", tr("&Refresh Sky"), tr("F5"));
+  filter_ = Command(*this, "filterClients", tr("&Filter Clients"), QKeySequence::Find);
+  quit_ = Command(*this, "quit", tr("E&xit"), QKeySequence::Quit);
+  MakeMenus();
+  MakeToolBar();
+}
+
+void MainWindow::MakeMenus() {
+  QMenu* clients = menuBar()->addMenu(tr("&Clients"));
+  clients->addActions({commands_->AddClient, commands_->View, commands_->EditClient,
+                       commands_->DeleteClient, commands_->MoveClient});
+  clients->addSeparator();
+  clients->addActions({commands_->InstantChart, filter_});
+  clients->addSeparator();
+  clients->addAction(quit_);
+  QMenu* groups = menuBar()->addMenu(tr("&Groups"));
+  groups->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
+  QMenu* tools = menuBar()->addMenu(tr("&Tools"));
+  tools->addActions({refresh_, cities_, settings_});
+  QMenu* help = menuBar()->addMenu(tr("&Help"));
+  help->addAction(tr("Orvex+ &Help"), QKeySequence::HelpContents, this,
+                  [this] { ShowBox<HelpBox>(); });
+  help->addAction(tr("Check for &Updates"), this, [this] { ShowBox<UpdateBox>(); });
+  help->addAction(tr("&About Orvex+"), this, [this] { ShowBox<AboutBox>(); });
+}
+
+void MainWindow::MakeToolBar() {
+  QToolBar* tools = addToolBar(tr("Tools"));
+  tools->setObjectName("toolBar");
+  tools->setMovable(false);
+  tools->addActions(
+      {commands_->AddClient, commands_->View, commands_->EditClient, commands_->DeleteClient});
+  tools->addSeparator();
+  tools->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
+  tools->addSeparator();
+  tools->addActions({commands_->InstantChart, settings_});
+}
+
+void MainWindow::LayOut() {
+  setObjectName("mainWindow");
+  setWindowTitle("Orvex+");
+  pages_->setObjectName("pages");
+  pages_->setDocumentMode(true);
+  pages_->tabBar()->setDrawBase(false);
+  AddPage(BuildClientsPage(), tr("Clients"));
+  halves_->setObjectName("mainHalves");
+  halves_->setChildrenCollapsible(false);
+  halves_->addWidget(pages_);
+  halves_->addWidget(sky_);
+  halves_->setStretchFactor(0, 1);
+  halves_->setStretchFactor(1, 1);
+  auto* middle = new QWidget;
+  auto* layout = new QVBoxLayout(middle);
+  layout->addWidget(halves_);
+  setCentralWidget(middle);
+  MakeStatusBar();
+  if (!place_.Layout.RestoreWindow(*this)) {
+    resize(1366, 720);
+  }
+  if (!place_.Layout.RestoreSplitter(*halves_)) {
+    halves_->setSizes({84 * kGrid, 82 * kGrid});
+  }
+}
+
+QWidget* MainWindow::BuildClientsPage() {
+  firstRun_ = new FirstRun(place_, *commands_->AddClient);
+  auto* rows = new QSplitter(Qt::Vertical);
+  rows->setObjectName("clientsAndBirthdays");
+  rows->setChildrenCollapsible(false);
+  rows->addWidget(lists_);
+  rows->addWidget(BuildBirthdays());
+  rows->setStretchFactor(0, 5);
+  rows->setStretchFactor(1, 1);
+  clientsPage_->addWidget(rows);
+  clientsPage_->addWidget(firstRun_);
+  return clientsPage_;
+}
+
+QWidget* MainWindow::BuildBirthdays() {
+  birthdays_->setObjectName("birthdayList");
+  birthdays_->SetEmptyText(tr("Nobody has a birthday today."));
+  auto* box = new QWidget;
+  auto* column = new QVBoxLayout(box);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(birthdayCaption_);
+  column->addWidget(birthdays_, 1);
+  return box;
+}
+
+void MainWindow::MakeStatusBar() {
+  for (QLabel* panel : {count_, total_}) {
+    statusBar()->addWidget(panel);
+  }
+  for (QLabel* panel : {ascendant_, nodes_, disha_, date_}) {
+    statusBar()->addPermanentWidget(panel);
+  }
+}
+
+void MainWindow::Connect() {
+  connect(settings_, &QAction::triggered, this, [this] { OpenSettings(); });
+  connect(cities_, &QAction::triggered, this, [this] { OpenCities(); });
+  connect(refresh_, &QAction::triggered, sky_, &SkyPanel::Refresh);
+  connect(filter_, &QAction::triggered, lists_, &ClientLists::FocusFilter);
+  connect(quit_, &QAction::triggered, this, &QWidget::close);
+  connect(sky_, &SkyPanel::Refreshed, this, [this] { ShowSkyStatus(); });
+  connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);
+  connect(lists_, &ClientLists::CountChanged, count_, &QLabel::setText);
+  connect(commands_, &ClientCommands::ClientsChanged, this, [this] {
+    ShowBirthdays();
+    ShowClientCounts();
+  });
+  connect(commands_, &ClientCommands::SettingsWanted, this, [this] { OpenSettings(); });
+  connect(commands_, &ClientCommands::PageWanted, this,
+          [this] { pages_->setCurrentWidget(clientsPage_); });
+  lists_->ClientTable().SetExport(
+      [this](const core::Table& table) { Export(table, lists_->GroupName()); });
+}
+
+void MainWindow::Start() {
+  ShowBirthdays();
+  sky_->Refresh();
+  lists_->LoadGroups();
+  ShowClientCounts();
+  sky_->StartTimer();
+  lists_->ClientTable().setFocus();
+}
+
+void MainWindow::AddPage(QWidget* page, const QString& title) { pages_->addTab(page, title); }
+
+// A practice without clients shows the first steps in the place of its empty lists.
+void MainWindow::ShowClientCounts() {
+  total_->setText(Shown(practice::TotalClients(place_.Session)));
+  const bool anyone = !practice::LoadClientsOfGroup(place_.Session, std::nullopt).Rows.empty();
+  clientsPage_->setCurrentIndex(anyone || lists_->Group() == 0 ? 0 : 1);
+}
+
+void MainWindow::ShowBirthdays() {
+  core::Table birthdays = practice::GetBirthdaysToday(place_.Session);
+  birthdayCaption_->setText(Shown(practice::BirthdayCaption(birthdays)));
+  const bool any = !birthdays.Rows.empty();
+  birthdays_->SetTable(std::move(birthdays));
+  birthdays_->SetExport(
+      any ? std::function<void(const core::Table&)>(
+                [this](const core::Table& table) { Export(table, birthdayCaption_->text()); })
+          : nullptr);
+}
+
+void MainWindow::ShowSkyStatus() {
+  const panchang::SkyCaptions& captions = sky_->View().Captions;
+  ascendant_->setText(Shown(captions.Ascendant));
+  nodes_->setText(Shown(captions.NodeMode));
+  disha_->setText(Shown(captions.DishaShool));
+  date_->setText(Shown(captions.WeekdayName + " " + captions.Date));
+}
+
+void MainWindow::OpenSettings() {
+  SettingsDialog dialog(place_, this);
+  if (dialog.exec() == QDialog::Accepted) {
+    sky_->Refresh();
+    firstRun_->ShowCity();
+    lists_->ReloadClients();
+  }
+}
+
+void MainWindow::OpenCities() {
+  CitiesDialog dialog(place_, this);
+  dialog.exec();
+}
+
+void MainWindow::Export(const core::Table& table, const QString& title) {
+  const auto file = place_.Files.ChooseFileToWrite(this, "Export to spreadsheet",
+                                                   Typed(title + ".xlsx"), "Spreadsheets (*.xlsx)");
+  if (!file) {
+    return;
+  }
+  if (const auto refused = practice::ExportList(table, *file, Typed(title))) {
+    place_.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
+    return;
+  }
+  place_.Files.OpenWithDesktop(*file);
+}
+
+template <typename Box>
+void MainWindow::ShowBox() {
+  Box box(this);
+  box.exec();
+}
+
+// Remedies are written in a horoscope's window; coming back from there shows them.
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+    lists_->ReloadRemedies();
+  }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  place_.Layout.KeepWindow(*this);
+  place_.Layout.KeepSplitter(*halves_);
+  event->accept();
+  QApplication::quit();
+}
+
+}  // namespace orvex::ui

@@ -1,0 +1,78 @@
+// The main window: clients on the left, the sky of now always in sight on the right.
+#pragma once
+
+#include <QMainWindow>
+
+#include "core/table.h"
+#include "ui/base/workplace.h"
+
+class QLabel;
+class QSplitter;
+class QStackedWidget;
+class QTabWidget;
+
+namespace orvex::ui {
+
+class ClientCommands;
+class ClientLists;
+class FirstRun;
+class SkyPanel;
+class TableView;
+
+class MainWindow final : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(Workplace& place);
+
+  // Another page beside that of the clients.
+  void AddPage(QWidget* page, const QString& title);
+
+ protected:
+  // Ends the program, whatever other windows are open.
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void MakeActions();
+  void LayOut();
+  void Connect();
+  void Start();
+  void MakeMenus();
+  void MakeToolBar();
+  QWidget* BuildClientsPage();
+  QWidget* BuildBirthdays();
+  void MakeStatusBar();
+  void ShowClientCounts();
+  void ShowBirthdays();
+  void ShowSkyStatus();
+  void OpenSettings();
+  void OpenCities();
+  void Export(const core::Table& table, const QString& title);
+  template <typename Box>
+  void ShowBox();
+
+  Workplace& place_;
+  QTabWidget* pages_;
+  QStackedWidget* clientsPage_;
+  ClientLists* lists_;
+  SkyPanel* sky_;
+  ClientCommands* commands_;
+  FirstRun* firstRun_ = nullptr;
+  QSplitter* halves_;
+  QLabel* birthdayCaption_;
+  TableView* birthdays_;
+  QLabel* count_;
+  QLabel* total_;
+  QLabel* ascendant_;
+  QLabel* nodes_;
+  QLabel* disha_;
+  QLabel* date_;
+  QAction* settings_ = nullptr;
+  QAction* cities_ = nullptr;
+  QAction* refresh_ = nullptr;
+  QAction* filter_ = nullptr;
+  QAction* quit_ = nullptr;
+};
+
+}  // namespace orvex::ui

@@ -1,0 +1,311 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <chrono>
+#include <memory>
+
+#include "core/cell_colors.h"
+#include "practice/groups.h"
+#include "support/ui_desk.h"
+#include "ui/base/theme.h"
+#include "ui/dialogs/cities_dialog.h"
+#include "ui/dialogs/city_dialog.h"
+#include "ui/dialogs/city_list.h"
+#include "ui/dialogs/client_dialog.h"
+#include "ui/dialogs/group_dialog.h"
+#include "ui/dialogs/move_dialog.h"
+#include "ui/dialogs/pick_city_dialog.h"
+#include "ui/dialogs/remedy_dialog.h"
+#include "ui/dialogs/settings_dialog.h"
+
+namespace orvex::ui {
+namespace {
+
+class DialogTest : public test::DeskTest {
+ protected:
+  std::int32_t AddClient(const std::string& name = "Asha Rao") {
+    chart::ClientForm form = chart::OpenAddClient(*session_);
+    chart::SelectCity(*session_, 1, form);
+    form.FullName = name;
+    form.Birth = test::Moment("1990-07-05 14:30:00");
+    return chart::SaveNewClient(*session_, form, 1).Id;
+  }
+
+  static bool IsRed(QWidget& dialog, const char* field) {
+    return Find<QLineEdit>(dialog, field).palette().color(QPalette::Text) == Theme::Red();
+  }
+
+  static void SetMoment(QWidget& dialog, const std::string& moment) {
+    Find<QDateTimeEdit>(dialog, "birth").setDateTime(ToField(test::Moment(moment)));
+  }
+};
+
+TEST_F(DialogTest, AClientIsAddedWithKeysAloneAndItsRefusalsGoToTheirFields) {
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place_, 1));
+  Show(*dialog);
+  EXPECT_EQ(dialog->windowTitle(), "Add Client");
+  EXPECT_EQ(FocusName(*dialog), "fullName");
+
+  messages_.Await("Client Name is a mandatory field.");
+  QTest::keyClick(dialog.get(), Qt::Key_Return);
+  EXPECT_EQ(FocusName(*dialog), "fullName");
+
+  Type(*dialog, "fullName", "O'Brien");
+  Type(*dialog, "offset", "28");
+  messages_.Await("Incorrect Offset Value entered.");
+  QTest::keyClick(dialog.get(), Qt::Key_Return);
+  EXPECT_EQ(FocusName(*dialog), "offset");
+  EXPECT_TRUE(IsRed(*dialog, "offset"));
+
+  Type(*dialog, "offset", "4");
+  EXPECT_FALSE(IsRed(*dialog, "offset"));
+  QTest::keyClick(dialog.get(), Qt::Key_Return);
+  ASSERT_NE(dialog->SavedId(), 0);
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(Stored("Select * from client_master", "fullname"), "O'Brien");
+  EXPECT_EQ(Stored("Select * from client_master", "cityid"), "19");
+}
+
+TEST_F(DialogTest, TheCityIsForgottenWhenTheListIsNarrowedAndClearedWithItsView) {
+  AddClient();
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place_, 1));
+  Show(*dialog);
+  Type(*dialog, "fullName", "Ravi");
+  Type(*dialog, "citySearch", "mumb");
+  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "0");
+  EXPECT_FALSE(Find<QLineEdit>(*dialog, "offset").isEnabled());
+  EXPECT_EQ(Find<QLineEdit>(*dialog, "latitude").text(), "");
+  messages_.Await("Please select a City from the list.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "cityList");
+
+  ClickRow(Find<TableView>(*dialog, "cityList"), 0);
+  EXPECT_TRUE(Find<QLineEdit>(*dialog, "offset").isEnabled());
+  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "5.5");
+
+  Find<QTabBar>(*dialog, "cityViews").setCurrentIndex(CityList::AllCities);
+  Find<QTabBar>(*dialog, "cityViews").setCurrentIndex(CityList::PreviouslyUsed);
+  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "");
+  Type(*dialog, "offset", "5.5");
+  messages_.Await("No City selected. Cannot proceed.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "citySearch");
+}
+
+TEST_F(DialogTest, AHoraryQueryTakesTheMomentOfNowAndLeavesNoChoiceOfTheAscendant) {
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place_, 1));
+  Show(*dialog);
+  SetMoment(*dialog, "1990-07-05 14:30:00");
+  EXPECT_FALSE(Find<QWidget>(*dialog, "horaryNumber").isEnabled());
+  Find<QRadioButton>(*dialog, "ascendantByHand").click();
+  EXPECT_TRUE(Find<QWidget>(*dialog, "ascendantDegree").isEnabled());
+
+  Find<QCheckBox>(*dialog, "horary").click();
+  EXPECT_TRUE(Find<QRadioButton>(*dialog, "ascendantComputed").isChecked());
+  EXPECT_FALSE(Find<QWidget>(*dialog, "ascendantByHand").isEnabled());
+  EXPECT_FALSE(Find<QWidget>(*dialog, "ascendantDegree").isEnabled());
+  EXPECT_EQ(FromField(Find<QDateTimeEdit>(*dialog, "birth").dateTime()), home_.Clock.Now());
+
+  auto& number = Find<QComboBox>(*dialog, "horaryNumber");
+  EXPECT_EQ(number.currentText(), "1");
+  Press(*dialog, "random");
+  EXPECT_GE(number.currentText().toInt(), 1);
+  EXPECT_LE(number.currentText().toInt(), 249);
+  messages_.Await("Only a numeric value is accepted in this field.");
+  number.lineEdit()->selectAll();
+  QTest::keyClicks(number.lineEdit(), "x");
+  QTest::keyClicks(number.lineEdit(), "250");
+  Type(*dialog, "fullName", "Ravi");
+  messages_.Await("Please enter a value between 1 to 249.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "horaryNumber");
+  number.setEditText("249");
+  messages_.Await("Horary Question is a mandatory field.");
+  Press(*dialog, "action");
+  Type(*dialog, "horaryQuestion", "When?");
+  Press(*dialog, "action");
+  EXPECT_EQ(Stored("Select * from client_master", "horaryno"), "249");
+}
+
+TEST_F(DialogTest, AnEditShowsInRedWhatDiffersFromTheCityAndKeepsIt) {
+  const std::int32_t id = AddClient();
+  session_->StoreConnection.Execute("Update client_master set latitude = 19.5");
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, id));
+  Show(*dialog);
+  EXPECT_EQ(dialog->windowTitle(), "Edit Client");
+  EXPECT_EQ(Find<QPushButton>(*dialog, "action").text(), "&Save");
+  EXPECT_TRUE(IsRed(*dialog, "latitude"));
+  EXPECT_FALSE(IsRed(*dialog, "longitude"));
+  Type(*dialog, "comments", "Moved house.");
+  Press(*dialog, "action");
+  EXPECT_EQ(Stored("Select * from client_master", "latitude"), "19.5");
+  EXPECT_EQ(Stored("Select * from client_master", "comments"), "Moved house.");
+
+  messages_.Await("The record you are trying to edit could not be retrieved.");
+  EXPECT_EQ(ClientDialog::ForEdit(place_, 99), nullptr);
+}
+
+TEST_F(DialogTest, TheOffsetOfTheClocksIsOfferedWithAWarningWhereAnHourCameTwice) {
+  const std::int32_t id = AddClient();
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, id));
+  Show(*dialog);
+  EXPECT_FALSE(Find<QPushButton>(*dialog, "takeOffset").isVisible());
+  SetMoment(*dialog, "1943-05-05 10:00:00");
+  auto& take = Find<QPushButton>(*dialog, "takeOffset");
+  EXPECT_TRUE(take.isVisible());
+  EXPECT_EQ(take.text(), "Use 6.5");
+  QTest::mouseClick(&take, Qt::LeftButton);
+  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "6.5");
+  EXPECT_TRUE(IsRed(*dialog, "offset"));
+  EXPECT_EQ(Find<QLabel>(*dialog, "zoneWarning").text(), "");
+  SetMoment(*dialog, "1945-10-14 23:30:00");
+  EXPECT_TRUE(Find<QLabel>(*dialog, "zoneWarning").text().startsWith("This time came twice"));
+}
+
+TEST_F(DialogTest, EscapeAndCancelWriteNothing) {
+  for (const char* how : {"escape", "cancel"}) {
+    const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place_, 1));
+    Show(*dialog);
+    Type(*dialog, "fullName", "Nobody");
+    if (std::string(how) == "escape") {
+      QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    } else {
+      Press(*dialog, "cancel");
+    }
+    EXPECT_FALSE(dialog->isVisible());
+  }
+  EXPECT_EQ(Stored("Select count(id) as cnt from client_master", "cnt"), "0");
+}
+
+TEST_F(DialogTest, FiftyThousandCitiesAreNarrowedAtOnce) {
+  CitiesDialog dialog(place_);
+  Show(dialog);
+  const auto begin = std::chrono::steady_clock::now();
+  Type(dialog, "citySearch", "sao pa");
+  const auto took = std::chrono::steady_clock::now() - begin;
+  auto& list = Find<TableView>(dialog, "cityList");
+  EXPECT_GT(list.Model().rowCount(), 0);
+  EXPECT_LT(list.Model().rowCount(), 50);
+  EXPECT_FALSE(Find<QPushButton>(dialog, "editCity").isEnabled());
+  // Six keys; most of the time is the first one's.
+  EXPECT_LT(std::chrono::duration_cast<std::chrono::milliseconds>(took).count(), 3000);
+}
+
+TEST_F(DialogTest, ACityIsAddedWithTheOffsetOfItsZone) {
+  const std::unique_ptr<CityDialog> dialog(CityDialog::ForNew(place_));
+  Show(*dialog);
+  messages_.Await("City Name is a mandatory field.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "cityName");
+  Type(*dialog, "cityName", "Our Village");
+  messages_.Await("Please select a Time Zone from the list.");
+  Press(*dialog, "action");
+  auto& zones = Find<TableView>(*dialog, "timeZone");
+  zones.setFocus();
+  QTest::keyClicks(&zones, "Asia/Kolk");
+  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "5.5");
+  Type(*dialog, "latitude", "19");
+  Type(*dialog, "longitude", "72,5");
+  messages_.Await("Longitude is a numeric field.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "longitude");
+  Type(*dialog, "longitude", "72.5");
+  Press(*dialog, "action");
+  EXPECT_EQ(Stored("Select * from city_master where cityname = 'Our Village'", "offset"), "5.5");
+  const std::unique_ptr<CityDialog> edit(CityDialog::ForEdit(place_, dialog->SavedId()));
+  EXPECT_EQ(edit->windowTitle(), "Edit City");
+  EXPECT_FALSE(Find<QWidget>(*edit, "timeZone").isEnabled());
+}
+
+TEST_F(DialogTest, PickingACityWantsARow) {
+  PickCityDialog dialog(place_);
+  Show(dialog);
+  messages_.Await("Please select a City from the list.");
+  Press(dialog, "action");
+  Find<QTabBar>(dialog, "cityViews").setCurrentIndex(CityList::AllCities);
+  Type(dialog, "citySearch", "mumbai");
+  ClickRow(Find<TableView>(dialog, "cityList"), 0, true);
+  EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  EXPECT_EQ(dialog.Picked().Name, "Mumbai");
+}
+
+TEST_F(DialogTest, GroupsAreNamedOnceAndClientsMovedBetweenThem) {
+  GroupDialog group(place_);
+  Show(group);
+  Type(group, "groupName", "general");
+  messages_.Await("The Group 'general' already exists in the database.");
+  Press(group, "action");
+  Type(group, "groupName", "Family");
+  QTest::keyClick(&group, Qt::Key_Return);
+  EXPECT_EQ(group.result(), QDialog::Accepted);
+
+  const std::int32_t client = AddClient();
+  MoveDialog move(place_, client, "Asha Rao", "General");
+  Show(move);
+  auto& groups = Find<QComboBox>(move, "groups");
+  groups.setCurrentText("General");
+  messages_.Await("Source and Destination Groups cannot be the same.");
+  Press(move, "action");
+  groups.setCurrentText("Family");
+  Press(move, "action");
+  EXPECT_EQ(Stored("Select * from client_master", "groupid"), Typed(WholeText(group.SavedId())));
+}
+
+TEST_F(DialogTest, ARemedyKeepsItsTextsPlanetAndDate) {
+  const std::int32_t client = AddClient();
+  const std::unique_ptr<RemedyDialog> dialog(RemedyDialog::ForNew(place_, client));
+  Show(*dialog);
+  EXPECT_EQ(Find<QComboBox>(*dialog, "forPlanet").itemText(0), "None");
+  messages_.Await("Problem/Symptom is a mandatory field.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "problem");
+  Type(*dialog, "problem", "Can't sleep");
+  Find<QPlainTextEdit>(*dialog, "remedy").setPlainText(QString(1001, 'x'));
+  messages_.Await("Text cannot exceed more than 1000 characters.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "remedy");
+  Type(*dialog, "remedy", "Water to the Sun");
+  Find<QComboBox>(*dialog, "forPlanet").setCurrentText("Sun");
+  Press(*dialog, "action");
+  EXPECT_EQ(Stored("Select * from client_remedy", "problem"), "Can't sleep");
+  EXPECT_EQ(Stored("Select * from client_remedy", "forplanetid"), "1");
+  EXPECT_EQ(Stored("Select * from client_remedy", "remedydate"), "2026-11-24 00:00:00");
+}
+
+TEST_F(DialogTest, SettingsAreCheckedFieldByFieldAndTakenAtOnce) {
+  SettingsDialog dialog(place_);
+  Show(dialog);
+  EXPECT_EQ(dialog.windowTitle(), "Settings - General");
+  auto& options = Find<QListWidget>(dialog, "option");
+  options.setCurrentRow(1);
+  EXPECT_EQ(dialog.windowTitle(), "Settings - Orbits");
+  Type(dialog, "Orbit_30", "6");
+  messages_.Await("Value cannot be less than 0 or greater than 5.");
+  QTest::keyClick(&Find<QWidget>(dialog, "Orbit_30"), Qt::Key_Tab);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(FocusName(dialog), "Orbit_30");
+  Type(dialog, "Orbit_30", "2");
+  QTest::keyClick(&Find<QWidget>(dialog, "Orbit_30"), Qt::Key_Tab);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Find<QLabel>(dialog, "caption_Orbit_30").text(), "30 Degree: (28 to 32)");
+
+  Find<QLineEdit>(dialog, "AstrologerName").setText(QString(51, 'n'));
+  messages_.Await("Name cannot exceed 50 characters.");
+  Press(dialog, "action");
+  EXPECT_EQ(dialog.windowTitle(), "Settings - Profile");
+  EXPECT_EQ(FocusName(dialog), "AstrologerName");
+  Type(dialog, "AstrologerName", "D'Souza");
+  Press(dialog, "action");
+  EXPECT_EQ(session_->State.Orbs[0], 2);
+  EXPECT_EQ(session_->State.AstrologerName, "D'Souza");
+}
+
+}  // namespace
+}  // namespace orvex::ui

@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# The whole path in a real window under Xvfb: start, add a client with keys, its horoscope opens,
+# the second start is refused, close. Usage: whole_path_test.sh ORVEX ORVEX-CLI
+set -euo pipefail
+orvex=$1
+cli=$2
+work=$(mktemp -d)
+trap 'kill ${program:-} ${server:-} 2>/dev/null || true; rm -rf "$work"' EXIT
+export HOME=$work XDG_CONFIG_HOME=$work/config ORVEX_HOME=$work/home QT_QPA_PLATFORM=xcb
+unset DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
+
+fail() { echo "$1" >&2; exit 1; }
+
+words=$("$orvex" 2>&1) && fail "started without a display"
+[ "$(wc -l <<<"$words")" -eq 1 ] || fail "not one line without a display: $words"
+grep -q display <<<"$words" || fail "no word of the display: $words"
+
+Xvfb -displayfd 3 -screen 0 1366x768x24 3>"$work/display" 2>/dev/null &
+server=$!
+for _ in $(seq 100); do [ -s "$work/display" ] && break; sleep 0.1; done
+export DISPLAY=:$(cat "$work/display")
+
+await() { timeout 30 xdotool search --sync --onlyvisible --name "$1" | head -n 1; }
+
+"$orvex" &
+program=$!
+main=$(await '^Orvex\+$')
+[ -n "$main" ] || fail "no main window"
+xdotool windowfocus --sync "$main"
+xdotool key --window "$main" ctrl+n
+dialog=$(await '^Add Client$')
+[ -n "$dialog" ] || fail "no client dialog"
+xdotool windowfocus --sync "$dialog"
+xdotool type "First Client"
+xdotool key Return
+horoscope=$(await 'First Client')
+[ -n "$horoscope" ] || fail "no horoscope"
+
+"$cli" client list | grep -q "First Client" || fail "the client was not stored"
+timeout 20 "$orvex" >/dev/null 2>&1 &
+second=$!
+box=$(await '^Orvex\+$' | head -n 1)
+sleep 2
+[ "$(xdotool search --onlyvisible --name '^Orvex\+$' | wc -l)" -ge 2 ] || fail "no word of the second start"
+kill "$second" 2>/dev/null || true
+
+xdotool windowfocus --sync "$main"
+xdotool key --window "$main" ctrl+q
+for _ in $(seq 50); do kill -0 "$program" 2>/dev/null || break; sleep 0.1; done
+kill -0 "$program" 2>/dev/null && fail "the program did not end with its main window"
+wait "$program" || fail "the program ended with an error"
+[ -z "$(find "$work/home" "$work/config" -type f -perm /077)" ] || fail "files that others may read"
+echo "The whole path was walked."

@@ -1,0 +1,106 @@
+// Writes pictures of the main window and of every dialog into a folder: window_pictures FOLDER.
+// The size of the pictures follows QT_SCALE_FACTOR, the palette ORVEX_THEME.
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QLocale>
+#include <memory>
+
+#include "chart/client_saving.h"
+#include "practice/groups.h"
+#include "practice/remedies.h"
+#include "support/test_home.h"
+#include "ui/base/picture.h"
+#include "ui/base/theme.h"
+#include "ui/dialogs/about_box.h"
+#include "ui/dialogs/cities_dialog.h"
+#include "ui/dialogs/city_dialog.h"
+#include "ui/dialogs/client_dialog.h"
+#include "ui/dialogs/group_dialog.h"
+#include "ui/dialogs/move_dialog.h"
+#include "ui/dialogs/pick_city_dialog.h"
+#include "ui/dialogs/remedy_dialog.h"
+#include "ui/dialogs/settings_dialog.h"
+#include "ui/main/main_window.h"
+
+namespace orvex::ui {
+namespace {
+
+std::int32_t AddClient(test::TestHome& home, core::Session& session, const std::string& name,
+                       const std::string& birth) {
+  home.Clock.Set(home.Clock.Now() + std::chrono::seconds(1));
+  chart::ClientForm form = chart::OpenAddClient(session);
+  chart::SelectCity(session, 1, form);
+  form.FullName = name;
+  form.Birth = test::Moment(birth);
+  form.Email = "client@example.org";
+  form.Comments = "Asked for the years of work.";
+  return chart::SaveNewClient(session, form, 1).Id;
+}
+
+void WriteMain(Workplace& place, const std::filesystem::path& file) {
+  constexpr int kWidth = 1366;
+  constexpr int kHeight = 740;  // what a title bar and a panel leave of 768
+  MainWindow window(place);
+  window.resize(kWidth, kHeight);
+  WritePicture(window, file);
+}
+
+void WriteSettings(Workplace& place, const std::filesystem::path& folder) {
+  SettingsDialog dialog(place);
+  for (int page = 0; page < 3; ++page) {
+    dialog.findChild<QListWidget*>("option")->setCurrentRow(page);
+    WritePicture(dialog, folder / ("settings-" + std::to_string(page) + ".png"));
+  }
+}
+
+void WriteDialogs(Workplace& place, std::int32_t client, const std::filesystem::path& folder) {
+  const auto write = [&folder](QDialog* made, const char* name) {
+    const std::unique_ptr<QDialog> dialog(made);
+    WritePicture(*dialog, folder / name);
+  };
+  write(ClientDialog::ForNew(place, 1), "client-add.png");
+  write(ClientDialog::ForEdit(place, client), "client-edit.png");
+  write(CityDialog::ForNew(place), "city-add.png");
+  write(CityDialog::ForEdit(place, 1), "city-edit.png");
+  write(new CitiesDialog(place), "cities.png");
+  write(new PickCityDialog(place), "pick-city.png");
+  write(new GroupDialog(place), "group.png");
+  write(new MoveDialog(place, client, "Asha Rao", "General"), "move.png");
+  write(RemedyDialog::ForNew(place, client), "remedy.png");
+  write(new AboutBox, "about.png");
+  write(new HelpBox, "help.png");
+  write(new UpdateBox, "update.png");
+  WriteSettings(place, folder);
+}
+
+void WriteAll(const std::filesystem::path& folder) {
+  test::TestHome home;
+  const std::unique_ptr<core::Session> session = home.Start();
+  FileDialogs files;
+  LayoutMemory layout(home.Place.Folder / "windows.ini");
+  Workplace place{*session, files, layout};
+  WriteMain(place, folder / "first-run.png");
+  const std::int32_t client = AddClient(home, *session, "Asha Rao", "1943-11-24 10:00:00");
+  AddClient(home, *session, "Ravi Iyer", "1981-02-01 06:10:00");
+  AddClient(home, *session, "Meera Krishnan", "1975-08-30 21:45:00");
+  practice::AddGroup(*session, "Students");
+  practice::SaveNewRemedy(
+      *session, {1, "Restless sleep", "Water to the Sun at dawn", session->Time.Today()}, client);
+  WriteMain(place, folder / "main.png");
+  WriteDialogs(place, client, folder);
+}
+
+}  // namespace
+}  // namespace orvex::ui
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  QLocale::setDefault(QLocale::c());
+  orvex::ui::Theme::Apply(application);
+  const std::filesystem::path folder = argc > 1 ? argv[1] : ".";
+  std::filesystem::create_directories(folder);
+  orvex::ui::WriteAll(folder);
+  return 0;
+}
