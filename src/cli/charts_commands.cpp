@@ -14,15 +14,6 @@ namespace orvex::cli {
 
 namespace {
 
-template <typename Cells>
-Json CellsJson(const Cells& cells) {
-  Json json = Json::array();
-  for (const core::Cell& cell : cells) {
-    json.push_back(CellJson(cell));
-  }
-  return json;
-}
-
 Json GridJson(const report::SouthGrid& grid) {
   Json json = Json::array();
   for (const auto& row : grid) {

@@ -14,6 +14,16 @@ using Json = nlohmann::ordered_json;
 // A cell as interchange: its text and what else it has.
 Json CellJson(const core::Cell& cell);
 
+// Cells in a row as interchange.
+template <typename Cells>
+Json CellsJson(const Cells& cells) {
+  Json json = Json::array();
+  for (const core::Cell& cell : cells) {
+    json.push_back(CellJson(cell));
+  }
+  return json;
+}
+
 // A table as interchange: columns with captions, rows of cells; what a cell or row has not is left
 // out, the neutral background too.
 Json TableJson(const core::Table& table);

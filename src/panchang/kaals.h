@@ -9,13 +9,8 @@
 
 namespace orvex::panchang {
 
-// The ordinals, 1 to 8, of the eighths of the day that end with each kaal, and the start of each
-// on a day from 6:00 AM to 6:00 PM.
+// The ordinals, 1 to 8, of the eighths of the day that end with each kaal.
 struct KaalRow {
-  const char* Day;
-  const char* RahuStart;
-  const char* GulikaStart;
-  const char* YamagandaStart;
   int RahuSlot;
   int GulikaSlot;
   int YamagandaSlot;
