@@ -223,15 +223,17 @@ TEST_F(HtmlReport, WithoutATemplateTheMessageIsShownAndNothingIsWritten) {
 
 TEST_F(HtmlReport, AFolderThatCannotBeWrittenLeavesTheOldReport) {
   WriteTemplate("new");
-  fs::create_directories(home_.Place.ChartFolder());
-  const fs::path report = home_.Place.ChartFolder() / "1.htm";
-  std::ofstream(report) << "old";
-  fs::create_directory(report.string() + ".new");
+  const fs::path charts = home_.Place.ChartFolder();
+  const fs::path inTheWay = charts / "1.htm" / "old";
+  fs::create_directories(inTheWay.parent_path());
+  std::ofstream(inTheWay) << "old";
   EXPECT_THROW(Generate('S'), std::runtime_error);
-  EXPECT_EQ(test::ReadFile(report), "old");
-  session_->State.ChartPath = report.string();
+  EXPECT_EQ(test::ReadFile(inTheWay), "old");
+  EXPECT_EQ(std::distance(fs::directory_iterator(charts), {}), 1) << "something was left behind";
+
+  session_->State.ChartPath = inTheWay.string();
   EXPECT_THROW(Generate('S'), std::runtime_error);
-  EXPECT_EQ(test::ReadFile(report), "old");
+  EXPECT_EQ(test::ReadFile(inTheWay), "old");
 }
 
 TEST_F(HtmlReport, TheShippedTemplateKeepsNoPlaceholder) {
