@@ -12,6 +12,7 @@
 #include "chart/client_saving.h"
 #include "practice/groups.h"
 #include "support/ui_desk.h"
+#include "ui/base/open_windows.h"
 #include "ui/main/sky_panel.h"
 
 namespace orvex::ui {
@@ -19,13 +20,7 @@ namespace {
 
 class MainWindowTest : public test::DeskTest {
  protected:
-  ~MainWindowTest() override {
-    for (QWidget* open : QApplication::topLevelWidgets()) {
-      if (open->testAttribute(Qt::WA_DeleteOnClose)) {
-        delete open;
-      }
-    }
-  }
+  ~MainWindowTest() override { DeleteOpenWindows(); }
 
   std::int32_t AddClient(const std::string& name, const std::string& birth) {
     chart::ClientForm form = chart::OpenAddClient(*session_);

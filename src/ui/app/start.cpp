@@ -14,6 +14,7 @@
 #include "ui/app/splash.h"
 #include "ui/base/layout_memory.h"
 #include "ui/base/message_boxes.h"
+#include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
 #include "ui/base/workplace.h"
 #include "ui/main/main_window.h"
@@ -67,11 +68,7 @@ int RunWindows(core::Session& session) {
   window.show();
   const int status = QApplication::exec();
   // Horoscopes read the session; those still open go before it does.
-  for (QWidget* open : QApplication::topLevelWidgets()) {
-    if (open->testAttribute(Qt::WA_DeleteOnClose)) {
-      delete open;
-    }
-  }
+  DeleteOpenWindows();
   return status;
 }
 
