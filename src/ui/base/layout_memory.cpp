@@ -70,4 +70,11 @@ void LayoutMemory::KeepChosenEntry(const QObject& list, const QString& entry) {
   Keep("entry", list, entry.toUtf8());
 }
 
+void Remember(LayoutMemory& memory, QSplitter& splitter) {
+  splitter.setChildrenCollapsible(false);
+  memory.RestoreSplitter(splitter);
+  QObject::connect(&splitter, &QSplitter::splitterMoved, &splitter,
+                   [&memory, &splitter] { memory.KeepSplitter(splitter); });
+}
+
 }  // namespace orvex::ui

@@ -41,4 +41,7 @@ class LayoutMemory {
   QSettings settings_;
 };
 
+// A splitter that keeps its places under its name.
+void Remember(LayoutMemory& memory, QSplitter& splitter);
+
 }  // namespace orvex::ui

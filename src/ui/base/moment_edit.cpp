@@ -24,4 +24,10 @@ QDateTimeEdit* MakeMomentEdit(const QString& objectName) {
   return MakeEdit(objectName, "dd-MM-yyyy hh:mm:ss AP");
 }
 
+QDateTimeEdit* MakeTimeEdit(const QString& objectName) {
+  QDateTimeEdit* edit = MakeEdit(objectName, "hh:mm AP");
+  edit->setCalendarPopup(false);
+  return edit;
+}
+
 }  // namespace orvex::ui

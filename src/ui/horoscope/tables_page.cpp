@@ -21,21 +21,6 @@ std::string chart::HoroscopeCaptions::*CaptionOf(const std::string& name) {
   return found->Text;
 }
 
-QLabel* MakeCaptionLabel(const QString& objectName) {
-  auto* label = new QLabel;
-  label->setObjectName(objectName);
-  label->setTextFormat(Qt::PlainText);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  return label;
-}
-
-void Remember(LayoutMemory& memory, QSplitter& splitter) {
-  splitter.setChildrenCollapsible(false);
-  memory.RestoreSplitter(splitter);
-  QObject::connect(&splitter, &QSplitter::splitterMoved, &splitter,
-                   [&memory, &splitter] { memory.KeepSplitter(splitter); });
-}
-
 TablesPage::TablesPage(HoroscopeDocument& document, const PagePlan& plan)
     : HoroscopePage(document) {
   auto* layout = new QVBoxLayout(this);

@@ -14,7 +14,7 @@
 
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
-#include "practice/export_list.h"
+#include "ui/base/export_table.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
@@ -26,6 +26,8 @@
 #include "ui/main/client_lists.h"
 #include "ui/main/first_run.h"
 #include "ui/main/sky_panel.h"
+#include "ui/main/transit_commands.h"
+#include "ui/transit/transit_grid_page.h"
 
 namespace orvex::ui {
 
@@ -54,6 +56,7 @@ MainWindow::MainWindow(Workplace& place)
       lists_(new ClientLists(place)),
       sky_(new SkyPanel(place)),
       commands_(new ClientCommands(place, *lists_, *this)),
+      transits_(new TransitCommands(place, *pages_, *this)),
       halves_(new QSplitter(Qt::Horizontal)),
       birthdayCaption_(Panel("birthdayCaption")),
       birthdays_(new TableView),
@@ -89,6 +92,7 @@ void MainWindow::MakeMenus() {
   clients->addAction(quit_);
   QMenu* groups = menuBar()->addMenu(tr("&Groups"));
   groups->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
+  menuBar()->addMenu(transits_->Menu());
   QMenu* tools = menuBar()->addMenu(tr("&Tools"));
   tools->addActions({refresh_, cities_, settings_});
   QMenu* help = menuBar()->addMenu(tr("&Help"));
@@ -117,6 +121,7 @@ void MainWindow::LayOut() {
   pages_->setDocumentMode(true);
   pages_->tabBar()->setDrawBase(false);
   AddPage(BuildClientsPage(), tr("Clients"));
+  AddPage(&transits_->Page(), tr("Transit"));
   halves_->setObjectName("mainHalves");
   halves_->setChildrenCollapsible(false);
   halves_->addWidget(pages_);
@@ -247,16 +252,9 @@ void MainWindow::OpenCities() {
 }
 
 void MainWindow::Export(const core::Table& table, const QString& title) {
-  const auto file = place_.Files.ChooseFileToWrite(this, "Export to spreadsheet",
-                                                   Typed(title + ".xlsx"), "Spreadsheets (*.xlsx)");
-  if (!file) {
-    return;
+  if (const auto file = ExportTable(place_, *this, table, Typed(title))) {
+    place_.Files.OpenWithDesktop(*file);
   }
-  if (const auto refused = practice::ExportList(table, *file, Typed(title))) {
-    place_.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
-    return;
-  }
-  place_.Files.OpenWithDesktop(*file);
 }
 
 template <typename Box>

@@ -18,6 +18,7 @@ class ClientLists;
 class FirstRun;
 class SkyPanel;
 class TableView;
+class TransitCommands;
 
 class MainWindow final : public QMainWindow {
   Q_OBJECT
@@ -58,6 +59,7 @@ class MainWindow final : public QMainWindow {
   ClientLists* lists_;
   SkyPanel* sky_;
   ClientCommands* commands_;
+  TransitCommands* transits_;
   FirstRun* firstRun_ = nullptr;
   QSplitter* halves_;
   QLabel* birthdayCaption_;

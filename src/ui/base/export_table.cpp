@@ -1,0 +1,30 @@
+#include "ui/base/export_table.h"
+
+#include "practice/export_list.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/table_view.h"
+
+namespace orvex::ui {
+
+std::optional<std::filesystem::path> ExportTable(Workplace& place, QWidget& parent,
+                                                 const core::Table& table,
+                                                 const std::string& title) {
+  const auto file = place.Files.ChooseFileToWrite(&parent, "Export to spreadsheet", title + ".xlsx",
+                                                  "Spreadsheets (*.xlsx)");
+  if (!file) {
+    return std::nullopt;
+  }
+  if (const auto refused = practice::ExportList(table, *file, title)) {
+    place.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
+    return std::nullopt;
+  }
+  return file;
+}
+
+void OfferExport(Workplace& place, TableView& table) {
+  table.SetExport([&place, &table](const core::Table& shown) {
+    ExportTable(place, table, shown, Typed(table.accessibleName()));
+  });
+}
+
+}  // namespace orvex::ui
