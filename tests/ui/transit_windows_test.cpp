@@ -102,7 +102,7 @@ TEST_F(TransitWindowTest, TheGridShowsTodayRetrogradesAndTheWayToOtherMonths) {
   EXPECT_EQ(Find<QComboBox>(*page, "months").currentText(), "December");
   EXPECT_EQ(Caption(*page, "nextMonth"), "January 2027 &>");
   Find<QWidget>(*page, "grid").setFocus();
-  QTest::keyClick(page.get(), Qt::Key_Greater, Qt::AltModifier);
+  QTest::keyClick(page.get(), Qt::Key_Greater, Qt::AltModifier | Qt::ShiftModifier);
   EXPECT_EQ(Text(*page, "monthLabel"), "January 2027");
   EXPECT_EQ(Caption(*page, "previousMonth"), "&< December 2026");
   EXPECT_EQ(Caption(*page, "thisMonth"), "Nov 2026");
@@ -135,7 +135,7 @@ TEST_F(TransitWindowTest, ACityInAnotherZoneAndAnotherTimeStayForThePage) {
   // Ten in Dubai is half past eleven in Mumbai.
   auto& time = Find<QDateTimeEdit>(*page, "transitTime");
   EXPECT_EQ(time.text(), "10:00 AM");
-  time.setFocus();
+  time.setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&time, "1130");
   ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*page, "gridTitle").endsWith("at 11:30"); }));
   EXPECT_EQ(CellText(*page, "grid", 0, kMoonColumn), inDubai);
@@ -206,7 +206,7 @@ TEST_F(TransitWindowTest, TheSkyOfTheDetailsIsThatOfThePickedInstant) {
   EXPECT_EQ(CellText(details, "skyDayHoras", 0, 0), "Venus");
   auto& picker = Find<QDateTimeEdit>(details, "picker");
   EXPECT_EQ(picker.text(), "10:00 AM");
-  picker.setFocus();
+  picker.setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&picker, "0915");
   EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 10:00:00 AM");
   QTest::keyClick(&picker, Qt::Key_Return);
@@ -276,10 +276,10 @@ TEST_F(TransitWindowTest, WhatIsFoundIsToldAndLeadsIntoTheGrid) {
     Find<QRadioButton>(find, "byRashi").click();
     Find<QComboBox>(find, "Rashi").setCurrentText("Capricorn");
     QTest::keyClick(&find, Qt::Key_Return);
-    EXPECT_EQ(Text(find, "result"), "Sun will get to Capricorn on 14 January 2027 at 18:00.");
+    EXPECT_EQ(Text(find, "result"), "Sun will get to Capricorn on 14 January 2027 at 17:00.");
     EXPECT_EQ(Text(find, "status"), "Ready");
     EXPECT_EQ(Find<TableView>(find, "hours").Model().rowCount(), 24);
-    EXPECT_EQ(Find<TableView>(find, "hours").currentIndex().row(), 18);
+    EXPECT_EQ(Find<TableView>(find, "hours").currentIndex().row(), 17);
     EXPECT_EQ(FocusName(find), "sync");
     QTest::keyClick(find.focusWidget(), Qt::Key_Space);
   });
@@ -389,7 +389,8 @@ TEST_F(TransitWindowTest, TheHorasFollowTheDateAndTheCity) {
   EXPECT_EQ(Text(*view, "horaCaption"), "Hora for Dubai");
   EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Mars");
   EXPECT_EQ(CellText(*view, "nightHoras", 0, 0), "Saturn");
-  EXPECT_EQ("Sunrise: " + CellText(*view, "dayHoras", 0, 1), Text(*view, "sunrise"));
+  EXPECT_EQ(CellText(*view, "dayHoras", 0, 1), "06:40 AM");
+  EXPECT_EQ(Text(*view, "sunrise"), "Sunrise: 6:40 AM");
   EXPECT_EQ("Sunset: " + CellText(*view, "dayHoras", 11, 2), Text(*view, "sunset"));
   Press(*view, "nextDay");
   EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Mercury");
@@ -397,8 +398,7 @@ TEST_F(TransitWindowTest, TheHorasFollowTheDateAndTheCity) {
   Press(*view, "previousDay");
   EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Moon");
   auto& date = Find<QDateTimeEdit>(*view, "horaDate");
-  date.setFocus();
-  QTest::keySequence(&date, QKeySequence::SelectAll);
+  date.setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&date, "05072026");
   EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Sun");
   const QString inDubai = Text(*view, "sunrise");

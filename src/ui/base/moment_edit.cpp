@@ -8,8 +8,9 @@ QDateTimeEdit* MakeEdit(const QString& objectName, const QString& format) {
   auto* edit = new QDateTimeEdit;
   edit->setObjectName(objectName);
   edit->setTimeSpec(Qt::UTC);
-  edit->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
   edit->setDisplayFormat(format);
+  // A format without a date narrows the range to one day.
+  edit->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
   edit->setCalendarPopup(true);
   return edit;
 }

@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
@@ -182,6 +183,7 @@ void MainWindow::Connect() {
   connect(refresh_, &QAction::triggered, sky_, &SkyPanel::Refresh);
   connect(filter_, &QAction::triggered, lists_, &ClientLists::FocusFilter);
   connect(quit_, &QAction::triggered, this, &QWidget::close);
+  connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::MakeRoom);
   connect(sky_, &SkyPanel::Refreshed, this, [this] { ShowSkyStatus(); });
   connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);
   connect(lists_, &ClientLists::CountChanged, count_, &QLabel::setText);
@@ -198,6 +200,22 @@ void MainWindow::Connect() {
   }
   lists_->ClientTable().SetExport(
       [this](const core::Table& table) { Export(table, lists_->GroupName()); });
+}
+
+// A page takes the room that it asks for; the clients get back what the user gave them.
+void MainWindow::MakeRoom() {
+  if (pages_->currentIndex() == 0) {
+    halves_->setSizes(std::exchange(givenSizes_, {}));
+    return;
+  }
+  const QList<int> sizes = halves_->sizes();
+  if (givenSizes_.isEmpty()) {
+    givenSizes_ = sizes;
+  }
+  const int wanted = pages_->currentWidget()->sizeHint().width() + 2 * kGrid;
+  if (wanted > sizes.front()) {
+    halves_->setSizes({wanted, sizes.front() + sizes.back() - wanted});
+  }
 }
 
 void MainWindow::Start() {
@@ -243,6 +261,7 @@ void MainWindow::OpenSettings() {
     sky_->Refresh();
     firstRun_->ShowCity();
     lists_->ReloadClients();
+    transits_->Page().Refresh();
   }
 }
 
@@ -273,6 +292,7 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   place_.Layout.KeepWindow(*this);
+  pages_->setCurrentIndex(0);
   place_.Layout.KeepSplitter(*halves_);
   event->accept();
   QApplication::quit();

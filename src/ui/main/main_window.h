@@ -38,6 +38,7 @@ class MainWindow final : public QMainWindow {
   void MakeActions();
   void LayOut();
   void Connect();
+  void MakeRoom();
   void Start();
   void MakeMenus();
   void MakeToolBar();
@@ -62,6 +63,7 @@ class MainWindow final : public QMainWindow {
   TransitCommands* transits_;
   FirstRun* firstRun_ = nullptr;
   QSplitter* halves_;
+  QList<int> givenSizes_;  // of the halves beside the page of the clients
   QLabel* birthdayCaption_;
   TableView* birthdays_;
   QLabel* count_;

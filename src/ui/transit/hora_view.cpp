@@ -120,8 +120,8 @@ void HoraView::CalcHora() {
                         .value_or(panchang::HoraView{Typed(windowTitle()), "", "", {}, {}});
   setWindowTitle(Shown(view.Title));
   caption_->setText(Shown(view.Title));
-  sunrise_->setText(tr("Sunrise: %1").arg(Shown(view.Sunrise)));
-  sunset_->setText(tr("Sunset: %1").arg(Shown(view.Sunset)));
+  sunrise_->setText(view.Sunrise.empty() ? "" : tr("Sunrise: %1").arg(Shown(view.Sunrise)));
+  sunset_->setText(view.Sunset.empty() ? "" : tr("Sunset: %1").arg(Shown(view.Sunset)));
   day_->SetTable(view.DayHoras);
   night_->SetTable(view.NightHoras);
   previous_->setEnabled(date_->date() > date_->minimumDate());

@@ -137,12 +137,18 @@ void SkyBoard::ShowView(const panchang::SkyView& view) {
   if (ruling_ != nullptr) {
     ruling_->SetTable(view.SkyRulingPlanets);
   } else {
-    dayHoras_->SetTable(view.DayHoras);
-    nightHoras_->SetTable(view.NightHoras);
+    ShowHoras(*dayHoras_, view.DayHoras);
+    ShowHoras(*nightHoras_, view.NightHoras);
   }
   panchang_->SetTable(view.Panchang);
   panchang_->FitHeightToRows();
   planets_->SetTable(view.SkyPlanets);
+}
+
+// The list takes the room of its columns, the chart what is left.
+void SkyBoard::ShowHoras(TableView& list, const core::Table& horas) {
+  list.SetTable(horas);
+  list.setFixedWidth(list.sizeHint().width());
 }
 
 void SkyBoard::ShowHeader(const panchang::SkyCaptions& captions) {

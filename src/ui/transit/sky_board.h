@@ -31,6 +31,7 @@ class SkyBoard final : public QWidget {
   QWidget* BuildUpper(Side side);
   void AddHoras(QHBoxLayout& row);
   TableView* MakeTable(const char* name, const QString& title);
+  static void ShowHoras(TableView& list, const core::Table& horas);
   void ShowHeader(const panchang::SkyCaptions& captions);
 
   Workplace& place_;

@@ -57,7 +57,8 @@ TransitDetailsDialog::TransitDetailsDialog(Workplace& place, transit::Planet pla
   setModal(true);
   LayOut();
   Connect();
-  picker_->setDateTime(ToField(place.Session.Time.Now()));
+  const QDateTime now = ToField(place.Session.Time.Now());
+  picker_->setDateTime(now.addSecs(-now.time().second()));
   ShowDay(planet, date);
   hours_->setFocus();
   if (!place_.Layout.RestoreWindow(*this)) {
@@ -72,6 +73,7 @@ void TransitDetailsDialog::LayOut() {
   halves->addWidget(BuildSky());
   halves->setStretchFactor(0, 1);
   halves->setStretchFactor(1, 1);
+  halves->setSizes({68 * kGrid, 94 * kGrid});
   Remember(place_.Layout, *halves);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(halves);
@@ -155,7 +157,9 @@ void TransitDetailsDialog::ShowDay(transit::Planet planet, core::DateTime date) 
   next_->setText(Shown(details.NextDay.Caption));
   next_->setEnabled(details.NextDay.Enabled);
   today_->setVisible(details.TodayLink);
-  picker_->setDate(ToField(date).date());
+  QDateTime instant = ToField(date);
+  instant.setTime(picker_->time());
+  picker_->setDateTime(instant);
   ShowHours();
   ShowSky();
 }

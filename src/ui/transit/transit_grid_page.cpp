@@ -5,6 +5,8 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QShowEvent>
+#include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "core/exact_numbers.h"
 #include "transit/month_name.h"
@@ -30,6 +32,18 @@ QPushButton* Button(const char* name, const QString& text) {
   button->setObjectName(name);
   return button;
 }
+
+// The blanks ahead of the positions line up texts of a fixed column; here they only take room.
+class PositionDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QString displayText(const QVariant& value, const QLocale& /*locale*/) const override {
+    const QString text = value.toString();
+    const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return c != ' '; });
+    return text.mid(first - text.begin());
+  }
+};
 
 QComboBox* List(const char* name, const QString& title) {
   auto* list = new QComboBox;
@@ -86,6 +100,7 @@ void TransitGridPage::LayOut() {
   grid_->setSelectionMode(QAbstractItemView::SingleSelection);
   grid_->verticalHeader()->setDefaultSectionSize(grid_->fontMetrics().height() + kGrid / 2);
   grid_->SetEmptyText(tr("The positions of the month are being computed…"));
+  grid_->setItemDelegate(new PositionDelegate(grid_));
   OfferExport(place_, *grid_);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(BuildMonths());
@@ -146,6 +161,17 @@ void TransitGridPage::showEvent(QShowEvent* event) {
   }
 }
 
+void TransitGridPage::Refresh() {
+  if (isVisible()) {
+    build_.start();
+  }
+}
+
+QSize TransitGridPage::sizeHint() const {
+  constexpr int kMonthWidth = 99 * kGrid;  // a month without a bar
+  return {kMonthWidth, QWidget::sizeHint().height()};
+}
+
 void TransitGridPage::FollowUserCity() {
   if (!ownCity_) {
     const transit::GridView user = transit::UserCityView(place_.Session);
@@ -168,8 +194,7 @@ void TransitGridPage::CreateGrid(int month, int year) {
 
 void TransitGridPage::ShowGrid(transit::MonthGrid month) {
   const QModelIndex was = grid_->currentIndex();
-  const int row = std::max(was.row(), 0);
-  const int column = std::max(was.column(), 0);
+  const bool isThisMonth = !month.ThisMonth.Offered;
   title_->setText(Shown(month.Title));
   monthLabel_->setText(Shown(month.MonthLabel));
   previous_->setText(Shown(month.Previous.Caption));
@@ -183,8 +208,18 @@ void TransitGridPage::ShowGrid(transit::MonthGrid month) {
   thisMonthTag_ = month.ThisMonth.Tag;
   grid_->setAccessibleName(tr("Planetary Transit") + ' ' + monthLabel_->text());
   grid_->SetTable(std::move(month.Grid));
-  grid_->setCurrentIndex(
-      grid_->Model().index(std::min(row, grid_->Model().rowCount() - 1), column));
+  grid_->resizeColumnsToContents();
+  if (was.isValid()) {
+    SelectCell(std::min(was.row(), grid_->Model().rowCount() - 1), was.column());
+  } else {
+    SelectCell(isThisMonth ? core::PartsOf(place_.Session.Time.Now()).Day - 1 : 0, 1);
+  }
+}
+
+void TransitGridPage::SelectCell(int row, int column) {
+  const QModelIndex cell = grid_->Model().index(row, column);
+  grid_->setCurrentIndex(cell);
+  grid_->scrollTo(cell);
 }
 
 void TransitGridPage::GoToTag(const std::string& tag) {
@@ -199,10 +234,8 @@ void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
   core::Table marked = grid_->Table();
   if (const auto cell = transit::HighlightCell(marked, mark.DateText, mark.PlanetName)) {
     grid_->SetTable(std::move(marked));
-    const QModelIndex index =
-        grid_->Model().index(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
-    grid_->setCurrentIndex(index);
-    grid_->scrollTo(index);
+    grid_->resizeColumnsToContents();
+    SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();
   }
 }

@@ -34,8 +34,13 @@ class TransitGridPage final : public QWidget {
   // The month of a found transit with its cell marked and selected.
   void HighlightCell(const transit::GridMark& mark);
 
+  // Computes the month in sight anew, where the settings have changed.
+  void Refresh();
+
   // Asks for a transit; one that was found and wanted is shown in the grid.
   void FindTransit();
+
+  QSize sizeHint() const override;
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -49,6 +54,7 @@ class TransitGridPage final : public QWidget {
   void FollowUserCity();
   void Rebuild();
   void ShowGrid(transit::MonthGrid month);
+  void SelectCell(int row, int column);
   void GoToTag(const std::string& tag);
   void ChangeCity();
   void OpenDetails(const QModelIndex& cell);
