@@ -102,8 +102,8 @@ TEST_F(TransitWindowTest, TheGridShowsTodayRetrogradesAndTheWayToOtherMonths) {
   EXPECT_EQ(Find<QComboBox>(*page, "months").currentText(), "December");
   EXPECT_EQ(Caption(*page, "nextMonth"), "January 2027 &>");
   Find<QWidget>(*page, "grid").setFocus();
-  QTest::keyClick(page.get(), Qt::Key_Greater, Qt::AltModifier | Qt::ShiftModifier);
-  EXPECT_EQ(Text(*page, "monthLabel"), "January 2027");
+  QTest::keyClick(page.get(), Qt::Key_Greater, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Text(*page, "monthLabel") == "January 2027"; }));
   EXPECT_EQ(Caption(*page, "previousMonth"), "&< December 2026");
   EXPECT_EQ(Caption(*page, "thisMonth"), "Nov 2026");
   Press(*page, "thisMonth");
@@ -135,6 +135,7 @@ TEST_F(TransitWindowTest, ACityInAnotherZoneAndAnotherTimeStayForThePage) {
   // Ten in Dubai is half past eleven in Mumbai.
   auto& time = Find<QDateTimeEdit>(*page, "transitTime");
   EXPECT_EQ(time.text(), "10:00 AM");
+  page->activateWindow();
   time.setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&time, "1130");
   ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*page, "gridTitle").endsWith("at 11:30"); }));

@@ -168,7 +168,7 @@ void TransitGridPage::Refresh() {
 }
 
 QSize TransitGridPage::sizeHint() const {
-  constexpr int kMonthWidth = 99 * kGrid;  // a month without a bar
+  constexpr int kMonthWidth = 101 * kGrid;  // a month without a bar
   return {kMonthWidth, QWidget::sizeHint().height()};
 }
 
@@ -208,11 +208,19 @@ void TransitGridPage::ShowGrid(transit::MonthGrid month) {
   thisMonthTag_ = month.ThisMonth.Tag;
   grid_->setAccessibleName(tr("Planetary Transit") + ' ' + monthLabel_->text());
   grid_->SetTable(std::move(month.Grid));
-  grid_->resizeColumnsToContents();
+  FitColumns();
   if (was.isValid()) {
     SelectCell(std::min(was.row(), grid_->Model().rowCount() - 1), was.column());
   } else {
     SelectCell(isThisMonth ? core::PartsOf(place_.Session.Time.Now()).Day - 1 : 0, 1);
+  }
+}
+
+// Closer together than other tables, so that all planets stand side by side.
+void TransitGridPage::FitColumns() {
+  grid_->resizeColumnsToContents();
+  for (int column = 0; column < grid_->Model().columnCount(); ++column) {
+    grid_->setColumnWidth(column, grid_->columnWidth(column) + kGrid / 2);
   }
 }
 
@@ -234,7 +242,7 @@ void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
   core::Table marked = grid_->Table();
   if (const auto cell = transit::HighlightCell(marked, mark.DateText, mark.PlanetName)) {
     grid_->SetTable(std::move(marked));
-    grid_->resizeColumnsToContents();
+    FitColumns();
     SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();
   }

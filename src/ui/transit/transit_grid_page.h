@@ -54,6 +54,7 @@ class TransitGridPage final : public QWidget {
   void FollowUserCity();
   void Rebuild();
   void ShowGrid(transit::MonthGrid month);
+  void FitColumns();
   void SelectCell(int row, int column);
   void GoToTag(const std::string& tag);
   void ChangeCity();
