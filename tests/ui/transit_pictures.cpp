@@ -66,9 +66,9 @@ void WriteDetails(Workplace& place, const std::filesystem::path& folder) {
 void WriteFind(Workplace& place, const std::filesystem::path& folder) {
   FindTransitDialog find(place);
   WritePicture(find, folder / "find-transit.png");
-  find.findChild<QComboBox*>("planet")->setCurrentText("Saturn");
+  find.findChild<QComboBox*>("planet")->setCurrentText("Jupiter");
   find.findChild<QLineEdit*>("Degree")->setText("75.5");
-  Measure("found and shown", find, [&find] { find.findChild<QPushButton*>("find")->click(); });
+  Measure("ten years searched and shown", find, [&find] { find.findChild<QPushButton*>("find")->click(); });
   std::cout << find.findChild<QLabel*>("result")->text().toStdString() << "\n";
   WritePicture(find, folder / "find-transit-found.png");
 }

@@ -136,9 +136,11 @@ TEST_F(TransitWindowTest, ACityInAnotherZoneAndAnotherTimeStayForThePage) {
   auto& time = Find<QDateTimeEdit>(*page, "transitTime");
   EXPECT_EQ(time.text(), "10:00 AM");
   page->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
   time.setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&time, "1130");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*page, "gridTitle").endsWith("at 11:30"); }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*page, "gridTitle").endsWith("at 11:30"); }))
+      << Typed(time.text());
   EXPECT_EQ(CellText(*page, "grid", 0, kMoonColumn), inDubai);
 
   session_->State.UserCityName = "Elsewhere";

@@ -54,6 +54,9 @@ HelpBox::HelpBox(QWidget* parent) : QDialog(parent) {
           "<tr><td>Ctrl+F</td><td>Filter clients</td></tr>"
           "<tr><td>Ctrl+I</td><td>Instant chart</td></tr>"
           "<tr><td>Ctrl+G</td><td>Add group</td></tr>"
+          "<tr><td>Ctrl+T</td><td>Transits of the month; Enter shows a planet's hours</td></tr>"
+          "<tr><td>Ctrl+Shift+F</td><td>Find transit</td></tr>"
+          "<tr><td>Ctrl+H</td><td>Horas of a date</td></tr>"
           "<tr><td>F5</td><td>Sky of now</td></tr>"
           "<tr><td>Ctrl+C</td><td>Copy a table</td></tr>"
           "<tr><td>Ctrl+,</td><td>Settings</td></tr></table>"));

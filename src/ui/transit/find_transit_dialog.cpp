@@ -141,6 +141,9 @@ QHBoxLayout* FindTransitDialog::BuildActions() {
   sync_->setEnabled(false);
   progress_->setRange(0, 0);
   progress_->setMaximumWidth(16 * kGrid);
+  QSizePolicy keepsPlace = progress_->sizePolicy();
+  keepsPlace.setRetainSizeWhenHidden(true);
+  progress_->setSizePolicy(keepsPlace);
   progress_->hide();
   auto* row = new QHBoxLayout;
   row->addWidget(find_);
