@@ -117,7 +117,6 @@ void MainWindow::LayOut() {
   pages_->tabBar()->setDrawBase(false);
   AddPage(BuildClientsPage(), tr("Clients"));
   halves_->setObjectName("mainHalves");
-  halves_->setChildrenCollapsible(false);
   halves_->addWidget(pages_);
   halves_->addWidget(sky_);
   halves_->setStretchFactor(0, 1);
@@ -130,20 +129,19 @@ void MainWindow::LayOut() {
   if (!place_.Layout.RestoreWindow(*this)) {
     resize(1366, 720);
   }
-  if (!place_.Layout.RestoreSplitter(*halves_)) {
-    halves_->setSizes({84 * kGrid, 82 * kGrid});
-  }
+  halves_->setSizes({84 * kGrid, 82 * kGrid});
+  place_.Layout.Remember(*halves_);
 }
 
 QWidget* MainWindow::BuildClientsPage() {
   firstRun_ = new FirstRun(place_, *commands_->AddClient);
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName("clientsAndBirthdays");
-  rows->setChildrenCollapsible(false);
   rows->addWidget(lists_);
   rows->addWidget(BuildBirthdays());
   rows->setStretchFactor(0, 5);
   rows->setStretchFactor(1, 1);
+  place_.Layout.Remember(*rows);
   clientsPage_->addWidget(rows);
   clientsPage_->addWidget(firstRun_);
   return clientsPage_;
@@ -187,6 +185,7 @@ void MainWindow::Connect() {
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->setCurrentWidget(clientsPage_); });
   for (TableView* list : findChildren<TableView*>()) {
+    list->RememberWidths(place_.Layout);
     list->SetExport([this, list](const core::Table& table) {
       ExportTable(place_, *this, table, Typed(list->accessibleName()));
     });
@@ -264,7 +263,6 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   place_.Layout.KeepWindow(*this);
-  place_.Layout.KeepSplitter(*halves_);
   event->accept();
   QApplication::quit();
 }
