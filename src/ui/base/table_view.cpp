@@ -70,7 +70,9 @@ void TableView::SizeToContent() {
   resizeColumnsToContents();
   for (int column = 0; column < model_->columnCount(); ++column) {
     if (!isColumnHidden(column) && column != stretchColumn_) {
-      setColumnWidth(column, std::min(columnWidth(column) + kGrid, kWidestColumn));
+      const int own = Table().Columns[static_cast<std::size_t>(column)].Width;
+      const int width = std::min(columnWidth(column) + kGrid, kWidestColumn);
+      setColumnWidth(column, model_->rowCount() > 0 ? width : std::max(width, own));
     }
   }
   if (stretchColumn_ >= 0 && stretchColumn_ < model_->columnCount()) {

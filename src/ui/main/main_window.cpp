@@ -25,6 +25,7 @@
 #include "ui/main/client_commands.h"
 #include "ui/main/client_lists.h"
 #include "ui/main/first_run.h"
+#include "ui/main/search_page.h"
 #include "ui/main/sky_panel.h"
 
 namespace orvex::ui {
@@ -54,6 +55,7 @@ MainWindow::MainWindow(Workplace& place)
       lists_(new ClientLists(place)),
       sky_(new SkyPanel(place)),
       commands_(new ClientCommands(place, *lists_, *this)),
+      search_(new SearchPage(place)),
       halves_(new QSplitter(Qt::Horizontal)),
       birthdayCaption_(Panel("birthdayCaption")),
       birthdays_(new TableView),
@@ -74,6 +76,7 @@ void MainWindow::MakeActions() {
   cities_ = Command(*this, "cities", tr("&Cities…"), {});
   refresh_ = Command(*this, "refreshSky", tr("&Refresh Sky"), tr("F5"));
   filter_ = Command(*this, "filterClients", tr("&Filter Clients"), QKeySequence::Find);
+  find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+Shift+F"));
   quit_ = Command(*this, "quit", tr("E&xit"), QKeySequence::Quit);
   MakeMenus();
   MakeToolBar();
@@ -84,7 +87,7 @@ void MainWindow::MakeMenus() {
   clients->addActions({commands_->AddClient, commands_->View, commands_->EditClient,
                        commands_->DeleteClient, commands_->MoveClient});
   clients->addSeparator();
-  clients->addActions({commands_->InstantChart, filter_});
+  clients->addActions({commands_->InstantChart, filter_, find_});
   clients->addSeparator();
   clients->addAction(quit_);
   QMenu* groups = menuBar()->addMenu(tr("&Groups"));
@@ -117,6 +120,7 @@ void MainWindow::LayOut() {
   pages_->setDocumentMode(true);
   pages_->tabBar()->setDrawBase(false);
   AddPage(BuildClientsPage(), tr("Clients"));
+  AddPage(search_, tr("Search"));
   halves_->setObjectName("mainHalves");
   halves_->setChildrenCollapsible(false);
   halves_->addWidget(pages_);
@@ -175,7 +179,17 @@ void MainWindow::Connect() {
   connect(settings_, &QAction::triggered, this, [this] { OpenSettings(); });
   connect(cities_, &QAction::triggered, this, [this] { OpenCities(); });
   connect(refresh_, &QAction::triggered, sky_, &SkyPanel::Refresh);
-  connect(filter_, &QAction::triggered, lists_, &ClientLists::FocusFilter);
+  connect(filter_, &QAction::triggered, this, [this] {
+    pages_->setCurrentWidget(clientsPage_);
+    lists_->FocusFilter();
+  });
+  connect(find_, &QAction::triggered, this, [this] {
+    pages_->setCurrentWidget(search_);
+    search_->FocusText();
+  });
+  connect(lists_, &ClientLists::GroupsLoaded, search_, &SearchPage::LoadGroups);
+  connect(search_, &SearchPage::ExportRequested, this,
+          [this](const core::Table& found) { Export(found, tr("Search Results")); });
   connect(quit_, &QAction::triggered, this, &QWidget::close);
   connect(sky_, &SkyPanel::Refreshed, this, [this] { ShowSkyStatus(); });
   connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);
