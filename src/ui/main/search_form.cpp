@@ -169,6 +169,7 @@ void SearchForm::BuildFields(QGridLayout& grid) {
   dateCaption_->setBuddy(dateRange_);
   ageCaption_->setBuddy(ageRange_);
   ages_ = BuildAges();
+  grid.setSpacing(kGrid);
   grid.addWidget(textCaption_, 0, 0);
   grid.addWidget(text_, 0, 1, 1, 3);
   grid.addWidget(dateCaption_, 1, 0);
