@@ -207,7 +207,7 @@ QWidget* SearchForm::BuildAges() {
   }
   ageFrom_->setAccessibleName(tr("From age"));
   ageTo_->setAccessibleName(tr("To age"));
-  auto* note = new QLabel(tr("(narrows nothing: use the birth date)"));
+  auto* note = new QLabel(tr("(not part of the search)"));
   QPalette muted = note->palette();
   muted.setColor(QPalette::WindowText, Theme::Muted());
   note->setPalette(muted);
