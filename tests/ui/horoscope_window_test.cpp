@@ -23,9 +23,9 @@
 #include "chart/aspects.h"
 #include "chart/client_saving.h"
 #include "support/test_home.h"
+#include "ui/base/chart_view.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
-#include "ui/horoscope/horoscope_chart.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
 #include "vedic/vastu.h"
 
@@ -163,7 +163,7 @@ TEST_F(HoroscopeWindowTest, RotationShowsInTitleHeadAndTablesUntilItIsReset) {
   MenuEntry("rotationMenu", "7").trigger();
   EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao (Rotated to 7)");
   EXPECT_EQ(Text("CuspTable", 0, 1), seventh);
-  EXPECT_EQ(Find<HoroscopeChart>("rashiChart").Picture().Fields[0].Sign, "1");
+  EXPECT_EQ(Find<ChartView>("rashiChart").Picture().Fields[0].Sign, "1");
   QTest::keyClick(window_, Qt::Key_0, Qt::ControlModifier);
   EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao");
   EXPECT_EQ(Text("CuspTable", 0, 1), first);
@@ -171,7 +171,7 @@ TEST_F(HoroscopeWindowTest, RotationShowsInTitleHeadAndTablesUntilItIsReset) {
 
 TEST_F(HoroscopeWindowTest, TheStyleButtonGoesRoundTheThreeStylesForThisWindowOnly) {
   Open();
-  auto& chart = Find<HoroscopeChart>("rashiChart");
+  auto& chart = Find<ChartView>("rashiChart");
   std::string styles;
   for (int press = 0; press < 4; ++press) {
     styles += chart.Picture().Style;
@@ -249,7 +249,7 @@ TEST_F(HoroscopeWindowTest, ATypedYearOfLifeRedrawsTheAnnualChartAndTheHead) {
   QTest::keyClicks(&year, "2");
   QTest::keyClick(&year, Qt::Key_Return);
   EXPECT_TRUE(Find<QLabel>("CurrentDBA").text().endsWith("Current BCP House: 2"));
-  const auto& chart = Find<HoroscopeChart>("annualChart").Picture();
+  const auto& chart = Find<ChartView>("annualChart").Picture();
   for (int house = 0; house < 12; ++house) {
     std::string codes;
     for (const std::string& code : chart.Fields.at(static_cast<std::size_t>(house)).Codes) {
@@ -269,7 +269,7 @@ TEST_F(HoroscopeWindowTest, ADoubleClickOnAPlanetOpensItsSheet) {
   QCoreApplication::sendPostedEvents(sheet, QEvent::DeferredDelete);
 
   // In the chart too, where the code carries marks.
-  auto& chart = Find<HoroscopeChart>("rashiChart");
+  auto& chart = Find<ChartView>("rashiChart");
   QPoint found;
   for (int x = 0; x < chart.width() && found.isNull(); x += 4) {
     for (int y = 0; y < chart.height() && found.isNull(); y += 4) {
@@ -374,7 +374,7 @@ TEST_F(HoroscopeWindowTest, TheDivisionsCloseOnEscape) {
   Open();
   bool seen = false;
   WhenOpen("divisionalCharts", [&seen](QDialog& dialog) {
-    seen = dialog.findChild<HoroscopeChart*>("dashamsha") != nullptr;
+    seen = dialog.findChild<ChartView*>("dashamsha") != nullptr;
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
   QTest::keyClick(window_, Qt::Key_D, Qt::ControlModifier);

@@ -20,7 +20,7 @@ constexpr int kLastYear = 120;
 AnnualPage::AnnualPage(HoroscopeDocument& document)
     : HoroscopePage(document),
       year_(new QSpinBox),
-      chart_(new HoroscopeChart("annualChart")),
+      chart_(new ChartView("annualChart")),
       houses_(new CatalogueTable(document, "LalKitabYear")) {
   year_->setObjectName("yearOfLife");
   year_->setRange(1, kLastYear);

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "practice/export_list.h"
+#include "ui/base/export_table.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -30,18 +30,6 @@ std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, cons
   const std::string word = Typed(text.section(' ', 0, 0).remove('*').remove('~'));
   const std::optional<std::size_t> named = chart::RowOfPlanet(model, word);
   return named || word.size() != 2 ? named : chart::RowOfCode(model, word);
-}
-
-void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
-                 const std::string& title) {
-  const auto file = place.Files.ChooseFileToWrite(&parent, "Export to spreadsheet", title + ".xlsx",
-                                                  "Spreadsheets (*.xlsx)");
-  if (!file) {
-    return;
-  }
-  if (const auto refused = practice::ExportList(table, *file, title)) {
-    place.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
-  }
 }
 
 QLabel* MakeHeading(const QString& text) {

@@ -17,8 +17,8 @@ constexpr int kRulingWidth = 26 * kGrid;  // both columns without a bar
 
 ChartPage::ChartPage(HoroscopeDocument& document)
     : HoroscopePage(document),
-      rashi_(new HoroscopeChart("rashiChart")),
-      chalit_(new HoroscopeChart("chalitChart")),
+      rashi_(new ChartView("rashiChart")),
+      chalit_(new ChartView("chalitChart")),
       planets_(new CatalogueTable(document, "PlanetTable")),
       cusps_(new CatalogueTable(document, "CuspTable")),
       ruling_(new CatalogueTable(document, "RulingPlanets")),
@@ -83,8 +83,8 @@ void ChartPage::Connect() {
   for (CatalogueTable* table : {planets_, cusps_, ruling_}) {
     connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
   }
-  for (HoroscopeChart* chart : {rashi_, chalit_}) {
-    connect(chart, &HoroscopeChart::CodeActivated, this, [this](const QString& code) {
+  for (ChartView* chart : {rashi_, chalit_}) {
+    connect(chart, &ChartView::CodeActivated, this, [this](const QString& code) {
       if (const auto row = PlanetOfText(Model(), code)) {
         emit PlanetActivated(*row);
       }

@@ -14,8 +14,7 @@
 
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
-#include "practice/export_list.h"
-#include "ui/base/message_boxes.h"
+#include "ui/base/export_table.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -202,11 +201,13 @@ void MainWindow::Connect() {
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->setCurrentWidget(clientsPage_); });
   for (TableView* list : findChildren<TableView*>()) {
-    list->SetExport(
-        [this, list](const core::Table& table) { Export(table, list->accessibleName()); });
+    list->SetExport([this, list](const core::Table& table) {
+      ExportTable(place_, *this, table, Typed(list->accessibleName()));
+    });
   }
-  lists_->ClientTable().SetExport(
-      [this](const core::Table& table) { Export(table, lists_->GroupName()); });
+  lists_->ClientTable().SetExport([this](const core::Table& table) {
+    ExportTable(place_, *this, table, Typed(lists_->GroupName()));
+  });
 }
 
 void MainWindow::Start() {
@@ -233,8 +234,9 @@ void MainWindow::ShowBirthdays() {
   const bool any = !birthdays.Rows.empty();
   birthdays_->SetTable(std::move(birthdays));
   birthdays_->SetExport(
-      any ? std::function<void(const core::Table&)>(
-                [this](const core::Table& table) { Export(table, birthdayCaption_->text()); })
+      any ? std::function<void(const core::Table&)>([this](const core::Table& table) {
+        ExportTable(place_, *this, table, Typed(birthdayCaption_->text()));
+      })
           : nullptr);
 }
 
@@ -258,19 +260,6 @@ void MainWindow::OpenSettings() {
 void MainWindow::OpenCities() {
   CitiesDialog dialog(place_, this);
   dialog.exec();
-}
-
-void MainWindow::Export(const core::Table& table, const QString& title) {
-  const auto file = place_.Files.ChooseFileToWrite(this, "Export to spreadsheet",
-                                                   Typed(title + ".xlsx"), "Spreadsheets (*.xlsx)");
-  if (!file) {
-    return;
-  }
-  if (const auto refused = practice::ExportList(table, *file, Typed(title))) {
-    place_.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
-    return;
-  }
-  place_.Files.OpenWithDesktop(*file);
 }
 
 template <typename Box>

@@ -20,6 +20,7 @@ namespace orvex::ui {
 namespace {
 
 constexpr int kMinute = 60000;  // milliseconds
+constexpr int kSmallestChart = 24 * kGrid;
 
 QLabel* PlainLabel(const char* name) {
   auto* label = new QLabel;
@@ -64,7 +65,7 @@ SkyPanel::SkyPanel(Workplace& place, QWidget* parent)
       day_(PlainLabel("skyDay")),
       city_(PlainLabel("skyCity")),
       moon_(PlainLabel("skyMoon")),
-      chart_(new ChartView),
+      chart_(new ChartView("skyChart", kSmallestChart)),
       ruling_(Table("skyRulingPlanets")),
       panchang_(Table("panchang")),
       planets_(Table("skyPlanets")) {
@@ -116,7 +117,6 @@ QWidget* SkyPanel::BuildHeader() {
 }
 
 QWidget* SkyPanel::BuildChart() {
-  chart_->setObjectName("skyChart");
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
