@@ -92,7 +92,6 @@ void WriteDialogs(Workplace& place, std::int32_t client, const std::filesystem::
   write(new MoveDialog(place, client, "Asha Rao", "General"), "move.png");
   write(RemedyDialog::ForNew(place, client), "remedy.png");
   write(new AboutBox, "about.png");
-  write(new HelpBox, "help.png");
   write(new UpdateBox, "update.png");
   WriteSettings(place, folder);
 }

@@ -15,6 +15,7 @@
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
 #include "ui/base/export_table.h"
+#include "ui/base/guide.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -95,7 +96,7 @@ void MainWindow::MakeMenus() {
   tools->addActions({refresh_, cities_, settings_});
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   help->addAction(tr("Orvex+ &Help"), QKeySequence::HelpContents, this,
-                  [this] { ShowBox<HelpBox>(); });
+                  [this] { OpenGuide(place_); });
   help->addAction(tr("Check for &Updates"), this, [this] { ShowBox<UpdateBox>(); });
   help->addAction(tr("&About Orvex+"), this, [this] { ShowBox<AboutBox>(); });
 }
@@ -187,8 +188,6 @@ void MainWindow::Connect() {
     search_->FocusText();
   });
   connect(lists_, &ClientLists::GroupsLoaded, search_, &SearchPage::LoadGroups);
-  connect(search_, &SearchPage::ExportRequested, this,
-          [this](const core::Table& found) { Export(found, tr("Search Results")); });
   connect(quit_, &QAction::triggered, this, &QWidget::close);
   connect(sky_, &SkyPanel::Refreshed, this, [this] { ShowSkyStatus(); });
   connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);

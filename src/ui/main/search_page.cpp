@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "practice/client_search.h"
+#include "ui/base/export_table.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -92,8 +93,12 @@ void SearchPage::Show(core::Table results, const QString& caption) {
   results_->SelectFirst();
   caption_->setText(caption);
   export_->setEnabled(any);
-  results_->SetExport(any ? [this](const core::Table& table) { emit ExportRequested(table); }
+  results_->SetExport(any ? [this](const core::Table& table) { Export(table); }
                           : std::function<void(const core::Table&)>());
+}
+
+void SearchPage::Export(const core::Table& table) {
+  ExportTable(place_, *this, table, Typed(results_->accessibleName()));
 }
 
 }  // namespace orvex::ui

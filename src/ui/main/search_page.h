@@ -25,15 +25,13 @@ class SearchPage final : public QWidget {
   // Gives the focus to the search text.
   void FocusText();
 
- signals:
-  void ExportRequested(const core::Table& results);
-
  private:
   void Build();
   void Connect();
   void Search();
   void Clear();
   void Show(core::Table results, const QString& caption);
+  void Export(const core::Table& table);
 
   Workplace& place_;
   SearchForm* form_;
