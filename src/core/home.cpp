@@ -22,6 +22,13 @@ std::string Environment(const char* name) {
   return value == nullptr ? "" : value;
 }
 
+// A folder under the "share" beside the installed program; where there is none, that of the build.
+fs::path InstalledOr(const char* folder, const char* built) {
+  const fs::path installed = ProgramFolder() / ".." / "share" / folder;
+  std::error_code error;
+  return fs::is_directory(installed, error) ? fs::canonical(installed) : fs::path(built);
+}
+
 }  // namespace
 
 bool MakePrivateFolders(const fs::path& folder) {
@@ -99,12 +106,9 @@ fs::path ProgramFolder() {
   return error ? fs::path() : program.parent_path();
 }
 
-fs::path ShippedDataFolder() {
-  const fs::path installed = ProgramFolder() / ".." / "share" / "orvex";
-  std::error_code error;
-  return fs::is_directory(installed, error) ? fs::canonical(installed)
-                                            : fs::path(ORVEX_DATA_FOLDER);
-}
+fs::path ShippedDataFolder() { return InstalledOr("orvex", ORVEX_DATA_FOLDER); }
+
+fs::path GuideFile() { return InstalledOr("doc/orvex/guide", ORVEX_GUIDE_FOLDER) / "index.html"; }
 
 std::string ReadTextFile(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);

@@ -52,6 +52,9 @@ class FileLock {
 // source tree that it was built from.
 std::filesystem::path ShippedDataFolder();
 
+// The first page of the user guide: beside the installed program, else in the build folder.
+std::filesystem::path GuideFile();
+
 // The folder of the running program.
 std::filesystem::path ProgramFolder();
 
