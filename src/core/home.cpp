@@ -11,6 +11,8 @@
 #include <thread>
 #include <utility>
 
+#include "core/staged_files.h"
+
 namespace orvex::core {
 
 namespace fs = std::filesystem;
@@ -118,25 +120,9 @@ std::string ReadTextFile(const fs::path& file) {
 }
 
 void WriteFileSafely(const fs::path& file, const std::string& content) {
-  // A name of its own for each writer: two that write at once must not share a file.
-  std::string beside = file.string() + ".XXXXXX";
-  const int descriptor = ::mkstemp(beside.data());
-  if (descriptor < 0) {
-    throw std::runtime_error("the file " + file.string() + " could not be written");
-  }
-  ::close(descriptor);
-  std::ofstream stream(beside, std::ios::binary | std::ios::trunc);
-  stream << content;
-  stream.close();
-  std::error_code error;
-  if (stream) {
-    fs::rename(beside, file, error);
-  }
-  if (!stream || error) {
-    std::error_code ignored;
-    fs::remove(beside, ignored);
-    throw std::runtime_error("the file " + file.string() + " could not be written");
-  }
+  StagedFiles files;
+  files.Add(file, content);
+  files.Commit();
 }
 
 }  // namespace orvex::core

@@ -44,8 +44,7 @@ void PaintSvg(const report::ChartPicture& picture, int side, QBuffer& bytes) {
 
 }  // namespace
 
-void WriteChartPicture(const report::ChartPicture& picture, PictureFormat format, int side,
-                       const std::filesystem::path& file) {
+std::string ChartPictureBytes(const report::ChartPicture& picture, PictureFormat format, int side) {
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
   if (format == PictureFormat::Svg) {
@@ -53,7 +52,12 @@ void WriteChartPicture(const report::ChartPicture& picture, PictureFormat format
   } else {
     PaintImage(picture, format, side, bytes);
   }
-  core::WriteFileSafely(file, bytes.data().toStdString());
+  return bytes.data().toStdString();
+}
+
+void WriteChartPicture(const report::ChartPicture& picture, PictureFormat format, int side,
+                       const std::filesystem::path& file) {
+  core::WriteFileSafely(file, ChartPictureBytes(picture, format, side));
 }
 
 }  // namespace orvex::ui
