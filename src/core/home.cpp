@@ -77,6 +77,11 @@ FileLock::~FileLock() {
   }
 }
 
+fs::path UserDataFolder() {
+  const std::string data = Environment("XDG_DATA_HOME");
+  return data.empty() ? fs::path(Environment("HOME")) / ".local" / "share" : fs::path(data);
+}
+
 fs::path HomeFolder(const std::string& option) {
   if (!option.empty()) {
     return option;
@@ -89,10 +94,7 @@ fs::path HomeFolder(const std::string& option) {
   if (fs::is_directory(program / "Data", error)) {
     return program;
   }
-  if (const std::string data = Environment("XDG_DATA_HOME"); !data.empty()) {
-    return fs::path(data) / "orvex";
-  }
-  return fs::path(Environment("HOME")) / ".local" / "share" / "orvex";
+  return UserDataFolder() / "orvex";
 }
 
 fs::path ProgramFolder() {
