@@ -57,9 +57,13 @@ class ChosenFiles final : public ui::FileDialogs {
                                                          const std::string& /*filter*/) override {
     return Chosen;
   }
-  bool OpenWithDesktop(const std::filesystem::path& /*file*/) override { return true; }
+  bool OpenWithDesktop(const std::filesystem::path& file) override {
+    Opened = file;
+    return true;
+  }
 
   std::filesystem::path Chosen;
+  std::filesystem::path Opened;
 };
 
 class DeskTest : public testing::Test {

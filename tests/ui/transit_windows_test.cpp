@@ -1,9 +1,11 @@
 #include <QAction>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
@@ -215,6 +217,25 @@ TEST_F(TransitWindowTest, TheSkyOfTheDetailsIsThatOfThePickedInstant) {
   QTest::keyClick(&picker, Qt::Key_Return);
   EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 09:15:00 AM");
   EXPECT_TRUE(details.isVisible());
+}
+
+TEST_F(TransitWindowTest, TheHoursGoOutAsASpreadsheet) {
+  TransitDetailsDialog details(place_, transit::Planet::Sun, test::Moment("2026-11-20"));
+  Show(details);
+  files_.Chosen = home_.Place.Folder / "hours.xlsx";
+  QTimer::singleShot(0, qApp, [] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (QAction* entry : menu->actions()) {
+      if (entry->text().startsWith("E&xport")) {
+        entry->trigger();
+      }
+    }
+    menu->close();
+  });
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5});
+  QApplication::sendEvent(&Find<QWidget>(details, "hours"), &asked);
+  EXPECT_TRUE(std::filesystem::exists(files_.Chosen));
 }
 
 TEST_F(TransitWindowTest, DetailsEndWithTheYears1500And2500) {

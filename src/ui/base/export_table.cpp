@@ -1,24 +1,24 @@
 #include "ui/base/export_table.h"
 
 #include "practice/export_list.h"
+#include "ui/base/file_dialogs.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 
 namespace orvex::ui {
 
-std::optional<std::filesystem::path> ExportTable(Workplace& place, QWidget& parent,
-                                                 const core::Table& table,
-                                                 const std::string& title) {
+void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
+                 const std::string& title) {
   const auto file = place.Files.ChooseFileToWrite(&parent, "Export to spreadsheet", title + ".xlsx",
                                                   "Spreadsheets (*.xlsx)");
   if (!file) {
-    return std::nullopt;
+    return;
   }
   if (const auto refused = practice::ExportList(table, *file, title)) {
     place.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
-    return std::nullopt;
+    return;
   }
-  return file;
+  place.Files.OpenWithDesktop(*file);
 }
 
 void OfferExport(Workplace& place, TableView& table) {

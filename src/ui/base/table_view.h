@@ -12,13 +12,16 @@ class QMenu;
 
 namespace orvex::ui {
 
+class LayoutMemory;
+
 class TableView : public QTableView {
   Q_OBJECT
 
  public:
   explicit TableView(QWidget* parent = nullptr);
 
-  // Shows a table and selects the rows that it marks as selected.
+  // Shows a table and selects the rows that it marks as selected. Columns are as wide as what they
+  // show; without rows as wide as the table says.
   void SetTable(core::Table table);
   const core::Table& Table() const { return model_->Table(); }
   TableModel& Model() { return *model_; }
@@ -51,6 +54,16 @@ class TableView : public QTableView {
   // The table takes the height of its rows and shows no bar of its own.
   void FitHeightToRows();
 
+  // The first column stays in sight when the others are moved sideways.
+  void FreezeFirstColumn();
+
+  // Columns keep the widths that the user gives them, from one start to the next, under the table's
+  // object name.
+  void RememberWidths(LayoutMemory& memory);
+
+  // Pixels beside the text of a column; kGrid where nothing is said.
+  void SetColumnRoom(int room) { columnRoom_ = room; }
+
   // A column takes the room that is left.
   void SetStretchColumn(int column);
 
@@ -72,6 +85,10 @@ class TableView : public QTableView {
  private:
   void SizeToContent();
   void HideColumns();
+  void KeepWidth(int column, int width);
+  int UsualWidth(int column) const;
+  std::optional<int> KeptWidth(int column) const;
+  QString CaptionOf(int column) const;
   void SelectMarked();
   void FillMenu(QMenu& menu);
 
@@ -79,6 +96,9 @@ class TableView : public QTableView {
   QString emptyText_;
   std::function<void(const core::Table&)> export_;
   std::vector<QAction*> actions_;
+  LayoutMemory* memory_ = nullptr;
+  bool sizing_ = false;  // widths that change now are not the user's doing
+  int columnRoom_;
   bool fitsHeight_ = false;
   int stretchColumn_ = -1;
 };

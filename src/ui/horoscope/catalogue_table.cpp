@@ -35,6 +35,7 @@ CatalogueTable::CatalogueTable(HoroscopeDocument& document, const char* name)
   view_->setObjectName(name);
   view_->setAccessibleName(entry_.Title);
   OfferExport(document_.Place(), *view_);
+  view_->RememberWidths(document.Place().Layout);
   connect(view_, &TableView::TagActivated, this, [this] { Activate(view_->currentIndex()); });
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

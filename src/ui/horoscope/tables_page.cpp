@@ -35,7 +35,7 @@ TablesPage::TablesPage(HoroscopeDocument& document, const PagePlan& plan)
     rows->addWidget(MakeRow(plan, row));
   }
   layout->addWidget(rows, 1);
-  Remember(document.Place().Layout, *rows);
+  document.Place().Layout.Remember(*rows);
 }
 
 QSplitter* TablesPage::MakeRow(const PagePlan& plan, std::size_t row) {
@@ -47,7 +47,7 @@ QSplitter* TablesPage::MakeRow(const PagePlan& plan, std::size_t row) {
     tables_.push_back(table);
     splitter->addWidget(table);
   }
-  Remember(Document().Place().Layout, *splitter);
+  Document().Place().Layout.Remember(*splitter);
   return splitter;
 }
 

@@ -48,10 +48,8 @@ ClientLists::ClientLists(Workplace& place, QWidget* parent)
       remedies_(Named("remedyList")) {
   auto* columns = new QSplitter(Qt::Horizontal);
   columns->setObjectName("groupsAndClients");
-  columns->setChildrenCollapsible(false);
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName("clientsAndRemedies");
-  rows->setChildrenCollapsible(false);
   rows->addWidget(BuildClients());
   rows->addWidget(BuildRemedies());
   rows->setStretchFactor(0, 3);
@@ -60,6 +58,8 @@ ClientLists::ClientLists(Workplace& place, QWidget* parent)
   columns->addWidget(rows);
   columns->setStretchFactor(1, 1);
   columns->setSizes({18 * kGrid, 64 * kGrid});
+  place_.Layout.Remember(*rows);
+  place_.Layout.Remember(*columns);
   Column(this)->addWidget(columns);
   Connect();
 }
@@ -111,6 +111,7 @@ void ClientLists::LoadGroups() {
   const std::int32_t chosen = group_;
   const QSignalBlocker quiet(groups_);
   groups_->SetTable(practice::LoadGroups(place_.Session));
+  emit GroupsLoaded();
   if (GroupCount() == 0) {
     ShowNoGroups();
     return;
@@ -140,11 +141,21 @@ void ClientLists::ShowGroup(std::int32_t groupId) {
     groups_->SelectTag(Typed(WholeText(groupId)));
     filter_->clear();
     clients_->SetTable(practice::LoadClientsOfGroup(place_.Session, groupId));
+    ShowOrder();
     clients_->SelectFirst();
   }
   filter_->setEnabled(!Clients().Rows.empty());
   emit CountChanged(Shown(practice::ClientCountText(Clients().Rows.size(), false)));
   ChooseClient(IdOfTag(clients_->SelectedTag()).value_or(0));
+}
+
+// A newly set order stands until the user clicks on a header.
+void ClientLists::ShowOrder() {
+  if (sortColumn_ != place_.Session.State.SortColumn) {
+    sortColumn_ = place_.Session.State.SortColumn;
+    clients_->sortByColumn(static_cast<int>(practice::SortedColumn(place_.Session)),
+                           Qt::AscendingOrder);
+  }
 }
 
 void ClientLists::ChooseClient(std::int32_t clientId) {

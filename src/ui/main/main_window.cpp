@@ -16,7 +16,7 @@
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
 #include "ui/base/export_table.h"
-#include "ui/base/message_boxes.h"
+#include "ui/base/guide.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -26,6 +26,7 @@
 #include "ui/main/client_commands.h"
 #include "ui/main/client_lists.h"
 #include "ui/main/first_run.h"
+#include "ui/main/search_page.h"
 #include "ui/main/sky_panel.h"
 #include "ui/main/transit_commands.h"
 #include "ui/transit/transit_grid_page.h"
@@ -58,6 +59,7 @@ MainWindow::MainWindow(Workplace& place)
       sky_(new SkyPanel(place)),
       commands_(new ClientCommands(place, *lists_, *this)),
       transits_(new TransitCommands(place, *pages_, *this)),
+      search_(new SearchPage(place)),
       halves_(new QSplitter(Qt::Horizontal)),
       birthdayCaption_(Panel("birthdayCaption")),
       birthdays_(new TableView),
@@ -78,6 +80,7 @@ void MainWindow::MakeActions() {
   cities_ = Command(*this, "cities", tr("&Cities…"), {});
   refresh_ = Command(*this, "refreshSky", tr("&Refresh Sky"), tr("F5"));
   filter_ = Command(*this, "filterClients", tr("&Filter Clients"), QKeySequence::Find);
+  find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+Shift+F"));
   quit_ = Command(*this, "quit", tr("E&xit"), QKeySequence::Quit);
   MakeMenus();
   MakeToolBar();
@@ -88,7 +91,7 @@ void MainWindow::MakeMenus() {
   clients->addActions({commands_->AddClient, commands_->View, commands_->EditClient,
                        commands_->DeleteClient, commands_->MoveClient});
   clients->addSeparator();
-  clients->addActions({commands_->InstantChart, filter_});
+  clients->addActions({commands_->InstantChart, filter_, find_});
   clients->addSeparator();
   clients->addAction(quit_);
   QMenu* groups = menuBar()->addMenu(tr("&Groups"));
@@ -98,7 +101,7 @@ void MainWindow::MakeMenus() {
   tools->addActions({refresh_, cities_, settings_});
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   help->addAction(tr("Orvex+ &Help"), QKeySequence::HelpContents, this,
-                  [this] { ShowBox<HelpBox>(); });
+                  [this] { OpenGuide(place_); });
   help->addAction(tr("Check for &Updates"), this, [this] { ShowBox<UpdateBox>(); });
   help->addAction(tr("&About Orvex+"), this, [this] { ShowBox<AboutBox>(); });
 }
@@ -122,9 +125,9 @@ void MainWindow::LayOut() {
   pages_->setDocumentMode(true);
   pages_->tabBar()->setDrawBase(false);
   AddPage(BuildClientsPage(), tr("Clients"));
+  AddPage(search_, tr("Search"));
   AddPage(&transits_->Page(), tr("Transit"));
   halves_->setObjectName("mainHalves");
-  halves_->setChildrenCollapsible(false);
   halves_->addWidget(pages_);
   halves_->addWidget(sky_);
   halves_->setStretchFactor(0, 1);
@@ -137,20 +140,19 @@ void MainWindow::LayOut() {
   if (!place_.Layout.RestoreWindow(*this)) {
     resize(1366, 720);
   }
-  if (!place_.Layout.RestoreSplitter(*halves_)) {
-    halves_->setSizes({84 * kGrid, 82 * kGrid});
-  }
+  halves_->setSizes({84 * kGrid, 82 * kGrid});
+  place_.Layout.Remember(*halves_);
 }
 
 QWidget* MainWindow::BuildClientsPage() {
   firstRun_ = new FirstRun(place_, *commands_->AddClient);
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName("clientsAndBirthdays");
-  rows->setChildrenCollapsible(false);
   rows->addWidget(lists_);
   rows->addWidget(BuildBirthdays());
   rows->setStretchFactor(0, 5);
   rows->setStretchFactor(1, 1);
+  place_.Layout.Remember(*rows);
   clientsPage_->addWidget(rows);
   clientsPage_->addWidget(firstRun_);
   return clientsPage_;
@@ -181,7 +183,15 @@ void MainWindow::Connect() {
   connect(settings_, &QAction::triggered, this, [this] { OpenSettings(); });
   connect(cities_, &QAction::triggered, this, [this] { OpenCities(); });
   connect(refresh_, &QAction::triggered, sky_, &SkyPanel::Refresh);
-  connect(filter_, &QAction::triggered, lists_, &ClientLists::FocusFilter);
+  connect(filter_, &QAction::triggered, this, [this] {
+    pages_->setCurrentWidget(clientsPage_);
+    lists_->FocusFilter();
+  });
+  connect(find_, &QAction::triggered, this, [this] {
+    pages_->setCurrentWidget(search_);
+    search_->FocusText();
+  });
+  connect(lists_, &ClientLists::GroupsLoaded, search_, &SearchPage::LoadGroups);
   connect(quit_, &QAction::triggered, this, &QWidget::close);
   connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::MakeRoom);
   connect(sky_, &SkyPanel::Refreshed, this, [this] { ShowSkyStatus(); });
@@ -195,20 +205,23 @@ void MainWindow::Connect() {
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->setCurrentWidget(clientsPage_); });
   for (TableView* list : findChildren<TableView*>()) {
-    list->SetExport(
-        [this, list](const core::Table& table) { Export(table, list->accessibleName()); });
+    list->RememberWidths(place_.Layout);
+    list->SetExport([this, list](const core::Table& table) {
+      ExportTable(place_, *this, table, Typed(list->accessibleName()));
+    });
   }
-  lists_->ClientTable().SetExport(
-      [this](const core::Table& table) { Export(table, lists_->GroupName()); });
+  lists_->ClientTable().SetExport([this](const core::Table& table) {
+    ExportTable(place_, *this, table, Typed(lists_->GroupName()));
+  });
 }
 
 // A page takes the room that it asks for; the clients get back what the user gave them.
 void MainWindow::MakeRoom() {
+  const QList<int> sizes = halves_->sizes();
   if (pages_->currentIndex() == 0) {
-    halves_->setSizes(std::exchange(givenSizes_, {}));
+    halves_->setSizes(givenSizes_.isEmpty() ? sizes : std::exchange(givenSizes_, {}));
     return;
   }
-  const QList<int> sizes = halves_->sizes();
   if (givenSizes_.isEmpty()) {
     givenSizes_ = sizes;
   }
@@ -242,8 +255,9 @@ void MainWindow::ShowBirthdays() {
   const bool any = !birthdays.Rows.empty();
   birthdays_->SetTable(std::move(birthdays));
   birthdays_->SetExport(
-      any ? std::function<void(const core::Table&)>(
-                [this](const core::Table& table) { Export(table, birthdayCaption_->text()); })
+      any ? std::function<void(const core::Table&)>([this](const core::Table& table) {
+        ExportTable(place_, *this, table, Typed(birthdayCaption_->text()));
+      })
           : nullptr);
 }
 
@@ -270,12 +284,6 @@ void MainWindow::OpenCities() {
   dialog.exec();
 }
 
-void MainWindow::Export(const core::Table& table, const QString& title) {
-  if (const auto file = ExportTable(place_, *this, table, Typed(title))) {
-    place_.Files.OpenWithDesktop(*file);
-  }
-}
-
 template <typename Box>
 void MainWindow::ShowBox() {
   Box box(this);
@@ -292,8 +300,6 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   place_.Layout.KeepWindow(*this);
-  pages_->setCurrentIndex(0);
-  place_.Layout.KeepSplitter(*halves_);
   event->accept();
   QApplication::quit();
 }

@@ -3,7 +3,6 @@
 
 #include <QMainWindow>
 
-#include "core/table.h"
 #include "ui/base/workplace.h"
 
 class QLabel;
@@ -16,6 +15,7 @@ namespace orvex::ui {
 class ClientCommands;
 class ClientLists;
 class FirstRun;
+class SearchPage;
 class SkyPanel;
 class TableView;
 class TransitCommands;
@@ -50,7 +50,6 @@ class MainWindow final : public QMainWindow {
   void ShowSkyStatus();
   void OpenSettings();
   void OpenCities();
-  void Export(const core::Table& table, const QString& title);
   template <typename Box>
   void ShowBox();
 
@@ -62,6 +61,7 @@ class MainWindow final : public QMainWindow {
   ClientCommands* commands_;
   TransitCommands* transits_;
   FirstRun* firstRun_ = nullptr;
+  SearchPage* search_;
   QSplitter* halves_;
   QList<int> givenSizes_;  // of the halves beside the page of the clients
   QLabel* birthdayCaption_;
@@ -76,6 +76,7 @@ class MainWindow final : public QMainWindow {
   QAction* cities_ = nullptr;
   QAction* refresh_ = nullptr;
   QAction* filter_ = nullptr;
+  QAction* find_ = nullptr;
   QAction* quit_ = nullptr;
 };
 

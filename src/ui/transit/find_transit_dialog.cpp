@@ -91,6 +91,7 @@ void FindTransitDialog::LayOut() {
   hours_->setSortingEnabled(false);
   hours_->verticalHeader()->setDefaultSectionSize(hours_->fontMetrics().height() + kGrid / 2);
   hours_->SetEmptyText(tr("The hours of the date that is found stand here."));
+  hours_->RememberWidths(Place().Layout);
   OfferExport(Place(), *hours_);
   auto* foot = new QHBoxLayout;
   foot->addWidget(status_);

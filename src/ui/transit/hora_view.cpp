@@ -32,6 +32,7 @@ TableView* HoraList(Workplace& place, const char* name, const QString& title) {
   table->setSortingEnabled(false);
   table->SetEmptyText(HoraView::tr("The Sun does not rise or set on this date."));
   table->SetStretchColumn(0);
+  table->RememberWidths(place.Layout);
   OfferExport(place, *table);
   return table;
 }

@@ -20,6 +20,8 @@ namespace orvex::ui {
 
 namespace {
 
+constexpr int kSmallestChart = 24 * kGrid;
+
 QLabel* PlainLabel(const char* name) {
   auto* label = new QLabel;
   label->setObjectName(name);
@@ -54,7 +56,7 @@ SkyBoard::SkyBoard(Workplace& place, Side side)
       day_(PlainLabel("skyDay")),
       city_(PlainLabel("skyCity")),
       moon_(PlainLabel("skyMoon")),
-      chart_(new ChartView),
+      chart_(new ChartView("skyChart", kSmallestChart)),
       panchang_(MakeTable("panchang", tr("Panchang"))),
       planets_(MakeTable("skyPlanets", tr("Sky View"))) {
   Build(side);
@@ -71,13 +73,14 @@ TableView* SkyBoard::MakeTable(const char* name, const QString& title) {
 
 void SkyBoard::Build(Side side) {
   header_ = BuildHeader();
+  planets_->FreezeFirstColumn();
   auto* halves = new QSplitter(Qt::Vertical);
-  halves->setObjectName("skyHalves");
-  halves->setChildrenCollapsible(false);
+  halves->setObjectName(side == Side::Horas ? "detailsSkyHalves" : "skyHalves");
   halves->addWidget(BuildUpper(side));
   halves->addWidget(planets_);
   halves->setStretchFactor(0, 3);
   halves->setStretchFactor(1, 2);
+  place_.Layout.Remember(*halves);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(header_);
@@ -100,7 +103,6 @@ QWidget* SkyBoard::BuildHeader() {
 }
 
 QWidget* SkyBoard::BuildUpper(Side side) {
-  chart_->setObjectName("skyChart");
   auto* row = new QHBoxLayout;
   row->addWidget(chart_, 1);
   if (side == Side::RulingPlanets) {

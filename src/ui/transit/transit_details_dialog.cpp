@@ -31,6 +31,7 @@ TableView* TimeTable(Workplace& place, const char* name) {
   table->setSortingEnabled(false);
   table->setSelectionMode(QAbstractItemView::SingleSelection);
   table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kGrid / 2);
+  table->RememberWidths(place.Layout);
   OfferExport(place, *table);
   return table;
 }
@@ -74,7 +75,7 @@ void TransitDetailsDialog::LayOut() {
   halves->setStretchFactor(0, 1);
   halves->setStretchFactor(1, 1);
   halves->setSizes({68 * kGrid, 94 * kGrid});
-  Remember(place_.Layout, *halves);
+  place_.Layout.Remember(*halves);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(halves);
 }

@@ -100,6 +100,9 @@ void TransitGridPage::LayOut() {
   grid_->setSelectionMode(QAbstractItemView::SingleSelection);
   grid_->verticalHeader()->setDefaultSectionSize(grid_->fontMetrics().height() + kGrid / 2);
   grid_->SetEmptyText(tr("The positions of the month are being computed…"));
+  // So close together that all planets stand side by side.
+  grid_->SetColumnRoom(kGrid / 2);
+  grid_->FreezeFirstColumn();
   grid_->setItemDelegate(new PositionDelegate(grid_));
   OfferExport(place_, *grid_);
   auto* layout = new QVBoxLayout(this);
@@ -208,19 +211,10 @@ void TransitGridPage::ShowGrid(transit::MonthGrid month) {
   thisMonthTag_ = month.ThisMonth.Tag;
   grid_->setAccessibleName(tr("Planetary Transit") + ' ' + monthLabel_->text());
   grid_->SetTable(std::move(month.Grid));
-  FitColumns();
   if (was.isValid()) {
     SelectCell(std::min(was.row(), grid_->Model().rowCount() - 1), was.column());
   } else {
     SelectCell(isThisMonth ? core::PartsOf(place_.Session.Time.Now()).Day - 1 : 0, 1);
-  }
-}
-
-// Closer together than other tables, so that all planets stand side by side.
-void TransitGridPage::FitColumns() {
-  grid_->resizeColumnsToContents();
-  for (int column = 0; column < grid_->Model().columnCount(); ++column) {
-    grid_->setColumnWidth(column, grid_->columnWidth(column) + kGrid / 2);
   }
 }
 
@@ -242,7 +236,6 @@ void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
   core::Table marked = grid_->Table();
   if (const auto cell = transit::HighlightCell(marked, mark.DateText, mark.PlanetName)) {
     grid_->SetTable(std::move(marked));
-    FitColumns();
     SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();
   }

@@ -54,7 +54,6 @@ class TransitGridPage final : public QWidget {
   void FollowUserCity();
   void Rebuild();
   void ShowGrid(transit::MonthGrid month);
-  void FitColumns();
   void SelectCell(int row, int column);
   void GoToTag(const std::string& tag);
   void ChangeCity();
