@@ -77,7 +77,7 @@ void MainWindow::MakeActions() {
   refresh_ = Command(*this, "refreshSky", tr("&Refresh Sky"), tr("F5"));
   filter_ = Command(*this, "filterClients", tr("&Filter Clients"), QKeySequence::Find);
   find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+Shift+F"));
-  quit_ = Command(*this, "quit", tr("E&xit"), QKeySequence::Quit);
+  quit_ = Command(*this, "quit", tr("E&xit"), tr("Ctrl+Q"));
   MakeMenus();
   MakeToolBar();
 }
