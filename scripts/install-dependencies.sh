@@ -13,6 +13,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev python3
 )
 development=(clang-format-14 clang-tidy-14 clang-tools-14 locales xvfb xdotool file imagemagick)
+development=(clang-format-14 clang-tidy-14 clang-tools-14 locales xvfb xdotool file tidy)
 if [ "${1:-}" = "--dev" ]; then packages+=("${development[@]}"); fi
 
 missing=()

@@ -11,6 +11,8 @@
 #include <thread>
 #include <utility>
 
+#include "core/staged_files.h"
+
 namespace orvex::core {
 
 namespace fs = std::filesystem;
@@ -82,6 +84,11 @@ FileLock::~FileLock() {
   }
 }
 
+fs::path UserDataFolder() {
+  const std::string data = Environment("XDG_DATA_HOME");
+  return data.empty() ? fs::path(Environment("HOME")) / ".local" / "share" : fs::path(data);
+}
+
 fs::path HomeFolder(const std::string& option) {
   if (!option.empty()) {
     return option;
@@ -94,10 +101,7 @@ fs::path HomeFolder(const std::string& option) {
   if (fs::is_directory(program / "Data", error)) {
     return program;
   }
-  if (const std::string data = Environment("XDG_DATA_HOME"); !data.empty()) {
-    return fs::path(data) / "orvex";
-  }
-  return fs::path(Environment("HOME")) / ".local" / "share" / "orvex";
+  return UserDataFolder() / "orvex";
 }
 
 fs::path ProgramFolder() {
@@ -122,25 +126,9 @@ std::string ReadTextFile(const fs::path& file) {
 }
 
 void WriteFileSafely(const fs::path& file, const std::string& content) {
-  // A name of its own for each writer: two that write at once must not share a file.
-  std::string beside = file.string() + ".XXXXXX";
-  const int descriptor = ::mkstemp(beside.data());
-  if (descriptor < 0) {
-    throw std::runtime_error("the file " + file.string() + " could not be written");
-  }
-  ::close(descriptor);
-  std::ofstream stream(beside, std::ios::binary | std::ios::trunc);
-  stream << content;
-  stream.close();
-  std::error_code error;
-  if (stream) {
-    fs::rename(beside, file, error);
-  }
-  if (!stream || error) {
-    std::error_code ignored;
-    fs::remove(beside, ignored);
-    throw std::runtime_error("the file " + file.string() + " could not be written");
-  }
+  StagedFiles files;
+  files.Add(file, content);
+  files.Commit();
 }
 
 }  // namespace orvex::core

@@ -81,6 +81,10 @@ def main():
         own = (home / "HoroscopeTemplate.htm").read_text(encoding="utf8")
         expect(saved, "the installed one" in own, "the template of the new home")
 
+        bare = {**os.environ, "XDG_DATA_HOME": str(scratch / "data")}
+        demo = run(program, "--demo", "client", "list", env=bare)
+        expect(demo, demo.returncode == 0 and "Albert Einstein" in demo.stdout, "--demo")
+
         # Without a display the workbench says so and ends.
         bare = {k: v for k, v in os.environ.items()
                 if k not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}

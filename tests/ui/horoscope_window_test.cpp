@@ -5,12 +5,16 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTableWidget>
@@ -368,6 +372,78 @@ TEST_F(HoroscopeWindowTest, ExportWritesTheReportOfWhatIsShownAndOpensIt) {
   EXPECT_NE(test::ReadFile(files_.Opened[0]).find("Asha Rao (Rotated to 7)"), std::string::npos);
   EXPECT_EQ(Find<QListWidget>("pages").currentRow(), 0);
   EXPECT_TRUE(Find<QLabel>("statusText").text().startsWith("Asc = "));
+}
+
+TEST_F(HoroscopeWindowTest, APdfLiesBesideTheReportAndIsOpenedInItsPlace) {
+  std::filesystem::copy_file(std::filesystem::path(ORVEX_DATA_FOLDER) / "HoroscopeTemplate.htm",
+                             home_.Place.ReportTemplate());
+  Open();
+  MenuEntry("exportMenu", "PDF: Dasha and Bhukti").trigger();
+  ASSERT_EQ(files_.Opened.size(), 1U);
+  EXPECT_EQ(files_.Opened[0].extension(), ".pdf");
+  EXPECT_EQ(test::ReadFile(files_.Opened[0]).substr(0, 5), "%PDF-");
+  EXPECT_TRUE(std::filesystem::exists(files_.Opened[0].replace_extension(".htm")));
+}
+
+TEST_F(HoroscopeWindowTest, ATableGoesToASpreadsheetThatItsOwnerAloneReads) {
+  Open();
+  files_.Chosen = home_.Place.Folder / "planets.xlsx";
+  TableView& planets = Find<TableView>("PlanetTable");
+  QTimer::singleShot(0, [this] {
+    auto* open = Find<TableView>("PlanetTable").findChild<QMenu*>("tableMenu");
+    QAction* exporting = open->actions().constLast();
+    QTest::mouseClick(open, Qt::LeftButton, {}, open->actionGeometry(exporting).center());
+  });
+  QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(4, 4), QPoint(4, 4));
+  QApplication::sendEvent(&planets, &menu);
+  EXPECT_EQ(files_.Opened, std::vector{files_.Chosen});
+  EXPECT_EQ(test::ReadFile(files_.Chosen).substr(0, 2), "PK");
+  EXPECT_EQ(std::filesystem::status(files_.Chosen).permissions(),
+            std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+}
+
+TEST_F(HoroscopeWindowTest, TheRulingPlanetsAreThoseOfBirthUntilThoseOfNowAreAskedFor) {
+  Open();
+  const auto dayLord = [this] {
+    return Text("RulingPlanets", 6, 0) + " " + Text("RulingPlanets", 6, 1);
+  };
+  EXPECT_EQ(dayLord(), "Day Lord Jupiter") << "born on a Thursday";
+  QTest::mouseClick(&Find<QRadioButton>("rulingOfNow"), Qt::LeftButton);
+  EXPECT_EQ(dayLord(), "Day Lord Mars") << "today is a Tuesday";
+  QTest::mouseClick(&Find<QRadioButton>("rulingOfBirth"), Qt::LeftButton);
+  EXPECT_EQ(dayLord(), "Day Lord Jupiter");
+}
+
+TEST_F(HoroscopeWindowTest, ThePlanetsStayInSightBesideTheColumnsMovedSideways) {
+  Open();
+  TableView& planets = Find<TableView>("PlanetTable");
+  auto& names = *planets.findChild<QTableView*>("frozenColumn");
+  planets.horizontalScrollBar()->setValue(planets.horizontalScrollBar()->maximum());
+  EXPECT_FALSE(
+      planets.visualRect(planets.model()->index(2, 0)).intersects(planets.viewport()->rect()));
+  const QPoint sun = names.visualRect(names.model()->index(2, 0)).center();
+  QTest::mouseClick(names.viewport(), Qt::LeftButton, {}, sun);
+  QTest::mouseDClick(names.viewport(), Qt::LeftButton, {}, sun);
+  ASSERT_NE(window_->findChild<PlanetSheetDialog*>(), nullptr);
+  EXPECT_EQ(window_->findChild<PlanetSheetDialog*>()->windowTitle(), "Sun (Gemini)");
+  const auto first = [&] { return names.model()->index(0, 0).data().toString(); };
+  std::vector<QString> firsts;
+  for (int click = 0; click < 3; ++click) {
+    QTest::mouseClick(names.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(8, 8));
+    firsts.push_back(first());
+  }
+  EXPECT_EQ(firsts, (std::vector<QString>{"Jupiter", "Venus", "Ketu"}));
+}
+
+TEST_F(HoroscopeWindowTest, AColumnKeepsTheWidthThatItWasGiven) {
+  Open();
+  Find<TableView>("CuspTable").horizontalHeader()->resizeSection(2, 177);
+  window_->resize(window_->width() + 100, window_->height());
+  window_->close();
+  QCoreApplication::sendPostedEvents(window_, QEvent::DeferredDelete);
+  Open();
+  EXPECT_EQ(Find<TableView>("CuspTable").columnWidth(2), 177);
+  EXPECT_NE(Find<TableView>("CuspTable").columnWidth(3), 177);
 }
 
 TEST_F(HoroscopeWindowTest, TheDivisionsCloseOnEscape) {

@@ -34,7 +34,7 @@ AnnualPage::AnnualPage(HoroscopeDocument& document)
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(LayOutHead());
   layout->addWidget(halves, 1);
-  Remember(document.Place().Layout, *halves);
+  document.Place().Layout.Remember(*halves);
   connect(year_, &QSpinBox::valueChanged, this, [this](int year) { Document().ShowYear(year); });
 }
 

@@ -48,6 +48,7 @@ CatalogueTable::CatalogueTable(HoroscopeDocument& document, const char* name)
   view_->SetExport([this](const core::Table& table) {
     ExportTable(document_.Place(), *this, table, entry_.Title);
   });
+  view_->RememberWidths(document.Place().Layout);
   connect(view_, &QTableView::activated, this, &CatalogueTable::Activate);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

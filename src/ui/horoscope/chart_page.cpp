@@ -27,6 +27,7 @@ ChartPage::ChartPage(HoroscopeDocument& document)
   ofBirth_->setObjectName("rulingOfBirth");
   ofNow_->setObjectName("rulingOfNow");
   ofBirth_->setChecked(true);
+  planets_->View().FreezeFirstColumn();
   auto* halves = new QSplitter(Qt::Horizontal);
   halves->setObjectName("chartHalves");
   halves->addWidget(LayOutCharts());
@@ -35,7 +36,7 @@ ChartPage::ChartPage(HoroscopeDocument& document)
   halves->setStretchFactor(1, 5);
   auto* layout = new QHBoxLayout(this);
   layout->addWidget(halves);
-  Remember(document.Place().Layout, *halves);
+  document.Place().Layout.Remember(*halves);
   Connect();
 }
 
@@ -44,7 +45,7 @@ QSplitter* ChartPage::LayOutCharts() {
   charts->setObjectName("charts");
   charts->addWidget(rashi_);
   charts->addWidget(chalit_);
-  Remember(Document().Place().Layout, *charts);
+  Document().Place().Layout.Remember(*charts);
   return charts;
 }
 
@@ -55,12 +56,12 @@ QSplitter* ChartPage::LayOutTables() {
   upper->addWidget(LayOutRulingPlanets());
   upper->setStretchFactor(0, 1);
   upper->setStretchFactor(1, 0);
-  Remember(Document().Place().Layout, *upper);
+  Document().Place().Layout.Remember(*upper);
   auto* tables = new QSplitter(Qt::Vertical);
   tables->setObjectName("chartTables");
   tables->addWidget(upper);
   tables->addWidget(cusps_);
-  Remember(Document().Place().Layout, *tables);
+  Document().Place().Layout.Remember(*tables);
   return tables;
 }
 

@@ -122,7 +122,6 @@ void MainWindow::LayOut() {
   AddPage(BuildClientsPage(), tr("Clients"));
   AddPage(search_, tr("Search"));
   halves_->setObjectName("mainHalves");
-  halves_->setChildrenCollapsible(false);
   halves_->addWidget(pages_);
   halves_->addWidget(sky_);
   halves_->setStretchFactor(0, 1);
@@ -135,20 +134,19 @@ void MainWindow::LayOut() {
   if (!place_.Layout.RestoreWindow(*this)) {
     resize(1366, 720);
   }
-  if (!place_.Layout.RestoreSplitter(*halves_)) {
-    halves_->setSizes({84 * kGrid, 82 * kGrid});
-  }
+  halves_->setSizes({84 * kGrid, 82 * kGrid});
+  place_.Layout.Remember(*halves_);
 }
 
 QWidget* MainWindow::BuildClientsPage() {
   firstRun_ = new FirstRun(place_, *commands_->AddClient);
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName("clientsAndBirthdays");
-  rows->setChildrenCollapsible(false);
   rows->addWidget(lists_);
   rows->addWidget(BuildBirthdays());
   rows->setStretchFactor(0, 5);
   rows->setStretchFactor(1, 1);
+  place_.Layout.Remember(*rows);
   clientsPage_->addWidget(rows);
   clientsPage_->addWidget(firstRun_);
   return clientsPage_;
@@ -200,6 +198,7 @@ void MainWindow::Connect() {
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->setCurrentWidget(clientsPage_); });
   for (TableView* list : findChildren<TableView*>()) {
+    list->RememberWidths(place_.Layout);
     list->SetExport([this, list](const core::Table& table) {
       ExportTable(place_, *this, table, Typed(list->accessibleName()));
     });
@@ -277,7 +276,6 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   place_.Layout.KeepWindow(*this);
-  place_.Layout.KeepSplitter(*halves_);
   event->accept();
   QApplication::quit();
 }

@@ -79,6 +79,7 @@ void SkyPanel::Build() {
   panchang_->setAccessibleName(tr("Panchang"));
   ruling_->setAccessibleName(tr("Ruling Planets"));
   planets_->setAccessibleName(tr("Sky View"));
+  planets_->FreezeFirstColumn();
   panchang_->horizontalHeader()->hide();
   panchang_->setSortingEnabled(false);
   panchang_->SetStretchColumn(3);
@@ -90,11 +91,11 @@ void SkyPanel::Build() {
   column->addWidget(panchang_);
   auto* halves = new QSplitter(Qt::Vertical);
   halves->setObjectName("skyHalves");
-  halves->setChildrenCollapsible(false);
   halves->addWidget(upper);
   halves->addWidget(planets_);
   halves->setStretchFactor(0, 3);
   halves->setStretchFactor(1, 2);
+  place_.Layout.Remember(*halves);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(header_);

@@ -15,6 +15,9 @@ namespace {
 // Room around the chart, a part of the side.
 constexpr double kMargin = 0.02;
 
+// Dots an inch at which a unit of an SVG is a pixel in a browser.
+constexpr int kScreenDots = 96;
+
 QRectF Area(int side) {
   const double margin = side * kMargin;
   return {margin, margin, side - 2 * margin, side - 2 * margin};
@@ -35,6 +38,7 @@ void PaintImage(const report::ChartPicture& picture, PictureFormat format, int s
 void PaintSvg(const report::ChartPicture& picture, int side, QBuffer& bytes) {
   QSvgGenerator svg;
   svg.setOutputDevice(&bytes);
+  svg.setResolution(kScreenDots);
   svg.setSize({side, side});
   svg.setViewBox(QRect(0, 0, side, side));
   svg.setTitle(QString::fromStdString(picture.Title));
@@ -44,8 +48,7 @@ void PaintSvg(const report::ChartPicture& picture, int side, QBuffer& bytes) {
 
 }  // namespace
 
-void WriteChartPicture(const report::ChartPicture& picture, PictureFormat format, int side,
-                       const std::filesystem::path& file) {
+std::string ChartPictureBytes(const report::ChartPicture& picture, PictureFormat format, int side) {
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
   if (format == PictureFormat::Svg) {
@@ -53,7 +56,12 @@ void WriteChartPicture(const report::ChartPicture& picture, PictureFormat format
   } else {
     PaintImage(picture, format, side, bytes);
   }
-  core::WriteFileSafely(file, bytes.data().toStdString());
+  return bytes.data().toStdString();
+}
+
+void WriteChartPicture(const report::ChartPicture& picture, PictureFormat format, int side,
+                       const std::filesystem::path& file) {
+  core::WriteFileSafely(file, ChartPictureBytes(picture, format, side));
 }
 
 }  // namespace orvex::ui
