@@ -76,7 +76,7 @@ void MainWindow::MakeActions() {
   cities_ = Command(*this, "cities", tr("&Cities…"), {});
   refresh_ = Command(*this, "refreshSky", tr("&Refresh Sky"), tr("F5"));
   filter_ = Command(*this, "filterClients", tr("&Filter Clients"), QKeySequence::Find);
-  find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+Shift+F"));
+  find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+K"));
   quit_ = Command(*this, "quit", tr("E&xit"), tr("Ctrl+Q"));
   MakeMenus();
   MakeToolBar();
