@@ -1,0 +1,116 @@
+#include "ui/painting/dasha_timeline.h"
+
+namespace orvex::ui {
+
+namespace {
+
+constexpr double kHair = 0.8;
+constexpr double kDayLine = 1.4;
+constexpr double kSmall = 0.9;
+
+struct Brushes {
+  const GraphColors& Colors;
+  Ground On;
+
+  QColor Fill(const std::string& planet, bool chosen) const {
+    const double part = On == Ground::Dark ? (chosen ? 0.50 : 0.26) : (chosen ? 0.42 : 0.20);
+    return Mixed(PlanetColor(planet, On), Colors.Paper, part);
+  }
+};
+
+void PaintOpening(QPainter& painter, const TimelineRow& row, const QColor& fill) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(fill);
+  painter.drawPolygon(row.Opening);
+}
+
+void PaintBars(QPainter& painter, const TimelineRow& row, const TimelineLevel& level,
+               const Brushes& brushes, bool cursor) {
+  const QFont font = painter.font();
+  painter.setFont(Heavy(font));
+  for (std::size_t i = 0; i < row.Bars.size(); ++i) {
+    painter.setPen(QPen(brushes.Colors.Paper, 1));
+    painter.setBrush(brushes.Fill(level.Periods[i].Planet, level.Chosen == i));
+    painter.drawRect(row.Bars[i].Box);
+    painter.setPen(brushes.Colors.Text);
+    painter.drawText(row.Bars[i].Box, Qt::AlignCenter | Qt::TextDontClip, row.Bars[i].Name);
+  }
+  painter.setFont(font);
+  if (!level.Chosen || row.Bars.empty()) {
+    return;
+  }
+  const double width = cursor ? 3 : 1.4;
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(PlanetColor(level.Periods.at(*level.Chosen).Planet, brushes.On), width,
+                      Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.drawRect(row.Bars.at(*level.Chosen).Box);
+}
+
+void PaintDates(QPainter& painter, const TimelineRow& row, const GraphColors& colors) {
+  constexpr double kTick = 4;
+  painter.setPen(QPen(colors.Frame, kHair));
+  for (const TimelineBar& bar : row.Bars) {
+    painter.drawLine(bar.Box.bottomRight(), bar.Box.bottomRight() + QPointF(0, kTick));
+  }
+  painter.setPen(colors.Muted);
+  for (const GraphLabel& date : row.Dates) {
+    DrawLabel(painter, date);
+  }
+}
+
+void PaintDay(QPainter& painter, const TimelineRow& row, std::optional<double> x,
+              const QColor& color) {
+  constexpr double kBeyond = 4;
+  if (x) {
+    painter.setPen(QPen(color, kDayLine));
+    painter.drawLine(QPointF(*x, row.Axis.top() - kBeyond),
+                     QPointF(*x, row.Axis.bottom() + kBeyond));
+  }
+}
+
+void PaintRow(QPainter& painter, const TimelineRow& row, const TimelineLevel& level,
+              const Brushes& brushes, bool cursor) {
+  const QFont font = painter.font();
+  painter.setPen(brushes.Colors.Text);
+  DrawLabel(painter, row.Heading);
+  PaintBars(painter, row, level, brushes, cursor);
+  painter.setFont(Scaled(font, kSmall));
+  PaintDates(painter, row, brushes.Colors);
+  PaintDay(painter, row, row.Birth, brushes.Colors.Text);
+  PaintDay(painter, row, row.Today, brushes.Colors.Today);
+  for (const GraphLabel& flag : row.Flags) {
+    painter.setPen(flag.Text.startsWith("Today") ? brushes.Colors.Today : brushes.Colors.Text);
+    DrawLabel(painter, flag);
+  }
+  painter.setFont(font);
+}
+
+}  // namespace
+
+void PaintTimeline(QPainter& painter, const QRectF& area, const TimelinePicture& picture,
+                   Ground ground, std::optional<std::size_t> cursor) {
+  const Brushes brushes{ColorsOn(ground), ground};
+  const QFont font = painter.font();
+  const TimelineLayout layout = LayOutTimeline(picture, font, area);
+  painter.save();
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  painter.fillRect(area, brushes.Colors.Paper);
+  painter.setPen(brushes.Colors.Text);
+  painter.setFont(Heavy(font));
+  DrawLabel(painter, layout.Title);
+  painter.setFont(font);
+  for (const TimelineRow& row : layout.Rows) {
+    PaintOpening(painter, row, brushes.Colors.Band);
+  }
+  for (std::size_t level = 0; level < kTimelineLevels; ++level) {
+    PaintRow(painter, layout.Rows.at(level), picture.Levels.at(level), brushes, cursor == level);
+  }
+  if (layout.Rows.front().Bars.empty()) {
+    painter.setPen(brushes.Colors.Muted);
+    painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap,
+                     "This horoscope has no periods: the Moon's star is not known.");
+  }
+  painter.restore();
+}
+
+}  // namespace orvex::ui
