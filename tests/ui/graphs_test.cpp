@@ -106,7 +106,7 @@ TEST_F(Graphs, SavedAndPrintedGraphsAreLightAndPrivateWhateverTheTheme) {
             test::ReadFile(home_.Place.Folder / "dark.svg"));
   ExpectPrivate(files_.Chosen, "<?xml");
   const QString text =
-      TextOfSvg(files_.Chosen, "November 2026   Planetary Transit in Dubai at 10:00");
+      TextOfSvg(files_.Chosen, "Planetary Transit in Dubai at 10:00, November 2026");
   for (const char* shown : {"Aries", "Pisces", "SA", "KE", "30", "Today, 24 Nov 2026"}) {
     EXPECT_TRUE(text.contains(shown)) << shown;
   }

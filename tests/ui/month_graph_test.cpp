@@ -110,7 +110,8 @@ TEST_F(MonthGraph, AStationStandsOnTheFirstDayOfTheNewMotionAndTheLineChangesThe
   ASSERT_EQ(line.Runs.size(), 2U);
   EXPECT_FALSE(line.Runs[0].Retrograde);
   EXPECT_TRUE(line.Runs[1].Retrograde);
-  EXPECT_EQ(line.Runs[0].Points.back(), line.Runs[1].Points.front());
+  EXPECT_EQ(line.Runs[0].Points.back(), line.Marks[0].At);
+  EXPECT_EQ(line.Runs[1].Points.front(), line.Marks[0].At);
   EXPECT_EQ(MonthHint(picture, layout, line.Marks[0].At + QPointF(3, 2)).toStdString(),
             "Mercury turns retrograde\nbetween 3 November 2026 and 4 November 2026");
 }
@@ -228,7 +229,7 @@ TEST_F(MonthOfTheSky, NoLineEverCrossesThePictureAndHintsTellWhatTheGridTells) {
   const MonthLayout layout = Placed(picture);
   const QPointF saturn(layout.Days[4].X, Y(layout, picture.Series[6].Longitudes[4]));
   EXPECT_EQ(MonthHint(picture, layout, saturn + QPointF(2, 1)).toStdString(),
-            picture.Grid.Rows[4].Cells[7].Tooltip + "\n5 November 2026, 12.98° retrograde");
+            picture.Grid.Rows[4].Cells[7].Tooltip + "\n5 November 2026, 14.88° retrograde");
   EXPECT_EQ(MonthHint(picture, layout, layout.Lines[6].Code.Box.center())
                 .section('\n', 1)
                 .section(',', 0, 0),

@@ -219,15 +219,15 @@ TimelineLayout LayOutTimeline(const TimelinePicture& picture, const QFont& font,
                               const QRectF& area) {
   TimelineLayout layout;
   const QRectF inner = area.adjusted(3 * kAir, kAir, -3 * kAir, -kAir);
-  layout.Title = LabelAt(Shown(picture.Title), Heavy(font), {0, 0});
+  layout.Title = LabelAt(Shown(picture.Title), Heavy(font, kTitleText), {0, 0});
   layout.Title.Box.moveTopLeft(inner.topLeft());
-  double top = layout.Title.Box.bottom() + kAir;
+  double top = layout.Title.Box.bottom() + 2 * kAir;
   const RowHeights heights = HeightsIn(inner.bottom() - top, font);
   for (std::size_t level = 0; level < kTimelineLevels; ++level) {
     TimelineRow& row = layout.Rows.at(level);
     row.Axis =
         QRectF(inner.left(), top + heights.Heading + heights.Flags, inner.width(), heights.Bars);
-    row.Heading = LabelAt(HeadingText(picture, level), font, {0, 0});
+    row.Heading = LabelAt(HeadingText(picture, level), Heavy(font), {0, 0});
     row.Heading.Box.moveTopLeft({inner.left(), top});
     FillRow(picture, level, font, row);
     if (level > 0) {

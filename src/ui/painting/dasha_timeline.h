@@ -25,6 +25,7 @@ struct TimelineLevel {
 };
 
 inline constexpr std::size_t kTimelineLevels = 3;  // dasha, bhukti, antara
+inline constexpr double kTitleText = 1.15;         // of the text
 
 struct TimelinePicture {
   std::string Title;

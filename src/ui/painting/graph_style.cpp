@@ -1,6 +1,7 @@
 #include "ui/painting/graph_style.h"
 
 #include <QFontMetricsF>
+#include <QLineF>
 #include <algorithm>
 #include <array>
 
@@ -49,9 +50,9 @@ std::vector<Pool> PoolsOf(const std::vector<double>& wanted, double gap) {
 
 const GraphColors& ColorsOn(Ground ground) {
   static const GraphColors light = {"#ffffff", "#f3f5f8", "#e1e6eb", "#8fa0b2",
-                                    "#18202a", "#5f6b76", "#b3125a"};
+                                    "#18202a", "#5f6b76", "#d8002f"};
   static const GraphColors dark = {"#212429", "#282d34", "#383f48", "#7d8a98",
-                                   "#e8ecf0", "#9aa6b2", "#ff7ab0"};
+                                   "#e8ecf0", "#9aa6b2", "#ff5470"};
   return ground == Ground::Dark ? dark : light;
 }
 
@@ -127,6 +128,17 @@ bool AddApart(std::vector<GraphLabel>& labels, GraphLabel label) {
   }
   labels.push_back(std::move(label));
   return true;
+}
+
+void DrawDay(QPainter& painter, double x, const QRectF& across, const QColor& color,
+             const QColor& paper) {
+  constexpr double kLine = 1.6;
+  constexpr double kHalo = 3.6;
+  const QLineF line(x, across.top(), x, across.bottom());
+  painter.setPen(QPen(paper, kHalo, Qt::SolidLine, Qt::FlatCap));
+  painter.drawLine(line);
+  painter.setPen(QPen(color, kLine, Qt::SolidLine, Qt::FlatCap));
+  painter.drawLine(line);
 }
 
 void DrawLabel(QPainter& painter, const GraphLabel& label) {

@@ -56,6 +56,10 @@ std::vector<double> SpreadApart(const std::vector<double>& wanted, double gap, d
 // Adds a label unless it touches one that stands already.
 bool AddApart(std::vector<GraphLabel>& labels, GraphLabel label);
 
+// The line of a day across a box, set off from what lies under it.
+void DrawDay(QPainter& painter, double x, const QRectF& across, const QColor& color,
+             const QColor& paper);
+
 void DrawLabel(QPainter& painter, const GraphLabel& label);
 
 }  // namespace orvex::ui

@@ -76,19 +76,18 @@ QString TickText(core::DateTime day) {
                core::WeekdayName(day).substr(0, kLetters));
 }
 
-// Every day has its line; every first, second, fifth or tenth is named, as the room allows.
+// Every day has its line; each, every second or every seventh is named, as the room allows.
 std::vector<DayTick> TicksOf(const MonthPicture& picture, const Scale& scale, const QFont& font) {
   const QFontMetricsF metrics(font);
-  const double needed = metrics.horizontalAdvance("88") + kAir;
+  const double needed = metrics.horizontalAdvance("We") + kAir;
   int step = 1;
-  for (const int wider : {2, 5, 10}) {
+  for (const int wider : {2, 7}) {
     step = step * scale.DayWidth < needed ? wider : step;
   }
   std::vector<DayTick> ticks;
   for (std::size_t row = 0; row < picture.Days.size(); ++row) {
     DayTick tick{scale.X(static_cast<double>(row)), {}};
-    const int day = core::PartsOf(picture.Days[row]).Day;
-    if (step == 1 || day == 1 || day % step == 0) {
+    if ((core::PartsOf(picture.Days[row]).Day - 1) % step == 0) {
       tick.Label = LabelAt(TickText(picture.Days[row]), font, {tick.X, 0});
       tick.Label.Box.moveTop(scale.Plot.bottom() + kAir);
     }
@@ -117,12 +116,12 @@ std::vector<LineRun> RunsOf(const transit::PlanetSeries& series, const Scale& sc
   std::vector<LineRun> runs;
   LineRun run{{{scale.At(0, series.Longitudes.front())}}, series.Retrograde.front()};
   for (std::size_t row = 1; row < series.Longitudes.size(); ++row) {
+    AddStep(scale, row, series.Longitudes[row - 1], series.Longitudes[row], run, runs);
     if (series.Retrograde[row] != run.Retrograde) {
       const QPointF turn = run.Points.back();
       runs.push_back(run);
       run = {{{turn}}, series.Retrograde[row]};
     }
-    AddStep(scale, row, series.Longitudes[row - 1], series.Longitudes[row], run, runs);
   }
   runs.push_back(run);
   return runs;
@@ -179,6 +178,18 @@ void PlaceCodes(const MonthPicture& picture, const QRectF& plot, const QFont& fo
   }
 }
 
+// What the marks mean, on the line of the title; without text where that leaves no room.
+GraphLabel LegendOf(const MonthLayout& layout, const QFont& font) {
+  GraphLabel legend =
+      LabelAt("circle: change of sign  ·  R, D: turns retrograde, direct  ·  dashed: retrograde",
+              font, layout.Title.Box.center());
+  legend.Box.moveRight(layout.Plot.right());
+  if (legend.Box.left() < layout.Title.Box.right() + 2 * kAir) {
+    legend.Text.clear();
+  }
+  return legend;
+}
+
 double Distance(const QPointF& point, const QPointF& from, const QPointF& to) {
   const QPointF step = to - from;
   const double square = QPointF::dotProduct(step, step);
@@ -226,7 +237,7 @@ QString PlanetHint(const MonthPicture& picture, const transit::PlanetSeries& ser
 }  // namespace
 
 MonthPicture PictureOfMonth(const transit::MonthGrid& grid, core::DateTime today) {
-  MonthPicture picture{grid.MonthLabel + "   " + grid.Title, grid.Grid, {}, {}, {}};
+  MonthPicture picture{grid.Title + ", " + grid.MonthLabel, grid.Grid, {}, {}, {}};
   for (const core::Row& row : grid.Grid.Rows) {
     const auto day = core::ParseLongDateText(core::Split(row.Tag, '*').back());
     picture.Days.push_back(day.value());
@@ -246,6 +257,7 @@ MonthLayout LayOutMonth(const MonthPicture& picture, const QFont& font, const QR
   const QFont small = Scaled(font, kSmall);
   layout.Title = LabelAt(Shown(picture.Title), Heavy(font), {0, 0});
   layout.Title.Box.moveTopLeft({layout.Plot.left(), area.top() + kAir});
+  layout.Legend = LegendOf(layout, small);
   layout.Bands = BandsOf(scale, font);
   layout.Days = TicksOf(picture, scale, small);
   for (const transit::PlanetSeries& series : picture.Series) {

@@ -54,6 +54,7 @@ struct PlanetLine {
 struct MonthLayout {
   QRectF Plot;
   GraphLabel Title;
+  GraphLabel Legend;
   std::array<SignBand, 12> Bands;  // Aries first, at the bottom
   std::vector<DayTick> Days;
   std::vector<PlanetLine> Lines;  // one a series

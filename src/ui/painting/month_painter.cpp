@@ -46,17 +46,19 @@ void PaintFrame(QPainter& painter, const MonthLayout& layout, const GraphColors&
   painter.setPen(QPen(colors.Frame, kHair));
   painter.drawRect(layout.Plot);
   painter.setPen(colors.Text);
-  painter.setFont(Heavy(painter.font()));
+  const QFont font = painter.font();
+  painter.setFont(Heavy(font));
   DrawLabel(painter, layout.Title);
+  painter.setPen(colors.Muted);
+  painter.setFont(Scaled(font, 0.9));
+  DrawLabel(painter, layout.Legend);
 }
 
 void PaintToday(QPainter& painter, const MonthLayout& layout, const GraphColors& colors) {
   if (!layout.Today) {
     return;
   }
-  painter.setPen(QPen(colors.Today, 1.4));
-  painter.drawLine(QPointF(*layout.Today, layout.Plot.top()),
-                   QPointF(*layout.Today, layout.Plot.bottom()));
+  DrawDay(painter, *layout.Today, layout.Plot, colors.Today, colors.Paper);
   painter.setFont(Scaled(painter.font(), 0.9));
   DrawLabel(painter, layout.TodayLabel);
 }
@@ -86,6 +88,7 @@ void PaintMark(QPainter& painter, const PlacedMark& mark, const QColor& color,
     painter.drawEllipse(mark.At, kDot, kDot);
     return;
   }
+  painter.setPen(QPen(colors.Paper, 1.2));
   painter.setBrush(color);
   painter.drawEllipse(mark.At, kStation, kStation);
   painter.setPen(colors.Paper);

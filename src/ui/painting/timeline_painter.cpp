@@ -5,7 +5,6 @@ namespace orvex::ui {
 namespace {
 
 constexpr double kHair = 0.8;
-constexpr double kDayLine = 1.4;
 constexpr double kSmall = 0.9;
 
 struct Brushes {
@@ -59,12 +58,10 @@ void PaintDates(QPainter& painter, const TimelineRow& row, const GraphColors& co
 }
 
 void PaintDay(QPainter& painter, const TimelineRow& row, std::optional<double> x,
-              const QColor& color) {
+              const QColor& color, const QColor& paper) {
   constexpr double kBeyond = 4;
   if (x) {
-    painter.setPen(QPen(color, kDayLine));
-    painter.drawLine(QPointF(*x, row.Axis.top() - kBeyond),
-                     QPointF(*x, row.Axis.bottom() + kBeyond));
+    DrawDay(painter, *x, row.Axis.adjusted(0, -kBeyond, 0, kBeyond), color, paper);
   }
 }
 
@@ -72,12 +69,14 @@ void PaintRow(QPainter& painter, const TimelineRow& row, const TimelineLevel& le
               const Brushes& brushes, bool cursor) {
   const QFont font = painter.font();
   painter.setPen(brushes.Colors.Text);
+  painter.setFont(Heavy(font));
   DrawLabel(painter, row.Heading);
+  painter.setFont(font);
   PaintBars(painter, row, level, brushes, cursor);
   painter.setFont(Scaled(font, kSmall));
   PaintDates(painter, row, brushes.Colors);
-  PaintDay(painter, row, row.Birth, brushes.Colors.Text);
-  PaintDay(painter, row, row.Today, brushes.Colors.Today);
+  PaintDay(painter, row, row.Birth, brushes.Colors.Text, brushes.Colors.Paper);
+  PaintDay(painter, row, row.Today, brushes.Colors.Today, brushes.Colors.Paper);
   for (const GraphLabel& flag : row.Flags) {
     painter.setPen(flag.Text.startsWith("Today") ? brushes.Colors.Today : brushes.Colors.Text);
     DrawLabel(painter, flag);
@@ -96,7 +95,7 @@ void PaintTimeline(QPainter& painter, const QRectF& area, const TimelinePicture&
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.fillRect(area, brushes.Colors.Paper);
   painter.setPen(brushes.Colors.Text);
-  painter.setFont(Heavy(font));
+  painter.setFont(Heavy(font, kTitleText));
   DrawLabel(painter, layout.Title);
   painter.setFont(font);
   for (const TimelineRow& row : layout.Rows) {
