@@ -12,9 +12,9 @@ namespace orvex::ui {
 namespace {
 
 constexpr double kAir = 6;
-constexpr double kSmall = 0.9;   // of the text: dates and flags
-constexpr double kTallest = 84;  // of a bar
-constexpr double kLowest = 14;
+constexpr double kSmall = 0.9;  // of the text: dates and flags
+constexpr double kLowest = 14;  // of a bar
+constexpr double kUsual = 44;   // up to here all room goes to the bars
 constexpr std::array<const char*, kTimelineLevels> kLevelNames = {"Dasha", "Bhukti", "Antara"};
 
 QString Shown(const std::string& text) { return QString::fromStdString(text); }
@@ -156,13 +156,17 @@ struct RowHeights {
 };
 
 RowHeights HeightsIn(double height, const QFont& font) {
+  constexpr double kShare = 0.6;
   const double line = QFontMetricsF(font).height();
   const double small = QFontMetricsF(Scaled(font, kSmall)).lineSpacing();
   RowHeights heights{line, small + 2 * kAir, 0, 2 * small + kAir, 2 * kAir};
-  const double rest = height / static_cast<double>(kTimelineLevels) - heights.All();
-  heights.Bars = std::clamp(rest, kLowest, kTallest);
-  // What is left over opens the rows, so that the graph fills its area.
-  heights.Gap += std::clamp(rest - heights.Bars, 0.0, kTallest);
+  const auto rows = static_cast<double>(kTimelineLevels);
+  const double rest = (height - rows * heights.All() + heights.Gap) / rows;
+  // What is left over is shared by the bars and by the gaps between them, so that the graph fills
+  // its area.
+  const double more = std::max(0.0, rest - kUsual);
+  heights.Bars = std::clamp(rest, kLowest, kUsual) + kShare * more;
+  heights.Gap += (1 - kShare) * more * rows / (rows - 1);
   return heights;
 }
 

@@ -14,6 +14,7 @@ namespace {
 constexpr int kWidth = 1120;  // units of a sheet, in which its text is set
 constexpr int kHeight = 770;
 constexpr int kText = 13;
+constexpr int kDotsPerInch = 96;    // of a unit of a picture, as browsers count
 constexpr double kPageMargin = 10;  // millimetres
 
 void PaintSheet(QPainter& painter, const GraphPainting& graph, const QRectF& sheet) {
@@ -42,6 +43,7 @@ std::string SvgText(const QSize& size, const std::string& title,
   bytes.open(QIODevice::WriteOnly);
   QSvgGenerator svg;
   svg.setOutputDevice(&bytes);
+  svg.setResolution(kDotsPerInch);
   svg.setSize(size);
   svg.setViewBox(QRect(QPoint(0, 0), size));
   svg.setTitle(WithoutControls(title));

@@ -25,16 +25,11 @@ void PaintOpening(QPainter& painter, const TimelineRow& row, const QColor& fill)
 
 void PaintBars(QPainter& painter, const TimelineRow& row, const TimelineLevel& level,
                const Brushes& brushes, bool cursor) {
-  const QFont font = painter.font();
-  painter.setFont(Heavy(font));
+  painter.setPen(QPen(brushes.Colors.Paper, 1));
   for (std::size_t i = 0; i < row.Bars.size(); ++i) {
-    painter.setPen(QPen(brushes.Colors.Paper, 1));
     painter.setBrush(brushes.Fill(level.Periods[i].Planet, level.Chosen == i));
     painter.drawRect(row.Bars[i].Box);
-    painter.setPen(brushes.Colors.Text);
-    painter.drawText(row.Bars[i].Box, Qt::AlignCenter | Qt::TextDontClip, row.Bars[i].Name);
   }
-  painter.setFont(font);
   if (!level.Chosen || row.Bars.empty()) {
     return;
   }
@@ -43,6 +38,13 @@ void PaintBars(QPainter& painter, const TimelineRow& row, const TimelineLevel& l
   painter.setPen(QPen(PlanetColor(level.Periods.at(*level.Chosen).Planet, brushes.On), width,
                       Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   painter.drawRect(row.Bars.at(*level.Chosen).Box);
+}
+
+void PaintNames(QPainter& painter, const TimelineRow& row, const GraphColors& colors) {
+  painter.setPen(colors.Text);
+  for (const TimelineBar& bar : row.Bars) {
+    painter.drawText(bar.Box, Qt::AlignCenter | Qt::TextDontClip, bar.Name);
+  }
 }
 
 void PaintDates(QPainter& painter, const TimelineRow& row, const GraphColors& colors) {
@@ -81,6 +83,9 @@ void PaintRow(QPainter& painter, const TimelineRow& row, const TimelineLevel& le
     painter.setPen(flag.Text.startsWith("Today") ? brushes.Colors.Today : brushes.Colors.Text);
     DrawLabel(painter, flag);
   }
+  // The names stand before the lines.
+  painter.setFont(Heavy(font));
+  PaintNames(painter, row, brushes.Colors);
   painter.setFont(font);
 }
 
