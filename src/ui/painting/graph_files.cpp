@@ -46,7 +46,8 @@ std::string SvgText(const QSize& size, const std::string& title,
   svg.setResolution(kDotsPerInch);
   svg.setSize(size);
   svg.setViewBox(QRect(QPoint(0, 0), size));
-  svg.setTitle(WithoutControls(title));
+  // The generator writes titles as they come, unlike the texts that are painted.
+  svg.setTitle(WithoutControls(title).toHtmlEscaped());
   QPainter painter(&svg);
   paint(painter);
   painter.end();
