@@ -5,12 +5,16 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTableWidget>
@@ -23,9 +27,9 @@
 #include "chart/aspects.h"
 #include "chart/client_saving.h"
 #include "support/test_home.h"
+#include "ui/base/chart_view.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
-#include "ui/horoscope/horoscope_chart.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
 #include "vedic/vastu.h"
 
@@ -163,7 +167,7 @@ TEST_F(HoroscopeWindowTest, RotationShowsInTitleHeadAndTablesUntilItIsReset) {
   MenuEntry("rotationMenu", "7").trigger();
   EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao (Rotated to 7)");
   EXPECT_EQ(Text("CuspTable", 0, 1), seventh);
-  EXPECT_EQ(Find<HoroscopeChart>("rashiChart").Picture().Fields[0].Sign, "1");
+  EXPECT_EQ(Find<ChartView>("rashiChart").Picture().Fields[0].Sign, "1");
   QTest::keyClick(window_, Qt::Key_0, Qt::ControlModifier);
   EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao");
   EXPECT_EQ(Text("CuspTable", 0, 1), first);
@@ -171,7 +175,7 @@ TEST_F(HoroscopeWindowTest, RotationShowsInTitleHeadAndTablesUntilItIsReset) {
 
 TEST_F(HoroscopeWindowTest, TheStyleButtonGoesRoundTheThreeStylesForThisWindowOnly) {
   Open();
-  auto& chart = Find<HoroscopeChart>("rashiChart");
+  auto& chart = Find<ChartView>("rashiChart");
   std::string styles;
   for (int press = 0; press < 4; ++press) {
     styles += chart.Picture().Style;
@@ -249,7 +253,7 @@ TEST_F(HoroscopeWindowTest, ATypedYearOfLifeRedrawsTheAnnualChartAndTheHead) {
   QTest::keyClicks(&year, "2");
   QTest::keyClick(&year, Qt::Key_Return);
   EXPECT_TRUE(Find<QLabel>("CurrentDBA").text().endsWith("Current BCP House: 2"));
-  const auto& chart = Find<HoroscopeChart>("annualChart").Picture();
+  const auto& chart = Find<ChartView>("annualChart").Picture();
   for (int house = 0; house < 12; ++house) {
     std::string codes;
     for (const std::string& code : chart.Fields.at(static_cast<std::size_t>(house)).Codes) {
@@ -269,7 +273,7 @@ TEST_F(HoroscopeWindowTest, ADoubleClickOnAPlanetOpensItsSheet) {
   QCoreApplication::sendPostedEvents(sheet, QEvent::DeferredDelete);
 
   // In the chart too, where the code carries marks.
-  auto& chart = Find<HoroscopeChart>("rashiChart");
+  auto& chart = Find<ChartView>("rashiChart");
   QPoint found;
   for (int x = 0; x < chart.width() && found.isNull(); x += 4) {
     for (int y = 0; y < chart.height() && found.isNull(); y += 4) {
@@ -370,11 +374,83 @@ TEST_F(HoroscopeWindowTest, ExportWritesTheReportOfWhatIsShownAndOpensIt) {
   EXPECT_TRUE(Find<QLabel>("statusText").text().startsWith("Asc = "));
 }
 
+TEST_F(HoroscopeWindowTest, APdfLiesBesideTheReportAndIsOpenedInItsPlace) {
+  std::filesystem::copy_file(std::filesystem::path(ORVEX_DATA_FOLDER) / "HoroscopeTemplate.htm",
+                             home_.Place.ReportTemplate());
+  Open();
+  MenuEntry("exportMenu", "PDF: Dasha and Bhukti").trigger();
+  ASSERT_EQ(files_.Opened.size(), 1U);
+  EXPECT_EQ(files_.Opened[0].extension(), ".pdf");
+  EXPECT_EQ(test::ReadFile(files_.Opened[0]).substr(0, 5), "%PDF-");
+  EXPECT_TRUE(std::filesystem::exists(files_.Opened[0].replace_extension(".htm")));
+}
+
+TEST_F(HoroscopeWindowTest, ATableGoesToASpreadsheetThatItsOwnerAloneReads) {
+  Open();
+  files_.Chosen = home_.Place.Folder / "planets.xlsx";
+  TableView& planets = Find<TableView>("PlanetTable");
+  QTimer::singleShot(0, [this] {
+    auto* open = Find<TableView>("PlanetTable").findChild<QMenu*>("tableMenu");
+    QAction* exporting = open->actions().constLast();
+    QTest::mouseClick(open, Qt::LeftButton, {}, open->actionGeometry(exporting).center());
+  });
+  QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(4, 4), QPoint(4, 4));
+  QApplication::sendEvent(&planets, &menu);
+  EXPECT_EQ(files_.Opened, std::vector{files_.Chosen});
+  EXPECT_EQ(test::ReadFile(files_.Chosen).substr(0, 2), "PK");
+  EXPECT_EQ(std::filesystem::status(files_.Chosen).permissions(),
+            std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+}
+
+TEST_F(HoroscopeWindowTest, TheRulingPlanetsAreThoseOfBirthUntilThoseOfNowAreAskedFor) {
+  Open();
+  const auto dayLord = [this] {
+    return Text("RulingPlanets", 6, 0) + " " + Text("RulingPlanets", 6, 1);
+  };
+  EXPECT_EQ(dayLord(), "Day Lord Jupiter") << "born on a Thursday";
+  QTest::mouseClick(&Find<QRadioButton>("rulingOfNow"), Qt::LeftButton);
+  EXPECT_EQ(dayLord(), "Day Lord Mars") << "today is a Tuesday";
+  QTest::mouseClick(&Find<QRadioButton>("rulingOfBirth"), Qt::LeftButton);
+  EXPECT_EQ(dayLord(), "Day Lord Jupiter");
+}
+
+TEST_F(HoroscopeWindowTest, ThePlanetsStayInSightBesideTheColumnsMovedSideways) {
+  Open();
+  TableView& planets = Find<TableView>("PlanetTable");
+  auto& names = *planets.findChild<QTableView*>("frozenColumn");
+  planets.horizontalScrollBar()->setValue(planets.horizontalScrollBar()->maximum());
+  EXPECT_FALSE(
+      planets.visualRect(planets.model()->index(2, 0)).intersects(planets.viewport()->rect()));
+  const QPoint sun = names.visualRect(names.model()->index(2, 0)).center();
+  QTest::mouseClick(names.viewport(), Qt::LeftButton, {}, sun);
+  QTest::mouseDClick(names.viewport(), Qt::LeftButton, {}, sun);
+  ASSERT_NE(window_->findChild<PlanetSheetDialog*>(), nullptr);
+  EXPECT_EQ(window_->findChild<PlanetSheetDialog*>()->windowTitle(), "Sun (Gemini)");
+  const auto first = [&] { return names.model()->index(0, 0).data().toString(); };
+  std::vector<QString> firsts;
+  for (int click = 0; click < 3; ++click) {
+    QTest::mouseClick(names.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(8, 8));
+    firsts.push_back(first());
+  }
+  EXPECT_EQ(firsts, (std::vector<QString>{"Jupiter", "Venus", "Ketu"}));
+}
+
+TEST_F(HoroscopeWindowTest, AColumnKeepsTheWidthThatItWasGiven) {
+  Open();
+  Find<TableView>("CuspTable").horizontalHeader()->resizeSection(2, 177);
+  window_->resize(window_->width() + 100, window_->height());
+  window_->close();
+  QCoreApplication::sendPostedEvents(window_, QEvent::DeferredDelete);
+  Open();
+  EXPECT_EQ(Find<TableView>("CuspTable").columnWidth(2), 177);
+  EXPECT_NE(Find<TableView>("CuspTable").columnWidth(3), 177);
+}
+
 TEST_F(HoroscopeWindowTest, TheDivisionsCloseOnEscape) {
   Open();
   bool seen = false;
   WhenOpen("divisionalCharts", [&seen](QDialog& dialog) {
-    seen = dialog.findChild<HoroscopeChart*>("dashamsha") != nullptr;
+    seen = dialog.findChild<ChartView*>("dashamsha") != nullptr;
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
   QTest::keyClick(window_, Qt::Key_D, Qt::ControlModifier);

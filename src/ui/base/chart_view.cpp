@@ -1,6 +1,7 @@
 #include "ui/base/chart_view.h"
 
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 
@@ -11,45 +12,67 @@
 namespace orvex::ui {
 
 namespace {
-constexpr int kSmallestSide = 24 * kGrid;
+constexpr int kRoomAround = 5 * kGrid;  // what a chart likes to have beyond its smallest size
 }
 
-ChartView::ChartView(QWidget* parent) : QWidget(parent) {
-  setMinimumSize(kSmallestSide, kSmallestSide);
+ChartView::ChartView(const QString& objectName, int smallestSide) : smallestSide_(smallestSide) {
+  setObjectName(objectName);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void ChartView::SetPicture(report::ChartPicture picture) {
-  picture_ = std::move(picture);
+QSize ChartView::sizeHint() const {
+  return minimumSizeHint().grownBy({kRoomAround, kRoomAround, 0, 0});
+}
+
+QSize ChartView::minimumSizeHint() const { return {smallestSide_, smallestSide_}; }
+
+void ChartView::SetPicture(const report::ChartPicture& picture) {
+  picture_ = picture;
+  setAccessibleName(Shown(picture.Title));
   update();
 }
 
-QSize ChartView::sizeHint() const { return {kSmallestSide, kSmallestSide}; }
+QString ChartView::CodeAt(const QPointF& point) const {
+  for (const DrawnField& field : LayOutChart(picture_, font(), ChartSquare(rect()))) {
+    for (const PlacedWord& word : field.Codes.Words) {
+      if (word.Box.contains(point)) {
+        return word.Text;
+      }
+    }
+  }
+  return {};
+}
+
+QString ChartView::TooltipAt(const QPointF& point) const {
+  const std::array<DrawnField, 12> drawn = LayOutChart(picture_, font(), ChartSquare(rect()));
+  for (std::size_t i = 0; i < drawn.size(); ++i) {
+    if (drawn.at(i).Outline.containsPoint(point, Qt::OddEvenFill)) {
+      return Shown(picture_.Fields.at(i).Tooltip).toHtmlEscaped();
+    }
+  }
+  return {};
+}
+
+bool ChartView::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), TooltipAt(help->pos()), this);
+    return true;
+  }
+  return QWidget::event(event);
+}
 
 void ChartView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setFont(font());
   PaintChart(painter, rect(), picture_,
              Theme::Mode() == ThemeMode::Dark ? DarkColors() : PrintColors());
 }
 
-// The tooltip of the field under the pointer.
-bool ChartView::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) {
-    return QWidget::event(event);
+void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
+  const QString code = CodeAt(event->position());
+  if (!code.isEmpty()) {
+    emit CodeActivated(code);
   }
-  const QPoint where = dynamic_cast<QHelpEvent*>(event)->pos();
-  const auto fields = LayOutChart(picture_, font(), ChartSquare(rect()));
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    if (fields.at(i).Outline.containsPoint(where, Qt::OddEvenFill)) {
-      QToolTip::showText(dynamic_cast<QHelpEvent*>(event)->globalPos(),
-                         Shown(picture_.Fields.at(i).Tooltip), this);
-      return true;
-    }
-  }
-  QToolTip::hideText();
-  return true;
 }
 
 }  // namespace orvex::ui

@@ -1,9 +1,10 @@
-// A chart that grows with its window, drawn as vectors.
+// A chart that grows with its window, drawn as vectors, with what each field and planet tells.
 #pragma once
 
 #include <QWidget>
 
 #include "report/chart_picture.h"
+#include "ui/base/theme.h"
 
 namespace orvex::ui {
 
@@ -11,18 +12,33 @@ class ChartView final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ChartView(QWidget* parent = nullptr);
+  static constexpr int kReadableSide = 35 * kGrid;  // nine planets in one house can be read
 
-  void SetPicture(report::ChartPicture picture);
+  // As a square it is never smaller than `smallestSide` pixels.
+  explicit ChartView(const QString& objectName, int smallestSide = kReadableSide);
+
+  void SetPicture(const report::ChartPicture& picture);
   const report::ChartPicture& Picture() const { return picture_; }
 
+  // The code of the planet drawn at a point, with its marks; "" where none is.
+  QString CodeAt(const QPointF& point) const;
+
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  // A double click on a planet: its code.
+  void CodeActivated(const QString& code);
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
+  QString TooltipAt(const QPointF& point) const;
+
+  int smallestSide_;
   report::ChartPicture picture_;
 };
 

@@ -1,6 +1,5 @@
 #include "ui/base/layout_memory.h"
 
-#include <QHeaderView>
 #include <QSplitter>
 #include <QWidget>
 
@@ -46,20 +45,20 @@ void LayoutMemory::KeepWindow(const QWidget& window) {
   Keep("window", window, window.saveGeometry());
 }
 
-bool LayoutMemory::RestoreSplitter(QSplitter& splitter) const {
-  return splitter.restoreState(Value("splitter", splitter).toByteArray());
+void LayoutMemory::Remember(QSplitter& splitter) {
+  splitter.setChildrenCollapsible(false);
+  splitter.restoreState(Value("splitter", splitter).toByteArray());
+  QObject::connect(&splitter, &QSplitter::splitterMoved, &splitter,
+                   [this, &splitter] { Keep("splitter", splitter, splitter.saveState()); });
 }
 
-void LayoutMemory::KeepSplitter(const QSplitter& splitter) {
-  Keep("splitter", splitter, splitter.saveState());
+std::optional<int> LayoutMemory::ColumnWidth(const QObject& table, const QString& caption) const {
+  const QVariant width = settings_.value(KeyOf("columns", table) + '/' + caption);
+  return width.isValid() ? std::optional(width.toInt()) : std::nullopt;
 }
 
-bool LayoutMemory::RestoreHeader(QHeaderView& header) const {
-  return header.restoreState(Value("header", header).toByteArray());
-}
-
-void LayoutMemory::KeepHeader(const QHeaderView& header) {
-  Keep("header", header, header.saveState());
+void LayoutMemory::KeepColumnWidth(const QObject& table, const QString& caption, int width) {
+  settings_.setValue(KeyOf("columns", table) + '/' + caption, width);
 }
 
 QString LayoutMemory::ChosenEntry(const QObject& list) const {

@@ -3,9 +3,8 @@
 
 #include <QSettings>
 #include <filesystem>
-#include <functional>
+#include <optional>
 
-class QHeaderView;
 class QSplitter;
 class QWidget;
 
@@ -24,11 +23,13 @@ class LayoutMemory {
   bool RestoreWindow(QWidget& window) const;
   void KeepWindow(const QWidget& window);
 
-  bool RestoreSplitter(QSplitter& splitter) const;
-  void KeepSplitter(const QSplitter& splitter);
+  // Gives a splitter, filled and sized as it usually is, the sizes that it had last, and keeps
+  // those that the user gives it from now on.
+  void Remember(QSplitter& splitter);
 
-  bool RestoreHeader(QHeaderView& header) const;
-  void KeepHeader(const QHeaderView& header);
+  // The width in pixels that the user gave to a column of a table; nothing where none was given.
+  std::optional<int> ColumnWidth(const QObject& table, const QString& caption) const;
+  void KeepColumnWidth(const QObject& table, const QString& caption, int width);
 
   // The entry of a list that the user stood on last, by the list's object name; "" for a new one.
   QString ChosenEntry(const QObject& list) const;

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <set>
 
+#include "ui/base/frozen_column.h"
+#include "ui/base/layout_memory.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -67,20 +69,49 @@ void TableView::HideColumns() {
 }
 
 void TableView::SizeToContent() {
+  sizing_ = true;
   resizeColumnsToContents();
   for (int column = 0; column < model_->columnCount(); ++column) {
     if (!isColumnHidden(column) && column != stretchColumn_) {
-      setColumnWidth(column, std::min(columnWidth(column) + kGrid, kWidestColumn));
+      const int usual = std::min(columnWidth(column) + kGrid, kWidestColumn);
+      setColumnWidth(column, KeptWidth(column).value_or(usual));
     }
   }
   if (stretchColumn_ >= 0 && stretchColumn_ < model_->columnCount()) {
     horizontalHeader()->setSectionResizeMode(stretchColumn_, QHeaderView::Stretch);
   }
+  sizing_ = false;
   if (fitsHeight_) {
     setFixedHeight(sizeHint().height());
   }
   updateGeometry();
 }
+
+void TableView::RememberWidths(LayoutMemory& memory) {
+  memory_ = &memory;
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int column, int /*before*/, int width) { KeepWidth(column, width); });
+}
+
+void TableView::KeepWidth(int column, int width) {
+  // A column that takes the room left is resized with its window.
+  const bool isLast = column == model_->columnCount() - 1;
+  const bool stretches =
+      column == stretchColumn_ || (isLast && horizontalHeader()->stretchLastSection());
+  if (!sizing_ && !stretches && width > 0) {
+    memory_->KeepColumnWidth(*this, CaptionOf(column), width);
+  }
+}
+
+std::optional<int> TableView::KeptWidth(int column) const {
+  return memory_ == nullptr ? std::nullopt : memory_->ColumnWidth(*this, CaptionOf(column));
+}
+
+QString TableView::CaptionOf(int column) const {
+  return Shown(Table().Columns[static_cast<std::size_t>(column)].Caption);
+}
+
+void TableView::FreezeFirstColumn() { new FrozenColumn(*this); }
 
 void TableView::SelectMarked() {
   QItemSelection marked;

@@ -12,6 +12,8 @@ class QMenu;
 
 namespace orvex::ui {
 
+class LayoutMemory;
+
 class TableView : public QTableView {
   Q_OBJECT
 
@@ -51,6 +53,13 @@ class TableView : public QTableView {
   // The table takes the height of its rows and shows no bar of its own.
   void FitHeightToRows();
 
+  // The first column stays in sight when the others are moved sideways.
+  void FreezeFirstColumn();
+
+  // Columns keep the widths that the user gives them, from one start to the next, under the table's
+  // object name.
+  void RememberWidths(LayoutMemory& memory);
+
   // A column takes the room that is left.
   void SetStretchColumn(int column);
 
@@ -72,6 +81,9 @@ class TableView : public QTableView {
  private:
   void SizeToContent();
   void HideColumns();
+  void KeepWidth(int column, int width);
+  std::optional<int> KeptWidth(int column) const;
+  QString CaptionOf(int column) const;
   void SelectMarked();
   void FillMenu(QMenu& menu);
 
@@ -79,6 +91,8 @@ class TableView : public QTableView {
   QString emptyText_;
   std::function<void(const core::Table&)> export_;
   std::vector<QAction*> actions_;
+  LayoutMemory* memory_ = nullptr;
+  bool sizing_ = false;  // widths that change now are not the user's doing
   bool fitsHeight_ = false;
   int stretchColumn_ = -1;
 };

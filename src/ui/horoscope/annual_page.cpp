@@ -20,7 +20,7 @@ constexpr int kLastYear = 120;
 AnnualPage::AnnualPage(HoroscopeDocument& document)
     : HoroscopePage(document),
       year_(new QSpinBox),
-      chart_(new HoroscopeChart("annualChart")),
+      chart_(new ChartView("annualChart")),
       houses_(new CatalogueTable(document, "LalKitabYear")) {
   year_->setObjectName("yearOfLife");
   year_->setRange(1, kLastYear);
@@ -34,7 +34,7 @@ AnnualPage::AnnualPage(HoroscopeDocument& document)
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(LayOutHead());
   layout->addWidget(halves, 1);
-  Remember(document.Place().Layout, *halves);
+  document.Place().Layout.Remember(*halves);
   connect(year_, &QSpinBox::valueChanged, this, [this](int year) { Document().ShowYear(year); });
 }
 

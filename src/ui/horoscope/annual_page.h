@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ui/horoscope/catalogue_table.h"
-#include "ui/horoscope/horoscope_chart.h"
+#include "ui/base/chart_view.h"
 #include "ui/horoscope/horoscope_page.h"
 
 class QHBoxLayout;
@@ -22,7 +22,7 @@ class AnnualPage final : public HoroscopePage {
   QHBoxLayout* LayOutHead();
 
   QSpinBox* year_;
-  HoroscopeChart* chart_;
+  ChartView* chart_;
   CatalogueTable* houses_;
 };
 

@@ -53,7 +53,7 @@ QSplitter* AspectsPage::LayOutTables() {
   planets_->setMinimumWidth(kListWidth);
   tables->setStretchFactor(0, 0);
   tables->setStretchFactor(1, 1);
-  Remember(Document().Place().Layout, *tables);
+  Document().Place().Layout.Remember(*tables);
   return tables;
 }
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "practice/export_list.h"
+#include "ui/base/export_table.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -32,18 +32,6 @@ std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, cons
   return named || word.size() != 2 ? named : chart::RowOfCode(model, word);
 }
 
-void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
-                 const std::string& title) {
-  const auto file = place.Files.ChooseFileToWrite(&parent, "Export to spreadsheet", title + ".xlsx",
-                                                  "Spreadsheets (*.xlsx)");
-  if (!file) {
-    return;
-  }
-  if (const auto refused = practice::ExportList(table, *file, title)) {
-    place.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
-  }
-}
-
 QLabel* MakeHeading(const QString& text) {
   auto* heading = new QLabel(text);
   QFont font = heading->font();
@@ -60,6 +48,7 @@ CatalogueTable::CatalogueTable(HoroscopeDocument& document, const char* name)
   view_->SetExport([this](const core::Table& table) {
     ExportTable(document_.Place(), *this, table, entry_.Title);
   });
+  view_->RememberWidths(document.Place().Layout);
   connect(view_, &QTableView::activated, this, &CatalogueTable::Activate);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -50,10 +50,6 @@ class CatalogueTable final : public QWidget {
 // nothing for any other text.
 std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, const QString& text);
 
-// Asks for a file and writes the table into it as a spreadsheet.
-void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
-                 const std::string& title);
-
 // A heading above a part of a page.
 QLabel* MakeHeading(const QString& text);
 

@@ -17,8 +17,8 @@ constexpr int kRulingWidth = 26 * kGrid;  // both columns without a bar
 
 ChartPage::ChartPage(HoroscopeDocument& document)
     : HoroscopePage(document),
-      rashi_(new HoroscopeChart("rashiChart")),
-      chalit_(new HoroscopeChart("chalitChart")),
+      rashi_(new ChartView("rashiChart")),
+      chalit_(new ChartView("chalitChart")),
       planets_(new CatalogueTable(document, "PlanetTable")),
       cusps_(new CatalogueTable(document, "CuspTable")),
       ruling_(new CatalogueTable(document, "RulingPlanets")),
@@ -27,6 +27,7 @@ ChartPage::ChartPage(HoroscopeDocument& document)
   ofBirth_->setObjectName("rulingOfBirth");
   ofNow_->setObjectName("rulingOfNow");
   ofBirth_->setChecked(true);
+  planets_->View().FreezeFirstColumn();
   auto* halves = new QSplitter(Qt::Horizontal);
   halves->setObjectName("chartHalves");
   halves->addWidget(LayOutCharts());
@@ -35,7 +36,7 @@ ChartPage::ChartPage(HoroscopeDocument& document)
   halves->setStretchFactor(1, 5);
   auto* layout = new QHBoxLayout(this);
   layout->addWidget(halves);
-  Remember(document.Place().Layout, *halves);
+  document.Place().Layout.Remember(*halves);
   Connect();
 }
 
@@ -44,7 +45,7 @@ QSplitter* ChartPage::LayOutCharts() {
   charts->setObjectName("charts");
   charts->addWidget(rashi_);
   charts->addWidget(chalit_);
-  Remember(Document().Place().Layout, *charts);
+  Document().Place().Layout.Remember(*charts);
   return charts;
 }
 
@@ -55,12 +56,12 @@ QSplitter* ChartPage::LayOutTables() {
   upper->addWidget(LayOutRulingPlanets());
   upper->setStretchFactor(0, 1);
   upper->setStretchFactor(1, 0);
-  Remember(Document().Place().Layout, *upper);
+  Document().Place().Layout.Remember(*upper);
   auto* tables = new QSplitter(Qt::Vertical);
   tables->setObjectName("chartTables");
   tables->addWidget(upper);
   tables->addWidget(cusps_);
-  Remember(Document().Place().Layout, *tables);
+  Document().Place().Layout.Remember(*tables);
   return tables;
 }
 
@@ -83,8 +84,8 @@ void ChartPage::Connect() {
   for (CatalogueTable* table : {planets_, cusps_, ruling_}) {
     connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
   }
-  for (HoroscopeChart* chart : {rashi_, chalit_}) {
-    connect(chart, &HoroscopeChart::CodeActivated, this, [this](const QString& code) {
+  for (ChartView* chart : {rashi_, chalit_}) {
+    connect(chart, &ChartView::CodeActivated, this, [this](const QString& code) {
       if (const auto row = PlanetOfText(Model(), code)) {
         emit PlanetActivated(*row);
       }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ui/horoscope/catalogue_table.h"
-#include "ui/horoscope/horoscope_chart.h"
+#include "ui/base/chart_view.h"
 #include "ui/horoscope/horoscope_page.h"
 
 class QRadioButton;
@@ -28,8 +28,8 @@ class ChartPage final : public HoroscopePage {
   void Connect();
   void ShowRulingPlanets();
 
-  HoroscopeChart* rashi_;
-  HoroscopeChart* chalit_;
+  ChartView* rashi_;
+  ChartView* chalit_;
   CatalogueTable* planets_;
   CatalogueTable* cusps_;
   CatalogueTable* ruling_;

@@ -37,7 +37,7 @@ DashaPage::DashaPage(HoroscopeDocument& document)
   halves->addWidget(LayOutSummaries());
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(halves, 1);
-  Remember(document.Place().Layout, *halves);
+  document.Place().Layout.Remember(*halves);
   for (std::size_t level = 0; level < lists_.size(); ++level) {
     Connect(level);
   }
@@ -51,7 +51,7 @@ QSplitter* DashaPage::LayOutLists() {
     list->View().setSelectionMode(QAbstractItemView::SingleSelection);
     lists->addWidget(list);
   }
-  Remember(Document().Place().Layout, *lists);
+  Document().Place().Layout.Remember(*lists);
   return lists;
 }
 
@@ -62,7 +62,7 @@ QSplitter* DashaPage::LayOutSummaries() {
     table->KeepOrder();
     summaries->addWidget(table);
   }
-  Remember(Document().Place().Layout, *summaries);
+  Document().Place().Layout.Remember(*summaries);
   return summaries;
 }
 

@@ -3,19 +3,19 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "ui/base/chart_view.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/catalogue_table.h"
-#include "ui/horoscope/horoscope_chart.h"
 #include "vedic/divisional.h"
 
 namespace orvex::ui {
 
 namespace {
 
-HoroscopeChart* MakeChart(const char* name, const chart::HoroscopeModel& model, char style,
-                          vedic::Division division, const char* title) {
-  auto* chart = new HoroscopeChart(name);
+ChartView* MakeChart(const char* name, const chart::HoroscopeModel& model, char style,
+                     vedic::Division division, const char* title) {
+  auto* chart = new ChartView(name);
   chart->SetPicture(report::DivisionPicture(vedic::BuildDivision(model, division), style, title));
   return chart;
 }

@@ -139,7 +139,7 @@ QWidget* RecalculationPage::LayOutResults() {
   auto* results = Named(new QSplitter(Qt::Vertical), "workTables");
   results->addWidget(Titled(tr("Cusps"), cusps_));
   results->addWidget(Titled(tr("Planets"), planets_));
-  Remember(Document().Place().Layout, *results);
+  Document().Place().Layout.Remember(*results);
   return results;
 }
 

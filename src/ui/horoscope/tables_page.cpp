@@ -29,13 +29,6 @@ QLabel* MakeCaptionLabel(const QString& objectName) {
   return label;
 }
 
-void Remember(LayoutMemory& memory, QSplitter& splitter) {
-  splitter.setChildrenCollapsible(false);
-  memory.RestoreSplitter(splitter);
-  QObject::connect(&splitter, &QSplitter::splitterMoved, &splitter,
-                   [&memory, &splitter] { memory.KeepSplitter(splitter); });
-}
-
 TablesPage::TablesPage(HoroscopeDocument& document, const PagePlan& plan)
     : HoroscopePage(document) {
   auto* layout = new QVBoxLayout(this);
@@ -50,7 +43,7 @@ TablesPage::TablesPage(HoroscopeDocument& document, const PagePlan& plan)
     rows->addWidget(MakeRow(plan, row));
   }
   layout->addWidget(rows, 1);
-  Remember(document.Place().Layout, *rows);
+  document.Place().Layout.Remember(*rows);
 }
 
 QSplitter* TablesPage::MakeRow(const PagePlan& plan, std::size_t row) {
@@ -62,7 +55,7 @@ QSplitter* TablesPage::MakeRow(const PagePlan& plan, std::size_t row) {
     tables_.push_back(table);
     splitter->addWidget(table);
   }
-  Remember(Document().Place().Layout, *splitter);
+  Document().Place().Layout.Remember(*splitter);
   return splitter;
 }
 

@@ -41,8 +41,4 @@ std::string chart::HoroscopeCaptions::*CaptionOf(const std::string& name);
 
 // A label whose text can be marked and copied.
 QLabel* MakeCaptionLabel(const QString& objectName);
-
-// Splitters that keep their places under their names.
-void Remember(LayoutMemory& memory, QSplitter& splitter);
-
 }  // namespace orvex::ui

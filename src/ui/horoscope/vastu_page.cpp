@@ -53,7 +53,7 @@ QSplitter* VastuPage::LayOutTables() {
   tables->setObjectName("vastuTables");
   tables->addWidget(impacts_);
   tables->addWidget(hits_);
-  Remember(Document().Place().Layout, *tables);
+  Document().Place().Layout.Remember(*tables);
   return tables;
 }
 

@@ -48,10 +48,8 @@ ClientLists::ClientLists(Workplace& place, QWidget* parent)
       remedies_(Named("remedyList")) {
   auto* columns = new QSplitter(Qt::Horizontal);
   columns->setObjectName("groupsAndClients");
-  columns->setChildrenCollapsible(false);
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName("clientsAndRemedies");
-  rows->setChildrenCollapsible(false);
   rows->addWidget(BuildClients());
   rows->addWidget(BuildRemedies());
   rows->setStretchFactor(0, 3);
@@ -60,6 +58,8 @@ ClientLists::ClientLists(Workplace& place, QWidget* parent)
   columns->addWidget(rows);
   columns->setStretchFactor(1, 1);
   columns->setSizes({18 * kGrid, 64 * kGrid});
+  place_.Layout.Remember(*rows);
+  place_.Layout.Remember(*columns);
   Column(this)->addWidget(columns);
   Connect();
 }

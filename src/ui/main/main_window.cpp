@@ -14,8 +14,7 @@
 
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
-#include "practice/export_list.h"
-#include "ui/base/message_boxes.h"
+#include "ui/base/export_table.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -118,7 +117,6 @@ void MainWindow::LayOut() {
   pages_->tabBar()->setDrawBase(false);
   AddPage(BuildClientsPage(), tr("Clients"));
   halves_->setObjectName("mainHalves");
-  halves_->setChildrenCollapsible(false);
   halves_->addWidget(pages_);
   halves_->addWidget(sky_);
   halves_->setStretchFactor(0, 1);
@@ -131,20 +129,19 @@ void MainWindow::LayOut() {
   if (!place_.Layout.RestoreWindow(*this)) {
     resize(1366, 720);
   }
-  if (!place_.Layout.RestoreSplitter(*halves_)) {
-    halves_->setSizes({84 * kGrid, 82 * kGrid});
-  }
+  halves_->setSizes({84 * kGrid, 82 * kGrid});
+  place_.Layout.Remember(*halves_);
 }
 
 QWidget* MainWindow::BuildClientsPage() {
   firstRun_ = new FirstRun(place_, *commands_->AddClient);
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName("clientsAndBirthdays");
-  rows->setChildrenCollapsible(false);
   rows->addWidget(lists_);
   rows->addWidget(BuildBirthdays());
   rows->setStretchFactor(0, 5);
   rows->setStretchFactor(1, 1);
+  place_.Layout.Remember(*rows);
   clientsPage_->addWidget(rows);
   clientsPage_->addWidget(firstRun_);
   return clientsPage_;
@@ -188,11 +185,14 @@ void MainWindow::Connect() {
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->setCurrentWidget(clientsPage_); });
   for (TableView* list : findChildren<TableView*>()) {
-    list->SetExport(
-        [this, list](const core::Table& table) { Export(table, list->accessibleName()); });
+    list->RememberWidths(place_.Layout);
+    list->SetExport([this, list](const core::Table& table) {
+      ExportTable(place_, *this, table, Typed(list->accessibleName()));
+    });
   }
-  lists_->ClientTable().SetExport(
-      [this](const core::Table& table) { Export(table, lists_->GroupName()); });
+  lists_->ClientTable().SetExport([this](const core::Table& table) {
+    ExportTable(place_, *this, table, Typed(lists_->GroupName()));
+  });
 }
 
 void MainWindow::Start() {
@@ -219,8 +219,9 @@ void MainWindow::ShowBirthdays() {
   const bool any = !birthdays.Rows.empty();
   birthdays_->SetTable(std::move(birthdays));
   birthdays_->SetExport(
-      any ? std::function<void(const core::Table&)>(
-                [this](const core::Table& table) { Export(table, birthdayCaption_->text()); })
+      any ? std::function<void(const core::Table&)>([this](const core::Table& table) {
+        ExportTable(place_, *this, table, Typed(birthdayCaption_->text()));
+      })
           : nullptr);
 }
 
@@ -246,19 +247,6 @@ void MainWindow::OpenCities() {
   dialog.exec();
 }
 
-void MainWindow::Export(const core::Table& table, const QString& title) {
-  const auto file = place_.Files.ChooseFileToWrite(this, "Export to spreadsheet",
-                                                   Typed(title + ".xlsx"), "Spreadsheets (*.xlsx)");
-  if (!file) {
-    return;
-  }
-  if (const auto refused = practice::ExportList(table, *file, Typed(title))) {
-    place_.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
-    return;
-  }
-  place_.Files.OpenWithDesktop(*file);
-}
-
 template <typename Box>
 void MainWindow::ShowBox() {
   Box box(this);
@@ -275,7 +263,6 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   place_.Layout.KeepWindow(*this);
-  place_.Layout.KeepSplitter(*halves_);
   event->accept();
   QApplication::quit();
 }

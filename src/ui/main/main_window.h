@@ -3,7 +3,6 @@
 
 #include <QMainWindow>
 
-#include "core/table.h"
 #include "ui/base/workplace.h"
 
 class QLabel;
@@ -48,7 +47,6 @@ class MainWindow final : public QMainWindow {
   void ShowSkyStatus();
   void OpenSettings();
   void OpenCities();
-  void Export(const core::Table& table, const QString& title);
   template <typename Box>
   void ShowBox();
 

@@ -20,6 +20,7 @@ namespace orvex::ui {
 namespace {
 
 constexpr int kMinute = 60000;  // milliseconds
+constexpr int kSmallestChart = 24 * kGrid;
 
 QLabel* PlainLabel(const char* name) {
   auto* label = new QLabel;
@@ -64,7 +65,7 @@ SkyPanel::SkyPanel(Workplace& place, QWidget* parent)
       day_(PlainLabel("skyDay")),
       city_(PlainLabel("skyCity")),
       moon_(PlainLabel("skyMoon")),
-      chart_(new ChartView),
+      chart_(new ChartView("skyChart", kSmallestChart)),
       ruling_(Table("skyRulingPlanets")),
       panchang_(Table("panchang")),
       planets_(Table("skyPlanets")) {
@@ -78,6 +79,7 @@ void SkyPanel::Build() {
   panchang_->setAccessibleName(tr("Panchang"));
   ruling_->setAccessibleName(tr("Ruling Planets"));
   planets_->setAccessibleName(tr("Sky View"));
+  planets_->FreezeFirstColumn();
   panchang_->horizontalHeader()->hide();
   panchang_->setSortingEnabled(false);
   panchang_->SetStretchColumn(3);
@@ -89,11 +91,11 @@ void SkyPanel::Build() {
   column->addWidget(panchang_);
   auto* halves = new QSplitter(Qt::Vertical);
   halves->setObjectName("skyHalves");
-  halves->setChildrenCollapsible(false);
   halves->addWidget(upper);
   halves->addWidget(planets_);
   halves->setStretchFactor(0, 3);
   halves->setStretchFactor(1, 2);
+  place_.Layout.Remember(*halves);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(header_);
@@ -116,7 +118,6 @@ QWidget* SkyPanel::BuildHeader() {
 }
 
 QWidget* SkyPanel::BuildChart() {
-  chart_->setObjectName("skyChart");
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -1,0 +1,22 @@
+#include "ui/base/export_table.h"
+
+#include "practice/export_list.h"
+#include "ui/base/file_dialogs.h"
+
+namespace orvex::ui {
+
+void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
+                 const std::string& title) {
+  const auto file = place.Files.ChooseFileToWrite(&parent, "Export to spreadsheet", title + ".xlsx",
+                                                  "Spreadsheets (*.xlsx)");
+  if (!file) {
+    return;
+  }
+  if (const auto refused = practice::ExportList(table, *file, title)) {
+    place.Session.Shown.ShowMessage(refused->Text, core::MessageButtons::Ok, refused->Icon);
+    return;
+  }
+  place.Files.OpenWithDesktop(*file);
+}
+
+}  // namespace orvex::ui
