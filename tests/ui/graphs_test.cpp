@@ -85,6 +85,12 @@ TEST_F(Graphs, TheMonthGraphShowsTheMonthAskedForAndTellsWhatIsUnderThePointer) 
   const QString hint = HintAt(view, layout.Lines.at(0).Code.Box.center());
   EXPECT_TRUE(hint.startsWith("Sun in Scorpio (Nakshatra: Anuradha, Pada: 4)\n30 November 2026, "))
       << hint.toStdString();
+  std::vector<std::size_t> chosen;
+  QObject::connect(&view, &MonthGraphView::CellChosen, [&](std::size_t row, std::size_t column) {
+    chosen = {row, column};
+  });
+  QTest::mouseClick(&view, Qt::LeftButton, {}, layout.Lines.at(6).Code.Box.center().toPoint());
+  EXPECT_EQ(chosen, (std::vector<std::size_t>{29, 7}));
   view.ShowMonth(transit::UserCityView(*session_), 2, 2024);
   EXPECT_EQ(view.Picture().Days.size(), 29U);
   EXPECT_FALSE(view.Picture().Today);

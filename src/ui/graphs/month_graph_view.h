@@ -19,12 +19,21 @@ class MonthGraphView final : public GraphView {
 
   const MonthPicture& Picture() const { return picture_; }
 
+ signals:
+  // A planet's line was clicked: the cell of the grid that it stands for.
+  void CellChosen(std::size_t row, std::size_t column);
+
  protected:
   std::string Title() const override { return picture_.Title; }
   void PaintGraph(QPainter& painter, const QRectF& area, Ground ground) const override;
   QString HintAt(const QPointF& point) const override;
 
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
  private:
+  std::optional<transit::CellPlace> CellUnder(const QPointF& point) const;
+
   MonthPicture picture_;
 };
 

@@ -3,10 +3,10 @@
 #include <QFontMetricsF>
 #include <QLineF>
 #include <algorithm>
-#include <cmath>
 #include <numeric>
 
 #include "chart/zodiac_lookups.h"
+#include "core/cell_colors.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 
@@ -214,24 +214,44 @@ QString MarkHint(const MonthPicture& picture, const PlacedMark& mark) {
                date(mark.Mark.Row));
 }
 
-// The nearest row of a planet: its cell tells sign, star and quarter, and ends with the degree
-// within the sign.
-QString PlanetHint(const MonthPicture& picture, const transit::PlanetSeries& series,
-                   const MonthLayout& layout, double x) {
+// The column of the grid that a series was made from.
+std::size_t ColumnOf(const MonthPicture& picture, const transit::PlanetSeries& series) {
+  const std::vector<core::Column>& columns = picture.Grid.Columns;
+  const auto found = std::find_if(columns.begin(), columns.end(), [&](const core::Column& column) {
+    return column.Caption == series.Planet;
+  });
+  return static_cast<std::size_t>(found - columns.begin());
+}
+
+std::size_t RowAt(const MonthPicture& picture, const MonthLayout& layout, std::size_t line,
+                  double x) {
   const double width = layout.Plot.width() / static_cast<double>(picture.Days.size());
-  const std::int64_t last = static_cast<std::int64_t>(series.Longitudes.size()) - 1;
-  const auto row = static_cast<std::size_t>(
-      std::clamp<std::int64_t>(core::Floor((x - layout.Plot.left()) / width), 0, last));
-  const core::Row& cells = picture.Grid.Rows.at(row);
-  for (std::size_t column = 1; column < picture.Grid.Columns.size(); ++column) {
-    if (picture.Grid.Columns[column].Caption == series.Planet) {
-      const core::Cell& cell = cells.Cells.at(column);
-      return Shown(cell.Tooltip + "\n" + core::LongDateText(picture.Days[row], false) + ", " +
-                   core::Split(cell.Text, ' ').back() +
-                   (series.Retrograde[row] ? "° retrograde" : "°"));
+  const auto rows = static_cast<std::int64_t>(picture.Series[line].Longitudes.size());
+  return static_cast<std::size_t>(
+      std::clamp<std::int64_t>(core::Floor((x - layout.Plot.left()) / width), 0, rows - 1));
+}
+
+// The cell tells sign, star and quarter, and ends with the degree within the sign.
+QString CellHint(const MonthPicture& picture, const transit::CellPlace& place) {
+  const core::Cell& cell = picture.Grid.Rows.at(place.Row).Cells.at(place.Column);
+  return Shown(cell.Tooltip + "\n" + core::LongDateText(picture.Days[place.Row], false) + ", " +
+               core::Split(cell.Text, ' ').back() + "°" +
+               (cell.Foreground == core::kRed ? " retrograde" : ""));
+}
+
+const PlacedMark* MarkAt(const MonthLayout& layout, const QPointF& point) {
+  double nearest = kReach;
+  const PlacedMark* found = nullptr;
+  for (const PlanetLine& line : layout.Lines) {
+    for (const PlacedMark& mark : line.Marks) {
+      const double distance = QLineF(point, mark.At).length();
+      if (distance < nearest) {
+        nearest = distance;
+        found = &mark;
+      }
     }
   }
-  return {};
+  return found;
 }
 
 }  // namespace
@@ -275,28 +295,28 @@ MonthLayout LayOutMonth(const MonthPicture& picture, const QFont& font, const QR
   return layout;
 }
 
-QString MonthHint(const MonthPicture& picture, const MonthLayout& layout, const QPointF& point) {
+std::optional<transit::CellPlace> CellAt(const MonthPicture& picture, const MonthLayout& layout,
+                                         const QPointF& point) {
   double nearest = kReach;
-  QString hint;
+  std::optional<transit::CellPlace> cell;
   for (std::size_t i = 0; i < layout.Lines.size(); ++i) {
     const double distance = Distance(point, layout.Lines[i]);
     if (distance < nearest) {
       nearest = distance;
-      hint = PlanetHint(picture, picture.Series[i], layout, point.x());
+      cell = transit::CellPlace{RowAt(picture, layout, i, point.x()),
+                                ColumnOf(picture, picture.Series[i])};
     }
   }
+  return cell;
+}
+
+QString MonthHint(const MonthPicture& picture, const MonthLayout& layout, const QPointF& point) {
   // A mark lies on its line: within reach, it is what is meant.
-  nearest = kReach;
-  for (const PlanetLine& line : layout.Lines) {
-    for (const PlacedMark& mark : line.Marks) {
-      const double distance = QLineF(point, mark.At).length();
-      if (distance < nearest) {
-        nearest = distance;
-        hint = MarkHint(picture, mark);
-      }
-    }
+  if (const PlacedMark* mark = MarkAt(layout, point)) {
+    return MarkHint(picture, *mark);
   }
-  return hint;
+  const auto cell = CellAt(picture, layout, point);
+  return cell ? CellHint(picture, *cell) : QString();
 }
 
 }  // namespace orvex::ui

@@ -64,6 +64,11 @@ struct MonthLayout {
 
 MonthLayout LayOutMonth(const MonthPicture& picture, const QFont& font, const QRectF& area);
 
+// The cell of the grid that a point of a planet's line, or its code, stands for: that of the
+// nearest row. Nothing where no line is near.
+std::optional<transit::CellPlace> CellAt(const MonthPicture& picture, const MonthLayout& layout,
+                                         const QPointF& point);
+
 // What stands at a point: a mark with the days between which it falls, or a planet with the date,
 // its sign and degree in the nearest row. "" where nothing is near.
 QString MonthHint(const MonthPicture& picture, const MonthLayout& layout, const QPointF& point);
