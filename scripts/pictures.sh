@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
 # Writes pictures of every window, light and dark, at 1366 x 768 and at 200 per cent, from the real
-# windows: scripts/pictures.sh [FOLDER]
+# windows: scripts/pictures.sh [FOLDER]. With --guide also those of the user guide, small, into
+# docs/guide/pictures.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+guide=
+if [ "${1:-}" = "--guide" ]; then guide=docs/guide/pictures; shift; fi
 folder=${1:-build-pictures}
 
 cmake --preset test >/dev/null
@@ -17,3 +20,13 @@ for theme in light dark; do
   done
 done
 echo "Pictures lie in $folder."
+
+# The guide's own names are those that its pages ask for.
+[ -n "$guide" ] || exit 0
+mkdir -p "$guide"
+for name in $(grep -ohE 'pictures/[a-z-]+\.png' docs/guide/*.md | sort -u | sed 's|pictures/||'); do
+  from="$folder/light-100/$name"
+  [ -f "$from" ] || from="$folder/light-100/horoscope/$name"
+  convert "$from" -strip +dither -colors 96 -define png:compression-level=9 "PNG8:$guide/$name"
+done
+echo "Pictures of the guide lie in $guide."

@@ -4,6 +4,7 @@
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
+#include "core/staged_files.h"
 #include "core/text.h"
 #include "report/chart_cells.h"
 #include "report/chart_picture.h"
@@ -38,7 +39,7 @@ void PrintCells(const char* caption, const std::array<core::Cell, chart::kHouses
   PrintTable(table);
 }
 
-// Both charts as PNG and SVG, named as those of the report.
+// Both charts in every format, named as those of the report.
 void WritePictures(const report::ChartCells& cells, char style, const std::string& clientId,
                    const std::filesystem::path& folder) {
   constexpr int kSide = 1200;
@@ -46,12 +47,17 @@ void WritePictures(const report::ChartCells& cells, char style, const std::strin
     throw CommandFailed("The folder " + folder.string() + " could not be made.");
   }
   const ui::OffscreenPainting painting;
+  core::StagedFiles files;
   for (const auto& [name, picture] : {std::pair{"Rashi-", report::RashiPicture(cells, style)},
                                       std::pair{"Chalit-", report::ChalitPicture(cells, style)}}) {
     const std::string file = (folder / (name + clientId)).string();
-    ui::WriteChartPicture(picture, ui::PictureFormat::Png, kSide, file + ".png");
-    ui::WriteChartPicture(picture, ui::PictureFormat::Svg, kSide, file + ".svg");
+    for (const auto& [ending, format] :
+         {std::pair{".bmp", ui::PictureFormat::Bmp}, std::pair{".png", ui::PictureFormat::Png},
+          std::pair{".svg", ui::PictureFormat::Svg}}) {
+      files.Add(file + ending, ui::ChartPictureBytes(picture, format, kSide));
+    }
   }
+  files.Commit();
 }
 
 void RunCharts(Context& context, const ChartStyleOptions& options, const std::string& pictures) {
@@ -91,7 +97,7 @@ void AddChartsCommands(CLI::App& app, Context& context) {
       AddCommand(app, "charts", "the cells of a client's charts",
                  [&context, options, pictures] { RunCharts(context, *options, *pictures); });
   AddStyleOptions(*command, *options);
-  command->add_option("--picture", *pictures, "a folder: the charts there as PNG and SVG");
+  command->add_option("--picture", *pictures, "a folder: the charts there as BMP, PNG and SVG");
 }
 
 }  // namespace orvex::cli

@@ -4,6 +4,7 @@
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "practice/demo_home.h"
 #include "practice/groups.h"
 
 namespace orvex::cli {
@@ -78,15 +79,29 @@ const core::Clock& Context::Time() {
   return *clock_;
 }
 
+core::StartupPlan Context::Plan(core::StartMode mode) const {
+  if (Demo) {
+    return practice::DemoPlan(mode);
+  }
+  return {core::Home{core::HomeFolder(HomeOption)}, core::ShippedDataFolder(),
+          core::MachineSettings::DefaultFile(), mode};
+}
+
+std::unique_ptr<core::Session> Context::Start(const core::StartupPlan& plan) {
+  std::unique_ptr<core::Session> session = core::RunStartup(plan, Time(), messages_, ephemeris_);
+  if (!session) {
+    throw CommandFailed("");
+  }
+  return session;
+}
+
 core::Session& Context::Open(core::StartMode mode) {
   if (!session_) {
-    const core::StartupPlan plan{core::Home{core::HomeFolder(HomeOption)},
-                                 core::ShippedDataFolder(), core::MachineSettings::DefaultFile(),
-                                 mode};
-    session_ = core::RunStartup(plan, Time(), messages_, ephemeris_);
-    if (!session_) {
-      throw CommandFailed("");
+    const core::StartupPlan plan = Plan(mode);
+    if (Demo && practice::NeedsDemoClients(plan.Place)) {
+      practice::FillDemo(*Start(Plan(core::StartMode::Writer)), plan.ShippedData);
     }
+    session_ = Start(plan);
   }
   return *session_;
 }

@@ -32,11 +32,15 @@ class Context {
  public:
   std::string HomeOption;
   std::string NowOption;
+  bool Demo = false;  // the demonstration in place of a home
   bool Json = false;
 
   // The session of a command, started at the first call. CommandFailed where the start is refused.
   core::Session& Reading() { return Open(core::StartMode::Reader); }
   core::Session& Writing() { return Open(core::StartMode::Writer); }
+
+  // How the session of a command starts.
+  core::StartupPlan Plan(core::StartMode mode) const;
 
   // The clock of the run.
   const core::Clock& Time();
@@ -51,6 +55,7 @@ class Context {
   bool EphemerisFailed() const { return ephemeris_.Failed(); }
 
  private:
+  std::unique_ptr<core::Session> Start(const core::StartupPlan& plan);
   core::Session& Open(core::StartMode mode);
 
   std::unique_ptr<core::Clock> clock_;

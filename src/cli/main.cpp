@@ -18,7 +18,8 @@ int CallOff(const CLI::App& app, const CLI::ParseError& error) {
     return app.exit(error);
   }
   std::cerr << error.what() << "\nUsage: " << app.get_name()
-            << " [--home DIR] [--now \"YYYY-MM-DD HH:MM:SS\"] COMMAND ...  (--help tells more)\n";
+            << " [--home DIR | --demo] [--now \"YYYY-MM-DD HH:MM:SS\"] COMMAND ...  (--help tells "
+               "more)\n";
   return kCallOff;
 }
 
@@ -42,7 +43,8 @@ int RunProgram(int argc, char** argv) {
   CLI::App app("Orvex+ at the command line: charts and client records without a window",
                "orvex-cli");
   app.set_version_flag("--version", orvex::core::ProgramVersion());
-  app.add_option("--home", context.HomeOption, "the install folder");
+  CLI::Option* home = app.add_option("--home", context.HomeOption, "the install folder");
+  app.add_flag("--demo", context.Demo, "the demonstration in a home of its own")->excludes(home);
   app.add_option("--now", context.NowOption, "the clock of the run, YYYY-MM-DD HH:MM:SS");
   app.add_flag("--json", context.Json, "print one JSON document");
   app.require_subcommand(1);

@@ -37,8 +37,8 @@ report::ReportRequest RequestOf(Context& context, const ReportOptions& options) 
   report::ReportRequest request;
   request.Detail = DetailOf(options.Detail);
   request.Style = StyleOf(context, {options.Id, options.Style});
-  request.Paint = [](const report::ChartPicture& picture, const std::filesystem::path& file) {
-    ui::WriteChartPicture(picture, ui::PictureFormat::Bmp, kPictureSide, file);
+  request.Paint = [](const report::ChartPicture& picture) {
+    return ui::ChartPictureBytes(picture, ui::PictureFormat::Bmp, kPictureSide);
   };
   return request;
 }

@@ -42,13 +42,12 @@ int PlanetId(const core::Session& session, const char* option, const std::string
   throw CommandFailed(std::string(option) + ": there is no planet of that name");
 }
 
-// The five planets that the retrograde list offers have the ids 3 to 7.
 int RetrogradeId(const core::Session& session, const std::string& name) {
   if (core::UpperCase(name) == "IGNORE") {
     return 0;
   }
   const int id = PlanetId(session, "--retro", name);
-  if (id < 3 || id > 7) {
+  if (id < practice::kFirstRetrogradeId || id > practice::kLastRetrogradeId) {
     throw CommandFailed("--retro takes Mercury, Venus, Mars, Jupiter or Saturn");
   }
   return id;

@@ -24,7 +24,7 @@ void RunBackup(Context& context) {
 
 // A store that can't be opened is restored too, so no session is started before.
 void RunRestore(Context& context, const std::string& file) {
-  const core::Home home{core::HomeFolder(context.HomeOption)};
+  const core::Home home = context.Plan(core::StartMode::Writer).Place;
   constexpr std::chrono::milliseconds kPatience{2000};
   if (!core::MakePrivateFolders(home.DataFolder())) {
     throw CommandFailed("The home could not be made.");

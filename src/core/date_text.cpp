@@ -65,22 +65,37 @@ std::optional<int> ReadDigits(std::string_view text) {
   return value;
 }
 
+struct Numbers {
+  std::array<int, 3> Values{};
+  std::size_t Count = 0;
+};
+
+// Two or three numbers with a separator between them; the third is 0 where it is missing.
+std::optional<Numbers> ReadNumbers(std::string_view text, char separator) {
+  Numbers numbers;
+  std::size_t start = 0;
+  while (start <= text.size()) {
+    const std::size_t end = std::min(text.find(separator, start), text.size());
+    const std::optional<int> number = ReadDigits(text.substr(start, end - start));
+    if (!number || numbers.Count == numbers.Values.size()) {
+      return std::nullopt;
+    }
+    numbers.Values.at(numbers.Count++) = *number;
+    start = end + 1;
+  }
+  return numbers.Count < 2 ? std::nullopt : std::optional(numbers);
+}
+
 // "HH:MM" or "HH:MM:SS" into the parts.
 bool ReadTime(std::string_view text, DateParts& parts) {
-  const std::vector<std::string> pieces = Split(text, ':');
-  if (pieces.size() != 2 && pieces.size() != 3) {
-    return false;
+  const std::optional<Numbers> time = ReadNumbers(text, ':');
+  if (time) {
+    const auto [hour, minute, second] = time->Values;
+    parts.Hour = hour;
+    parts.Minute = minute;
+    parts.Second = second;
   }
-  const std::optional<int> hour = ReadDigits(pieces[0]);
-  const std::optional<int> minute = ReadDigits(pieces[1]);
-  const std::optional<int> second = pieces.size() == 3 ? ReadDigits(pieces[2]) : 0;
-  if (!hour || !minute || !second) {
-    return false;
-  }
-  parts.Hour = *hour;
-  parts.Minute = *minute;
-  parts.Second = *second;
-  return true;
+  return time.has_value();
 }
 
 // The hour of a 24-hour clock from that of an AM/PM clock.
@@ -222,17 +237,12 @@ std::string StoredDateTimeText(DateTime moment) {
 
 std::optional<DateTime> ParseDateTime(std::string_view text) {
   const std::size_t gap = text.find_first_of(" T");
-  const std::vector<std::string> date = Split(text.substr(0, gap), '-');
-  if (date.size() != 3) {
+  const std::optional<Numbers> date = ReadNumbers(text.substr(0, gap), '-');
+  if (!date || date->Count != 3) {
     return std::nullopt;
   }
-  const std::optional<int> year = ReadDigits(date[0]);
-  const std::optional<int> month = ReadDigits(date[1]);
-  const std::optional<int> day = ReadDigits(date[2]);
-  if (!year || !month || !day) {
-    return std::nullopt;
-  }
-  DateParts parts{*year, *month, *day};
+  const auto [year, month, day] = date->Values;
+  DateParts parts{year, month, day};
   if (gap != std::string_view::npos && !ReadTime(text.substr(gap + 1), parts)) {
     return std::nullopt;
   }
@@ -251,17 +261,12 @@ std::optional<DateTime> ParseDateLiteral(std::string_view text) {
   if (pieces.empty() || pieces.size() > 3) {
     return std::nullopt;
   }
-  const std::vector<std::string> date = Split(pieces[0], '/');
-  if (date.size() != 3) {
+  const std::optional<Numbers> date = ReadNumbers(pieces[0], '/');
+  if (!date || date->Count != 3) {
     return std::nullopt;
   }
-  const std::optional<int> month = ReadDigits(date[0]);
-  const std::optional<int> day = ReadDigits(date[1]);
-  const std::optional<int> year = ReadDigits(date[2]);
-  if (!year || !month || !day) {
-    return std::nullopt;
-  }
-  DateParts parts{*year, *month, *day};
+  const auto [month, day, year] = date->Values;
+  DateParts parts{year, month, day};
   const bool read = (pieces.size() < 2 || ReadTime(pieces[1], parts)) &&
                     (pieces.size() < 3 || TakeHalf(UpperCase(pieces[2]), parts));
   return read ? MakeDateTime(parts) : std::nullopt;

@@ -11,6 +11,8 @@
 #include <thread>
 #include <utility>
 
+#include "core/staged_files.h"
+
 namespace orvex::core {
 
 namespace fs = std::filesystem;
@@ -20,6 +22,13 @@ namespace {
 std::string Environment(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? "" : value;
+}
+
+// A folder under the "share" beside the installed program; where there is none, that of the build.
+fs::path InstalledOr(const char* folder, const char* built) {
+  const fs::path installed = ProgramFolder() / ".." / "share" / folder;
+  std::error_code error;
+  return fs::is_directory(installed, error) ? fs::canonical(installed) : fs::path(built);
 }
 
 }  // namespace
@@ -75,6 +84,11 @@ FileLock::~FileLock() {
   }
 }
 
+fs::path UserDataFolder() {
+  const std::string data = Environment("XDG_DATA_HOME");
+  return data.empty() ? fs::path(Environment("HOME")) / ".local" / "share" : fs::path(data);
+}
+
 fs::path HomeFolder(const std::string& option) {
   if (!option.empty()) {
     return option;
@@ -87,10 +101,7 @@ fs::path HomeFolder(const std::string& option) {
   if (fs::is_directory(program / "Data", error)) {
     return program;
   }
-  if (const std::string data = Environment("XDG_DATA_HOME"); !data.empty()) {
-    return fs::path(data) / "orvex";
-  }
-  return fs::path(Environment("HOME")) / ".local" / "share" / "orvex";
+  return UserDataFolder() / "orvex";
 }
 
 fs::path ProgramFolder() {
@@ -99,12 +110,9 @@ fs::path ProgramFolder() {
   return error ? fs::path() : program.parent_path();
 }
 
-fs::path ShippedDataFolder() {
-  const fs::path installed = ProgramFolder() / ".." / "share" / "orvex";
-  std::error_code error;
-  return fs::is_directory(installed, error) ? fs::canonical(installed)
-                                            : fs::path(ORVEX_DATA_FOLDER);
-}
+fs::path ShippedDataFolder() { return InstalledOr("orvex", ORVEX_DATA_FOLDER); }
+
+fs::path GuideFile() { return InstalledOr("doc/orvex/guide", ORVEX_GUIDE_FOLDER) / "index.html"; }
 
 std::string ReadTextFile(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);
@@ -118,25 +126,9 @@ std::string ReadTextFile(const fs::path& file) {
 }
 
 void WriteFileSafely(const fs::path& file, const std::string& content) {
-  // A name of its own for each writer: two that write at once must not share a file.
-  std::string beside = file.string() + ".XXXXXX";
-  const int descriptor = ::mkstemp(beside.data());
-  if (descriptor < 0) {
-    throw std::runtime_error("the file " + file.string() + " could not be written");
-  }
-  ::close(descriptor);
-  std::ofstream stream(beside, std::ios::binary | std::ios::trunc);
-  stream << content;
-  stream.close();
-  std::error_code error;
-  if (stream) {
-    fs::rename(beside, file, error);
-  }
-  if (!stream || error) {
-    std::error_code ignored;
-    fs::remove(beside, ignored);
-    throw std::runtime_error("the file " + file.string() + " could not be written");
-  }
+  StagedFiles files;
+  files.Add(file, content);
+  files.Commit();
 }
 
 }  // namespace orvex::core

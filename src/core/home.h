@@ -18,6 +18,9 @@ struct Home {
   std::filesystem::path LockFile() const { return Folder / ".lock"; }
 };
 
+// Where the user's data folders lie: $XDG_DATA_HOME, else ~/.local/share.
+std::filesystem::path UserDataFolder();
+
 // The home of a run: the option given, else $ORVEX_HOME, else the program's folder if it holds
 // "Data", else the user's data folder.
 std::filesystem::path HomeFolder(const std::string& option);
@@ -51,6 +54,9 @@ class FileLock {
 // The folder of the reference tables and templates: beside the installed program, else that of the
 // source tree that it was built from.
 std::filesystem::path ShippedDataFolder();
+
+// The first page of the user guide: beside the installed program, else in the build folder.
+std::filesystem::path GuideFile();
 
 // The folder of the running program.
 std::filesystem::path ProgramFolder();

@@ -60,7 +60,7 @@ class Result {
   // Nothing for Null and for a text that is no stored moment.
   std::optional<DateTime> Moment(std::string_view field) const;
 
-  std::vector<std::string> FieldNames() const;
+  std::vector<std::string> FieldNames() const { return names_; }
 
  private:
   friend class Store;
@@ -68,6 +68,7 @@ class Result {
   int Field(std::string_view name) const;
 
   StatementHandle statement_;
+  std::vector<std::string> names_;  // asked of the engine once: rows are read by the 100,000
   bool atEnd_ = false;
 };
 

@@ -28,6 +28,11 @@ enum class RemedyResultColumn {
 
 inline constexpr const char* kEmptyResultLine = "Search Result(s):";
 
+// The planets that can be searched for as retrograde: planet_master.id of Mercury and of Saturn,
+// and all between.
+inline constexpr int kFirstRetrogradeId = 3;
+inline constexpr int kLastRetrogradeId = 7;
+
 struct SearchFilter {
   SearchMode Mode = SearchMode::Clients;
   std::optional<std::vector<std::int32_t>> GroupIds;  // nothing: all groups

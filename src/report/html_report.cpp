@@ -6,6 +6,7 @@
 #include "core/attempt.h"
 #include "core/cell_colors.h"
 #include "core/exact_numbers.h"
+#include "core/staged_files.h"
 #include "core/text.h"
 #include "report/html_fragments.h"
 #include "vedic/lo_shu.h"
@@ -270,10 +271,10 @@ std::string PathInUrl(const std::filesystem::path& file) {
   return core::ReplaceAll(url, "?", "%3F");
 }
 
-// Paints a chart into the chart folder and gives the tag that shows it.
+// Paints a chart into a file of the chart folder and gives the tag that shows it.
 std::string PictureTag(const ReportRequest& request, const ChartPicture& picture,
-                       const std::filesystem::path& file) {
-  request.Paint(picture, file);
+                       const std::filesystem::path& file, core::StagedFiles& files) {
+  files.Add(file, request.Paint(picture));
   return "<img src='" + EscapeAttribute(PathInUrl(file)) + "'>";
 }
 
@@ -309,18 +310,19 @@ std::filesystem::path GenerateHoroscopeView(core::Session& session,
   }
   const ChartCells cells = BuildChartCells(opened.Model);
   const std::string clientId = core::PaddedWhole(opened.Model.ClientId, 1);
+  core::StagedFiles files;
   ChartFragments charts;
   if (request.Style == 'S') {
     charts = {SouthGridHtml(cells.SouthRashi), SouthGridHtml(cells.SouthKP)};
   } else {
     charts = {PictureTag(request, RashiPicture(cells, request.Style),
-                         folder / ("Rashi-" + clientId + ".bmp")),
+                         folder / ("Rashi-" + clientId + ".bmp"), files),
               PictureTag(request, ChalitPicture(cells, request.Style),
-                         folder / ("Chalit-" + clientId + ".bmp"))};
+                         folder / ("Chalit-" + clientId + ".bmp"), files)};
   }
   const std::filesystem::path file = folder / (clientId + ".htm");
-  core::WriteFileSafely(file,
-                        FillTemplate(session, opened.Model, request.Detail, charts, templateText));
+  files.Add(file, FillTemplate(session, opened.Model, request.Detail, charts, templateText));
+  files.Commit();
   return file;
 }
 

@@ -15,9 +15,8 @@ namespace orvex::report {
 // How deep the tables of periods go: 81, 729 or 6561 rows.
 enum class ReportDetail { DB, DBA, DBAS };
 
-// Paints a chart into a bitmap file.
-using ChartPainter =
-    std::function<void(const ChartPicture& picture, const std::filesystem::path& file)>;
+// Paints a chart and gives the bytes of a bitmap file.
+using ChartPainter = std::function<std::string(const ChartPicture& picture)>;
 
 struct ReportRequest {
   ReportDetail Detail = ReportDetail::DB;
@@ -26,9 +25,10 @@ struct ReportRequest {
 };
 
 // Writes <clientid>.htm into the chart folder, beside it the two pictures for styles 'N' and 'E',
-// and gives its path. The old report stays whole until the new one is. Where the template is
-// missing the program's message is shown, nothing is written and the path is empty.
-// std::runtime_error where the chart folder can't be written.
+// and gives its path. All of them are written before one takes its place, so that a failure leaves
+// the old report with its own pictures. Where the template is missing the program's message is
+// shown, nothing is written and the path is empty. std::runtime_error where the chart folder can't
+// be written.
 std::filesystem::path GenerateHoroscopeView(core::Session& session,
                                             const horoscope::OpenedHoroscope& opened,
                                             const ReportRequest& request);

@@ -2,37 +2,17 @@
 """Calls orvex-cli as a user does and checks exit status, standard output and standard error."""
 import json
 import os
-import subprocess
-import sys
-import tempfile
 import unittest
 import zipfile
 from xml.etree import ElementTree
 
-PROGRAM = os.path.abspath(sys.argv.pop())
-BIRTH = ["--birth", "1990-07-05 14:30", "--city", "1"]
+from calling import BIRTH, PROGRAM, CommandLineTest
+
 CHART = ["chart", "--birth", "1990-07-05 14:30", "--offset", "5.5",
          "--latitude", "19.07", "--longitude", "72.88"]
 
 
-class CommandLine(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory(prefix="cli-")
-        self.addCleanup(folder.cleanup)
-        self.home = os.path.join(folder.name, "home")
-        self.environment = {"XDG_CONFIG_HOME": os.path.join(folder.name, "config"),
-                            "PATH": os.environ["PATH"], "LC_ALL": "de_DE.UTF-8"}
-
-    def call(self, *arguments):
-        done = subprocess.run([PROGRAM, "--home", self.home, *arguments], capture_output=True,
-                              text=True, check=False, env=self.environment)
-        return done.returncode, done.stdout, done.stderr
-
-    def succeed(self, *arguments):
-        status, out, err = self.call(*arguments)
-        self.assertEqual((status, err), (0, ""), arguments)
-        return out
-
+class CommandLine(CommandLineTest):
     def test_a_client_is_added_shown_listed_and_edited(self):
         name = "O'Neil; Drop table \"x\" % \u0905"
         self.assertEqual(self.succeed("client", "add", "--name", name, *BIRTH), "1\n")

@@ -3,6 +3,7 @@
 
     package_test.py BUILD_FOLDER
 """
+import html.parser
 import os
 import pathlib
 import subprocess
@@ -18,6 +19,33 @@ def run(*words, **options):
 def expect(done, wanted, what):
     if not wanted:
         sys.exit(f"{what}: exit {done.returncode}\n{done.stdout}\n{done.stderr}")
+
+
+class Addresses(html.parser.HTMLParser):
+    """The links, pictures and styles that a page names."""
+
+    def __init__(self, page):
+        super().__init__()
+        self.found = []
+        self.feed(page.read_text(encoding="utf8"))
+
+    def handle_starttag(self, tag, attrs):
+        self.found += [value for name, value in attrs if name in ("href", "src")]
+
+
+def check_guide(folder):
+    """Every page and picture of the guide is led to, and every address leads somewhere."""
+    led_to = {folder / "index.html", folder / "guide.css"}
+    for page in folder.glob("*.html"):
+        for address in Addresses(page).found:
+            if address.startswith("https://"):
+                continue
+            led_to.add(folder / address)
+            if not (folder / address).is_file():
+                sys.exit(f"{page.name} leads to {address}, which is not there")
+    there = {file for file in folder.rglob("*") if file.is_file()}
+    if len(there) < 20 or there != led_to:
+        sys.exit(f"nothing in the guide leads to {there - led_to}")
 
 
 def main():
@@ -40,6 +68,8 @@ def main():
             if not (root / "usr" / file).exists():
                 sys.exit(f"{file} is not in the package")
 
+        check_guide(root / "usr/share/doc/orvex/guide")
+
         # The program must find its tables beside itself, not in the tree that it was built from.
         program, home = root / "usr/bin/orvex-cli", scratch / "home"
         template = root / "usr/share/orvex/HoroscopeTemplate.htm"
@@ -50,6 +80,10 @@ def main():
         expect(saved, saved.returncode == 0 and saved.stdout.strip() == "1", "client add")
         own = (home / "HoroscopeTemplate.htm").read_text(encoding="utf8")
         expect(saved, "the installed one" in own, "the template of the new home")
+
+        bare = {**os.environ, "XDG_DATA_HOME": str(scratch / "data")}
+        demo = run(program, "--demo", "client", "list", env=bare)
+        expect(demo, demo.returncode == 0 and "Albert Einstein" in demo.stdout, "--demo")
 
         # Without a display the workbench says so and ends.
         bare = {k: v for k, v in os.environ.items()

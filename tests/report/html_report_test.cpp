@@ -1,6 +1,8 @@
 #include "report/html_report.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 
 #include "chart/client_saving.h"
 #include "core/text.h"
@@ -51,8 +53,8 @@ class HtmlReport : public testing::Test {
 
   fs::path Generate(char style) {
     return GenerateHoroscopeView(*session_, Open(),
-                                 {ReportDetail::DB, style, [](const auto&, const fs::path& file) {
-                                    std::ofstream(file) << "picture";
+                                 {ReportDetail::DB, style, [this](const auto& picture) {
+                                    return picture_ + picture.Title;
                                   }});
   }
 
@@ -61,6 +63,7 @@ class HtmlReport : public testing::Test {
   test::TestHome home_;
   std::unique_ptr<core::Session> session_ = home_.Start();
   std::int32_t id_ = 0;
+  std::string picture_ = "picture ";
 };
 
 TEST_F(HtmlReport, TypedTextsAreShownAsTypedAndAreNoPlaceholders) {
@@ -234,6 +237,28 @@ TEST_F(HtmlReport, AFolderThatCannotBeWrittenLeavesTheOldReport) {
   session_->State.ChartPath = inTheWay.string();
   EXPECT_THROW(Generate('S'), std::runtime_error);
   EXPECT_EQ(test::ReadFile(inTheWay), "old");
+}
+
+// The last of the three files fails: the pictures of the old report must not be those of a new one.
+TEST_F(HtmlReport, AReportThatFailsLeavesTheOldOneWithItsOwnPictures) {
+  WriteTemplate("old");
+  Generate('N');
+  WriteTemplate(std::string(3000, 'x'));
+  picture_ = "other ";
+  constexpr rlim_t kTooSmall = 1000;
+  rlimit before{};
+  ::getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit limit{kTooSmall, before.rlim_max};
+  const auto handler = ::signal(SIGXFSZ, SIG_IGN);
+  ::setrlimit(RLIMIT_FSIZE, &limit);
+  EXPECT_THROW(Generate('N'), std::runtime_error);
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  ::signal(SIGXFSZ, handler);
+  const fs::path charts = home_.Place.ChartFolder();
+  EXPECT_EQ(test::ReadFile(charts / "1.htm"), "old");
+  EXPECT_EQ(test::ReadFile(charts / "Rashi-1.bmp"), "picture Rashi");
+  EXPECT_EQ(test::ReadFile(charts / "Chalit-1.bmp"), "picture KP");
+  EXPECT_EQ(std::distance(fs::directory_iterator(charts), {}), 3) << "something was left behind";
 }
 
 TEST_F(HtmlReport, TheShippedTemplateKeepsNoPlaceholder) {

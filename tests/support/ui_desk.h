@@ -62,9 +62,13 @@ class ChosenFiles final : public ui::FileDialogs {
     printer.setOutputFileName(ui::Shown(Chosen.string()));
     return !Chosen.empty();
   }
-  bool OpenWithDesktop(const std::filesystem::path& /*file*/) override { return true; }
+  bool OpenWithDesktop(const std::filesystem::path& file) override {
+    Opened = file;
+    return true;
+  }
 
   std::filesystem::path Chosen;
+  std::filesystem::path Opened;
 };
 
 class DeskTest : public testing::Test {

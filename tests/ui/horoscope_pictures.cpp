@@ -11,6 +11,7 @@
 #include "practice/remedies.h"
 #include "support/test_home.h"
 #include "ui/base/picture.h"
+#include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/divisional_dialog.h"
 #include "ui/horoscope/horoscope_window.h"
@@ -40,7 +41,8 @@ void WritePages(HoroscopeWindow& window, const std::filesystem::path& folder) {
   window.resize(kSmallWidth, kSmallHeight);
   for (int page = 0; page < pages.count(); ++page) {
     pages.setCurrentRow(page);
-    WritePicture(window, folder / (std::to_string(page) + ".png"));
+    const QString name = pages.item(page)->text().toLower().replace(' ', '-');
+    WritePicture(window, folder / (Typed(name) + ".png"));
   }
   pages.setCurrentRow(0);
   window.ShowPlanetSheet(2);

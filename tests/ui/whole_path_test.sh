@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The whole path in a real window under Xvfb: start, add a client with keys, its horoscope opens,
-# the second start is refused, close. Usage: whole_path_test.sh ORVEX ORVEX-CLI
+# the second start is refused, close; then the demonstration. Usage: whole_path_test.sh ORVEX ORVEX-CLI
 set -euo pipefail
 orvex=$1
 cli=$2
@@ -60,5 +60,16 @@ xdotool key ctrl+q || true
 for _ in $(seq 50); do kill -0 "$program" 2>/dev/null || break; sleep 0.1; done
 kill -0 "$program" 2>/dev/null && fail "the program did not end with its main window"
 wait "$program" || fail "the program ended with an error"
-[ -z "$(find "$work/home" "$work/config" -type f -perm /077)" ] || fail "files that others may read"
+export XDG_DATA_HOME=$work/data
+"$orvex" --demo &
+program=$!
+demo=$(await 'demonstration')
+[ -n "$demo" ] || fail "no demonstration"
+xdotool windowfocus --sync "$demo"
+xdotool key ctrl+q || true
+wait "$program" || fail "the demonstration ended with an error"
+"$cli" --demo client list | grep -q "Albert Einstein" || fail "the demonstration has no clients"
+"$cli" client list | grep -q "Albert Einstein" && fail "the demonstration filled the own home"
+
+[ -z "$(find "$work/home" "$work/config" "$work/data" -type f -perm /077)" ] || fail "files that others may read"
 echo "The whole path was walked."

@@ -1,9 +1,14 @@
 // Writes pictures of the main window and of every dialog into a folder: window_pictures FOLDER.
 // The size of the pictures follows QT_SCALE_FACTOR, the palette ORVEX_THEME.
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
+#include <QPushButton>
+#include <QRadioButton>
 #include <memory>
 
 #include "chart/client_saving.h"
@@ -39,12 +44,30 @@ std::int32_t AddClient(test::TestHome& home, core::Session& session, const std::
   return chart::SaveNewClient(session, form, 1).Id;
 }
 
+constexpr int kWidth = 1366;
+constexpr int kHeight = 740;  // what a title bar and a panel leave of 768
+
 void WriteMain(Workplace& place, const std::filesystem::path& file) {
-  constexpr int kWidth = 1366;
-  constexpr int kHeight = 740;  // what a title bar and a panel leave of 768
   MainWindow window(place);
   window.resize(kWidth, kHeight);
   WritePicture(window, file);
+}
+
+// Both modes of the search, each with something found.
+void WriteSearch(Workplace& place, const std::filesystem::path& folder) {
+  MainWindow window(place);
+  window.resize(kWidth, kHeight);
+  window.findChild<QAction*>("searchClients")->trigger();
+  WritePicture(window, folder / "search-empty.png");
+  window.findChild<QComboBox*>("dateRange")->setCurrentText("Between");
+  window.findChild<QDateTimeEdit*>("dateFrom")->setDate({1940, 1, 1});
+  window.findChild<QRadioButton*>("selectedGroups")->setChecked(true);
+  window.findChild<QPushButton*>("search")->click();
+  WritePicture(window, folder / "search-clients.png");
+  window.findChild<QRadioButton*>("findRemedies")->setChecked(true);
+  window.findChild<QComboBox*>("dateRange")->setCurrentText("Any");
+  window.findChild<QPushButton*>("search")->click();
+  WritePicture(window, folder / "search-remedies.png");
 }
 
 void WriteSettings(Workplace& place, const std::filesystem::path& folder) {
@@ -70,7 +93,6 @@ void WriteDialogs(Workplace& place, std::int32_t client, const std::filesystem::
   write(new MoveDialog(place, client, "Asha Rao", "General"), "move.png");
   write(RemedyDialog::ForNew(place, client), "remedy.png");
   write(new AboutBox, "about.png");
-  write(new HelpBox, "help.png");
   write(new UpdateBox, "update.png");
   WriteSettings(place, folder);
 }
@@ -96,6 +118,7 @@ void WriteAll(const std::filesystem::path& folder) {
   practice::SaveNewRemedy(
       *session, {1, "Restless sleep", "Water to the Sun at dawn", session->Time.Today()}, client);
   WriteMain(place, folder / "main.png");
+  WriteSearch(place, folder);
   WriteDialogs(place, client, folder);
   WriteMonthGraph(place, folder / "month-graph.png");
 }

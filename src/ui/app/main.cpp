@@ -12,7 +12,9 @@ int RunProgram(int argc, char** argv) {
   orvex::ui::StartOptions options;
   CLI::App app("Orvex+, the workbench of the KP astrologer", "orvex");
   app.set_version_flag("--version", orvex::core::ProgramVersion());
-  app.add_option("--home", options.Home, "the install folder");
+  CLI::Option* home = app.add_option("--home", options.Home, "the install folder");
+  app.add_flag("--demo", options.Demo, "the demonstration: public charts in a home of its own")
+      ->excludes(home);
   app.add_option("--now", options.Now, "a clock that stands still, YYYY-MM-DD HH:MM:SS");
   CLI11_PARSE(app, argc, argv);
   return orvex::ui::RunWorkbench(argc, argv, options);

@@ -11,6 +11,7 @@
 
 #include "astro/ephemeris_gateway.h"
 #include "core/startup.h"
+#include "practice/demo_home.h"
 #include "ui/app/splash.h"
 #include "ui/base/layout_memory.h"
 #include "ui/base/message_boxes.h"
@@ -60,11 +61,40 @@ void ShowSplash(Splash& splash) {
   loop.exec();
 }
 
-int RunWindows(core::Session& session) {
+core::StartupPlan PlanOf(const StartOptions& options) {
+  if (options.Demo) {
+    return practice::DemoPlan(core::StartMode::Owner);
+  }
+  return {core::Home{core::HomeFolder(options.Home)}, core::ShippedDataFolder(),
+          core::MachineSettings::DefaultFile(), core::StartMode::Owner};
+}
+
+// Null where the start was refused or the demonstration could not be filled, after the message.
+std::unique_ptr<core::Session> StartSession(const StartOptions& options, const core::Clock& clock,
+                                            core::Messages& messages,
+                                            astro::EphemerisGateway& ephemeris) {
+  const core::StartupPlan plan = PlanOf(options);
+  std::unique_ptr<core::Session> session = core::RunStartup(plan, clock, messages, ephemeris);
+  if (!session || !options.Demo || !practice::NeedsDemoClients(plan.Place)) {
+    return session;
+  }
+  try {
+    practice::FillDemo(*session, plan.ShippedData);
+    return session;
+  } catch (const std::exception& error) {
+    Complain(messages, error.what());
+    return nullptr;
+  }
+}
+
+int RunWindows(core::Session& session, bool demo) {
   FileDialogs files;
-  LayoutMemory layout(LayoutMemory::DefaultFile());
+  LayoutMemory layout(demo ? session.Place.Folder / "windows.ini" : LayoutMemory::DefaultFile());
   Workplace place{session, files, layout};
   MainWindow window(place);
+  if (demo) {
+    window.setWindowTitle(QCoreApplication::translate("MainWindow", "Orvex+ (demonstration)"));
+  }
   window.show();
   const int status = QApplication::exec();
   // Horoscopes read the session; those still open go before it does.
@@ -86,16 +116,13 @@ int RunWorkbench(int& argc, char** argv, const StartOptions& options) {
   MessageBoxes messages;
   astro::EphemerisGateway ephemeris;
   const std::unique_ptr<core::Clock> clock = ClockOf(options);
-  const core::StartupPlan plan{core::Home{core::HomeFolder(options.Home)},
-                               core::ShippedDataFolder(), core::MachineSettings::DefaultFile(),
-                               core::StartMode::Owner};
   std::unique_ptr<core::Session> session;
   {
     Splash splash;
     ShowSplash(splash);
-    session = core::RunStartup(plan, *clock, messages, ephemeris);
+    session = StartSession(options, *clock, messages, ephemeris);
   }
-  return session ? RunWindows(*session) : kRefused;
+  return session ? RunWindows(*session, options.Demo) : kRefused;
 }
 
 }  // namespace orvex::ui

@@ -8,7 +8,8 @@ namespace orvex::ui {
 // The call's words.
 struct StartOptions {
   std::string Home;
-  std::string Now;  // a clock that stands still at this moment, for pictures and tests
+  bool Demo = false;  // the demonstration in place of a home
+  std::string Now;    // a clock that stands still at this moment, for pictures and tests
 };
 
 // Shows the splash, starts the session and the main window, and runs until it is closed. Gives the

@@ -73,8 +73,7 @@ void TableView::SizeToContent() {
   resizeColumnsToContents();
   for (int column = 0; column < model_->columnCount(); ++column) {
     if (!isColumnHidden(column) && column != stretchColumn_) {
-      const int usual = std::min(columnWidth(column) + kGrid, kWidestColumn);
-      setColumnWidth(column, KeptWidth(column).value_or(usual));
+      setColumnWidth(column, KeptWidth(column).value_or(UsualWidth(column)));
     }
   }
   if (stretchColumn_ >= 0 && stretchColumn_ < model_->columnCount()) {
@@ -85,6 +84,13 @@ void TableView::SizeToContent() {
     setFixedHeight(sizeHint().height());
   }
   updateGeometry();
+}
+
+// The measured width with some room; a table without rows takes the widths that it asks for.
+int TableView::UsualWidth(int column) const {
+  const int measured = std::min(columnWidth(column) + kGrid, kWidestColumn);
+  const int own = Table().Columns[static_cast<std::size_t>(column)].Width;
+  return model_->rowCount() > 0 ? measured : std::max(measured, own);
 }
 
 void TableView::RememberWidths(LayoutMemory& memory) {

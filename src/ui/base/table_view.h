@@ -20,7 +20,8 @@ class TableView : public QTableView {
  public:
   explicit TableView(QWidget* parent = nullptr);
 
-  // Shows a table and selects the rows that it marks as selected.
+  // Shows a table and selects the rows that it marks as selected. Columns are as wide as what they
+  // show; without rows as wide as the table says.
   void SetTable(core::Table table);
   const core::Table& Table() const { return model_->Table(); }
   TableModel& Model() { return *model_; }
@@ -82,6 +83,7 @@ class TableView : public QTableView {
   void SizeToContent();
   void HideColumns();
   void KeepWidth(int column, int width);
+  int UsualWidth(int column) const;
   std::optional<int> KeptWidth(int column) const;
   QString CaptionOf(int column) const;
   void SelectMarked();

@@ -40,25 +40,6 @@ AboutBox::AboutBox(QWidget* parent) : QDialog(parent) {
           .arg(core::ProgramVersion()));
 }
 
-HelpBox::HelpBox(QWidget* parent) : QDialog(parent) {
-  Fill(*this, "helpBox", tr("Orvex+ Help"),
-       tr("<h3>First steps</h3><ol><li>Set your own city under Tools, Settings.</li>"
-          "<li>Add a client (Ctrl+N): name, moment, city.</li>"
-          "<li>Double-click a client to open the horoscope.</li></ol>"
-          "<h3>Keys</h3><table cellpadding=\"3\">"
-          "<tr><td>Ctrl+N</td><td>Add client</td></tr>"
-          "<tr><td>Enter</td><td>View horoscope</td></tr>"
-          "<tr><td>F2</td><td>Edit client</td></tr>"
-          "<tr><td>Ctrl+Del</td><td>Delete client</td></tr>"
-          "<tr><td>Ctrl+M</td><td>Move client to another group</td></tr>"
-          "<tr><td>Ctrl+F</td><td>Filter clients</td></tr>"
-          "<tr><td>Ctrl+I</td><td>Instant chart</td></tr>"
-          "<tr><td>Ctrl+G</td><td>Add group</td></tr>"
-          "<tr><td>F5</td><td>Sky of now</td></tr>"
-          "<tr><td>Ctrl+C</td><td>Copy a table</td></tr>"
-          "<tr><td>Ctrl+,</td><td>Settings</td></tr></table>"));
-}
-
 UpdateBox::UpdateBox(QWidget* parent) : QDialog(parent) {
   Fill(*this, "updateBox", tr("Check for Updates"),
        tr("<p>Current build: <b>%1</b></p><p>No newer build could be asked for: this build goes "

@@ -1,4 +1,4 @@
-// What program this is, where its help lies, and whether there is a newer build.
+// What program this is, and whether there is a newer build.
 #pragma once
 
 #include <QDialog>
@@ -10,14 +10,6 @@ class AboutBox final : public QDialog {
 
  public:
   explicit AboutBox(QWidget* parent = nullptr);
-};
-
-// The page of the keys and of the first steps.
-class HelpBox final : public QDialog {
-  Q_OBJECT
-
- public:
-  explicit HelpBox(QWidget* parent = nullptr);
 };
 
 // The present build beside the newest one; this build asks nobody.

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "ui/base/moment_edit.h"
+#include "ui/base/planet_box.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -51,23 +52,12 @@ RemedyDialog::RemedyDialog(Workplace& place, const practice::RemedyForm& form, Q
       remedy_(TextBox("remedy")),
       date_(MakeDateEdit("remedyDate")) {
   planet_->setObjectName("forPlanet");
-  FillPlanets();
+  planet_->addItem(tr("None"), 0);
+  AddPlanetsByName(*planet_, Session().Reference);
   planet_->setCurrentIndex(std::max(0, planet_->findData(form.PlanetId)));
   problem_->setPlainText(Shown(form.Problem));
   remedy_->setPlainText(Shown(form.Remedy));
   date_->setDateTime(ToField(form.Date));
-}
-
-void RemedyDialog::FillPlanets() {
-  std::vector<core::PlanetInfo> planets = Session().Reference.Planets;
-  std::sort(planets.begin(), planets.end(),
-            [](const core::PlanetInfo& left, const core::PlanetInfo& right) {
-              return left.PlanetName < right.PlanetName;
-            });
-  planet_->addItem(tr("None"), 0);
-  for (const core::PlanetInfo& planet : planets) {
-    planet_->addItem(Shown(planet.PlanetName), planet.Id);
-  }
 }
 
 void RemedyDialog::Build(const QString& title, const QString& action) {

@@ -22,7 +22,6 @@ class RemedyDialog final : public FormDialog {
 
  private:
   RemedyDialog(Workplace& place, const practice::RemedyForm& form, QWidget* parent);
-  void FillPlanets();
   void Build(const QString& title, const QString& action);
   void Save() override;
 

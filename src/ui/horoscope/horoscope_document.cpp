@@ -80,8 +80,8 @@ std::filesystem::path HoroscopeDocument::WriteReport(report::ReportDetail detail
   report::ReportRequest request;
   request.Detail = detail;
   request.Style = style_;
-  request.Paint = [](const report::ChartPicture& picture, const std::filesystem::path& file) {
-    WriteChartPicture(picture, PictureFormat::Bmp, kPictureSide, file);
+  request.Paint = [](const report::ChartPicture& picture) {
+    return ChartPictureBytes(picture, PictureFormat::Bmp, kPictureSide);
   };
   return report::GenerateHoroscopeView(place_.Session, opened_, request);
 }

@@ -12,6 +12,7 @@
 #include <array>
 
 #include "report/pdf.h"
+#include "ui/base/guide.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
@@ -158,6 +159,10 @@ void HoroscopeWindow::MakeActions() {
   AddMenu(tr("E&xport"), MakeExportMenu(), Qt::CTRL | Qt::Key_E);
   QAction* close = AddAction(tr("&Close"), "close", QKeySequence::Close);
   connect(close, &QAction::triggered, this, &QWidget::close);
+  auto* help = new QAction(tr("Help"), this);
+  help->setShortcut(QKeySequence::HelpContents);
+  connect(help, &QAction::triggered, this, [this] { OpenGuide(document_.Place()); });
+  addAction(help);
 }
 
 QMenu* HoroscopeWindow::MakeStyleMenu() {

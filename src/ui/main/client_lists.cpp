@@ -111,6 +111,7 @@ void ClientLists::LoadGroups() {
   const std::int32_t chosen = group_;
   const QSignalBlocker quiet(groups_);
   groups_->SetTable(practice::LoadGroups(place_.Session));
+  emit GroupsLoaded();
   if (GroupCount() == 0) {
     ShowNoGroups();
     return;
@@ -140,11 +141,21 @@ void ClientLists::ShowGroup(std::int32_t groupId) {
     groups_->SelectTag(Typed(WholeText(groupId)));
     filter_->clear();
     clients_->SetTable(practice::LoadClientsOfGroup(place_.Session, groupId));
+    ShowOrder();
     clients_->SelectFirst();
   }
   filter_->setEnabled(!Clients().Rows.empty());
   emit CountChanged(Shown(practice::ClientCountText(Clients().Rows.size(), false)));
   ChooseClient(IdOfTag(clients_->SelectedTag()).value_or(0));
+}
+
+// A newly set order stands until the user clicks on a header.
+void ClientLists::ShowOrder() {
+  if (sortColumn_ != place_.Session.State.SortColumn) {
+    sortColumn_ = place_.Session.State.SortColumn;
+    clients_->sortByColumn(static_cast<int>(practice::SortedColumn(place_.Session)),
+                           Qt::AscendingOrder);
+  }
 }
 
 void ClientLists::ChooseClient(std::int32_t clientId) {

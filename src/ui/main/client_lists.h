@@ -45,6 +45,7 @@ class ClientLists final : public QWidget {
   // "12 client(s)", or what to do without groups.
   void CountChanged(const QString& text);
   void ViewRequested();
+  void GroupsLoaded();
 
  private:
   QWidget* BuildGroups();
@@ -54,10 +55,12 @@ class ClientLists final : public QWidget {
   void ShowNoGroups();
   void FilterClients(const QString& text);
   void ChooseClient(std::int32_t clientId);
+  void ShowOrder();
 
   Workplace& place_;
   std::int32_t group_ = 0;
   std::int32_t client_ = 0;
+  std::string sortColumn_;  // that of the settings, as it was shown last
   TableView* groups_;
   QLineEdit* filter_;
   TableView* clients_;

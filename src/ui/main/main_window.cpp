@@ -15,6 +15,7 @@
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
 #include "ui/base/export_table.h"
+#include "ui/base/guide.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -24,6 +25,7 @@
 #include "ui/main/client_commands.h"
 #include "ui/main/client_lists.h"
 #include "ui/main/first_run.h"
+#include "ui/main/search_page.h"
 #include "ui/main/sky_panel.h"
 
 namespace orvex::ui {
@@ -53,6 +55,7 @@ MainWindow::MainWindow(Workplace& place)
       lists_(new ClientLists(place)),
       sky_(new SkyPanel(place)),
       commands_(new ClientCommands(place, *lists_, *this)),
+      search_(new SearchPage(place)),
       halves_(new QSplitter(Qt::Horizontal)),
       birthdayCaption_(Panel("birthdayCaption")),
       birthdays_(new TableView),
@@ -73,6 +76,7 @@ void MainWindow::MakeActions() {
   cities_ = Command(*this, "cities", tr("&Cities…"), {});
   refresh_ = Command(*this, "refreshSky", tr("&Refresh Sky"), tr("F5"));
   filter_ = Command(*this, "filterClients", tr("&Filter Clients"), QKeySequence::Find);
+  find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+Shift+F"));
   quit_ = Command(*this, "quit", tr("E&xit"), QKeySequence::Quit);
   MakeMenus();
   MakeToolBar();
@@ -83,7 +87,7 @@ void MainWindow::MakeMenus() {
   clients->addActions({commands_->AddClient, commands_->View, commands_->EditClient,
                        commands_->DeleteClient, commands_->MoveClient});
   clients->addSeparator();
-  clients->addActions({commands_->InstantChart, filter_});
+  clients->addActions({commands_->InstantChart, filter_, find_});
   clients->addSeparator();
   clients->addAction(quit_);
   QMenu* groups = menuBar()->addMenu(tr("&Groups"));
@@ -92,7 +96,7 @@ void MainWindow::MakeMenus() {
   tools->addActions({refresh_, cities_, settings_});
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   help->addAction(tr("Orvex+ &Help"), QKeySequence::HelpContents, this,
-                  [this] { ShowBox<HelpBox>(); });
+                  [this] { OpenGuide(place_); });
   help->addAction(tr("Check for &Updates"), this, [this] { ShowBox<UpdateBox>(); });
   help->addAction(tr("&About Orvex+"), this, [this] { ShowBox<AboutBox>(); });
 }
@@ -116,6 +120,7 @@ void MainWindow::LayOut() {
   pages_->setDocumentMode(true);
   pages_->tabBar()->setDrawBase(false);
   AddPage(BuildClientsPage(), tr("Clients"));
+  AddPage(search_, tr("Search"));
   halves_->setObjectName("mainHalves");
   halves_->addWidget(pages_);
   halves_->addWidget(sky_);
@@ -172,7 +177,15 @@ void MainWindow::Connect() {
   connect(settings_, &QAction::triggered, this, [this] { OpenSettings(); });
   connect(cities_, &QAction::triggered, this, [this] { OpenCities(); });
   connect(refresh_, &QAction::triggered, sky_, &SkyPanel::Refresh);
-  connect(filter_, &QAction::triggered, lists_, &ClientLists::FocusFilter);
+  connect(filter_, &QAction::triggered, this, [this] {
+    pages_->setCurrentWidget(clientsPage_);
+    lists_->FocusFilter();
+  });
+  connect(find_, &QAction::triggered, this, [this] {
+    pages_->setCurrentWidget(search_);
+    search_->FocusText();
+  });
+  connect(lists_, &ClientLists::GroupsLoaded, search_, &SearchPage::LoadGroups);
   connect(quit_, &QAction::triggered, this, &QWidget::close);
   connect(sky_, &SkyPanel::Refreshed, this, [this] { ShowSkyStatus(); });
   connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);

@@ -15,6 +15,7 @@ namespace orvex::ui {
 class ClientCommands;
 class ClientLists;
 class FirstRun;
+class SearchPage;
 class SkyPanel;
 class TableView;
 
@@ -57,6 +58,7 @@ class MainWindow final : public QMainWindow {
   SkyPanel* sky_;
   ClientCommands* commands_;
   FirstRun* firstRun_ = nullptr;
+  SearchPage* search_;
   QSplitter* halves_;
   QLabel* birthdayCaption_;
   TableView* birthdays_;
@@ -70,6 +72,7 @@ class MainWindow final : public QMainWindow {
   QAction* cities_ = nullptr;
   QAction* refresh_ = nullptr;
   QAction* filter_ = nullptr;
+  QAction* find_ = nullptr;
   QAction* quit_ = nullptr;
 };
 

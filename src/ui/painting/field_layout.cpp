@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace orvex::ui {
@@ -54,24 +55,28 @@ Span Room(const QPolygonF& outline, const std::vector<QRectF>& taken, double top
 
 struct Setting {
   const QStringList& Words;
+  std::vector<double> Widths;  // of the words; measuring one costs more than all the rest
   const QPolygonF& Outline;
   const std::vector<QRectF>& Taken;
-  const QFontMetricsF& Metrics;
   double LineHeight;
   double Blank;
   double Margin;
 };
 
-void SetLine(const Setting& setting, const QStringList& line, const Span& room, double top,
-             std::vector<PlacedWord>& placed) {
+double WidthOf(const Setting& setting, std::size_t word) { return setting.Widths.at(word); }
+
+// The words from one on and before another, in the middle of a line's room.
+void SetLine(const Setting& setting, std::size_t from, std::size_t end, const Span& room,
+             double top, std::vector<PlacedWord>& placed) {
   double width = -setting.Blank;
-  for (const QString& word : line) {
-    width += setting.Metrics.horizontalAdvance(word) + setting.Blank;
+  for (std::size_t word = from; word < end; ++word) {
+    width += WidthOf(setting, word) + setting.Blank;
   }
   double x = (room.Left + room.Right - width) / 2;
-  for (const QString& word : line) {
-    const double advance = setting.Metrics.horizontalAdvance(word);
-    placed.push_back({word, {x, top, advance, setting.LineHeight}});
+  for (std::size_t word = from; word < end; ++word) {
+    const double advance = WidthOf(setting, word);
+    placed.push_back(
+        {setting.Words.at(static_cast<qsizetype>(word)), {x, top, advance, setting.LineHeight}});
     x += advance + setting.Blank;
   }
 }
@@ -79,24 +84,19 @@ void SetLine(const Setting& setting, const QStringList& line, const Span& room, 
 // The words in `lines` lines from a height on; nothing where they do not fit.
 std::optional<std::vector<PlacedWord>> TrySetting(const Setting& setting, int lines, double top) {
   std::vector<PlacedWord> placed;
-  qsizetype next = 0;
-  for (int i = 0; i < lines && next < setting.Words.size(); ++i) {
+  std::size_t next = 0;
+  for (int i = 0; i < lines && next < setting.Widths.size(); ++i) {
     const double lineTop = top + i * setting.LineHeight;
     const Span room =
         Room(setting.Outline, setting.Taken, lineTop, lineTop + setting.LineHeight, setting.Margin);
-    QStringList line;
+    const std::size_t first = next;
     double width = 0;
-    while (next < setting.Words.size()) {
-      const double advance = setting.Metrics.horizontalAdvance(setting.Words.at(next));
-      if (width + advance > room.Width()) {
-        break;
-      }
-      width += advance + setting.Blank;
-      line.append(setting.Words.at(next++));
+    while (next < setting.Widths.size() && width + WidthOf(setting, next) <= room.Width()) {
+      width += WidthOf(setting, next++) + setting.Blank;
     }
-    SetLine(setting, line, room, lineTop, placed);
+    SetLine(setting, first, next, room, lineTop, placed);
   }
-  if (next < setting.Words.size()) {
+  if (next < setting.Widths.size()) {
     return std::nullopt;
   }
   return placed;
@@ -126,8 +126,8 @@ std::vector<PlacedWord> Stacked(const Setting& setting) {
   const QRectF bounds = setting.Outline.boundingRect();
   const double height = setting.LineHeight * static_cast<double>(setting.Words.size());
   double top = bounds.center().y() - height / 2;
-  for (const QString& word : setting.Words) {
-    SetLine(setting, {word}, {bounds.left(), bounds.right()}, top, placed);
+  for (std::size_t word = 0; word < setting.Widths.size(); ++word) {
+    SetLine(setting, word, word + 1, {bounds.left(), bounds.right()}, top, placed);
     top += setting.LineHeight;
   }
   return placed;
@@ -146,12 +146,11 @@ FieldText LayOutWords(const QStringList& words, const QPolygonF& outline,
     const double size = largest - (largest - smallest) * step / kSteps;
     sized.setPixelSize(std::max(1, static_cast<int>(size)));
     const QFontMetricsF metrics(sized);
-    const Setting setting{words,
-                          outline,
-                          taken,
-                          metrics,
-                          metrics.height() * 0.94,
-                          metrics.horizontalAdvance(' ') * 1.3,
+    std::vector<double> widths;
+    std::transform(words.begin(), words.end(), std::back_inserter(widths),
+                   [&](const QString& word) { return metrics.horizontalAdvance(word); });
+    const Setting setting{words,      std::move(widths),       outline,
+                          taken,      metrics.height() * 0.94, metrics.horizontalAdvance(' ') * 1.3,
                           size * 0.22};
     if (auto placed = Fit(setting)) {
       return {static_cast<double>(sized.pixelSize()), std::move(*placed)};

@@ -42,10 +42,13 @@ std::string AsSvg(const report::ChartPicture& picture, int side) {
 
 }  // namespace
 
+std::string ChartPictureBytes(const report::ChartPicture& picture, PictureFormat format, int side) {
+  return format == PictureFormat::Svg ? AsSvg(picture, side) : AsImage(picture, format, side);
+}
+
 void WriteChartPicture(const report::ChartPicture& picture, PictureFormat format, int side,
                        const std::filesystem::path& file) {
-  core::WriteFileSafely(
-      file, format == PictureFormat::Svg ? AsSvg(picture, side) : AsImage(picture, format, side));
+  core::WriteFileSafely(file, ChartPictureBytes(picture, format, side));
 }
 
 }  // namespace orvex::ui

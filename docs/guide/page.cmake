@@ -1,0 +1,14 @@
+# One page of the guide: cmake -DCMARK_GFM= -DSOURCE=FILE.md -DTEMPLATE= -DINTO= -P page.cmake
+get_filename_component(page ${SOURCE} NAME_WE)
+execute_process(
+  COMMAND ${CMARK_GFM} --extension table ${SOURCE}
+  OUTPUT_VARIABLE BODY
+  RESULT_VARIABLE failed)
+if(failed)
+  message(FATAL_ERROR "${SOURCE} could not be read")
+endif()
+# The pages link to one another as they stand in the source tree.
+string(REGEX REPLACE "href=\"([a-z-]+)\\.md\"" "href=\"\\1.html\"" BODY "${BODY}")
+string(REGEX MATCH "<h1>([^<]*)</h1>" heading "${BODY}")
+set(TITLE "${CMAKE_MATCH_1}")
+configure_file(${TEMPLATE} ${INTO}/${page}.html @ONLY)

@@ -1,0 +1,81 @@
+// The filters of the client search.
+#pragma once
+
+#include <QWidget>
+
+#include "practice/client_search.h"
+
+class QComboBox;
+class QDateTimeEdit;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QRadioButton;
+class QSpinBox;
+
+namespace orvex::ui {
+
+class SearchForm final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SearchForm(const core::Session& session, QWidget* parent = nullptr);
+
+  // Reads the groups again and ticks them all.
+  void LoadGroups();
+
+  practice::SearchMode Mode() const;
+  practice::SearchFilter Filter() const;
+
+  void FocusText();
+  void FocusGroups();
+
+ signals:
+  void ModeChanged();
+  // The Enter key in a field.
+  void SearchRequested();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Build();
+  QWidget* BuildModes();
+  QWidget* BuildGroups();
+  void BuildFields(QGridLayout& grid);
+  QWidget* BuildDates();
+  QWidget* BuildAges();
+  void FillChoices();
+  void Connect();
+  void FollowMode();
+  void FollowRanges();
+  void TickAll(Qt::CheckState state);
+  std::vector<std::int32_t> TickedGroups() const;
+
+  const core::Session& session_;
+  QRadioButton* clients_;
+  QRadioButton* remedies_;
+  QRadioButton* allGroups_;
+  QRadioButton* selectedGroups_;
+  QListWidget* groups_;
+  QComboBox* gender_;
+  QComboBox* ascendant_;
+  QComboBox* retrograde_;
+  QLabel* planetCaption_;
+  QComboBox* forPlanet_;
+  QLabel* textCaption_;
+  QLineEdit* text_;
+  QLabel* dateCaption_;
+  QComboBox* dateRange_;
+  QDateTimeEdit* from_;
+  QLabel* toCaption_;
+  QDateTimeEdit* to_;
+  QLabel* ageCaption_;
+  QWidget* ages_;
+  QComboBox* ageRange_;
+  QSpinBox* ageFrom_;
+  QSpinBox* ageTo_;
+};
+
+}  // namespace orvex::ui

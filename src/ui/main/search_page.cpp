@@ -1,0 +1,104 @@
+#include "ui/main/search_page.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "practice/client_search.h"
+#include "ui/base/export_table.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/table_view.h"
+#include "ui/base/theme.h"
+#include "ui/horoscope/horoscope_window.h"
+#include "ui/main/search_form.h"
+
+namespace orvex::ui {
+
+SearchPage::SearchPage(Workplace& place, QWidget* parent)
+    : QWidget(parent),
+      place_(place),
+      form_(new SearchForm(place.Session)),
+      search_(new QPushButton(tr("&Search"))),
+      export_(new QPushButton(tr("E&xport…"))),
+      caption_(new QLabel),
+      results_(new TableView) {
+  setObjectName("searchPage");
+  Build();
+  Clear();
+  Connect();
+}
+
+void SearchPage::Build() {
+  search_->setObjectName("search");
+  export_->setObjectName("exportResults");
+  export_->setToolTip(tr("The list as a spreadsheet"));
+  caption_->setObjectName("resultCaption");
+  caption_->setTextFormat(Qt::PlainText);
+  results_->setObjectName("searchResults");
+  results_->setAccessibleName(tr("Search Results"));
+  results_->setSelectionMode(QAbstractItemView::SingleSelection);
+  auto* row = new QHBoxLayout;
+  row->addWidget(caption_, 1);
+  row->addWidget(search_);
+  row->addWidget(export_);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(form_);
+  column->addLayout(row);
+  column->addWidget(results_, 1);
+}
+
+void SearchPage::Connect() {
+  connect(form_, &SearchForm::ModeChanged, this, &SearchPage::Clear);
+  connect(form_, &SearchForm::SearchRequested, this, &SearchPage::Search);
+  connect(search_, &QPushButton::clicked, this, &SearchPage::Search);
+  connect(export_, &QPushButton::clicked, this,
+          [this] { emit ExportRequested(results_->Table()); });
+  connect(results_, &TableView::TagActivated, this, [this](const QString& tag) {
+    if (const std::optional<std::int32_t> client = IdOfTag(Typed(tag))) {
+      OpenHoroscope(place_, *client);
+    }
+  });
+}
+
+void SearchPage::LoadGroups() { form_->LoadGroups(); }
+void SearchPage::FocusText() { form_->FocusText(); }
+
+void SearchPage::Clear() {
+  results_->SetEmptyText(tr("Choose what to look for and press Enter."));
+  Show(practice::ResultTable(form_->Mode()), practice::kEmptyResultLine);
+}
+
+void SearchPage::Search() {
+  const practice::SearchFilter filter = form_->Filter();
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  practice::SearchResult found = practice::SearchClients(place_.Session, filter);
+  QGuiApplication::restoreOverrideCursor();
+  if (found.Refused) {
+    place_.Session.Shown.ShowMessage(found.Refused->Text, core::MessageButtons::Ok,
+                                     found.Refused->Icon);
+    form_->FocusGroups();
+    return;
+  }
+  results_->SetEmptyText(filter.Text.find('\'') == std::string::npos
+                             ? tr("Nothing fits these filters.")
+                             : tr("A text with a quote (') finds nothing: leave the quote out."));
+  Show(std::move(found.Results), Shown(found.ResultLine));
+}
+
+void SearchPage::Show(core::Table results, const QString& caption) {
+  const bool any = !results.Rows.empty();
+  results_->SetTable(std::move(results));
+  results_->SelectFirst();
+  caption_->setText(caption);
+  export_->setEnabled(any);
+  results_->SetExport(any ? [this](const core::Table& table) { Export(table); }
+                          : std::function<void(const core::Table&)>());
+}
+
+void SearchPage::Export(const core::Table& table) {
+  ExportTable(place_, *this, table, Typed(results_->accessibleName()));
+}
+
+}  // namespace orvex::ui
