@@ -141,8 +141,12 @@ void DrawDay(QPainter& painter, double x, const QRectF& across, const QColor& co
   painter.drawLine(line);
 }
 
-void DrawLabel(QPainter& painter, const GraphLabel& label) {
+void DrawLabel(QPainter& painter, const GraphLabel& label, const QFont& font, const QColor& color) {
+  const QFont before = painter.font();
+  painter.setFont(font);
+  painter.setPen(color);
   painter.drawText(label.Box, Qt::AlignCenter | Qt::TextDontClip, label.Text);
+  painter.setFont(before);
 }
 
 }  // namespace orvex::ui

@@ -60,6 +60,7 @@ bool AddApart(std::vector<GraphLabel>& labels, GraphLabel label);
 void DrawDay(QPainter& painter, double x, const QRectF& across, const QColor& color,
              const QColor& paper);
 
-void DrawLabel(QPainter& painter, const GraphLabel& label);
+// Afterwards the painter has its old font again.
+void DrawLabel(QPainter& painter, const GraphLabel& label, const QFont& font, const QColor& color);
 
 }  // namespace orvex::ui

@@ -101,7 +101,7 @@ std::vector<DayTick> TicksOf(const MonthPicture& picture, const Scale& scale, co
 void AddStep(const Scale& scale, std::size_t row, double from, double to, LineRun& run,
              std::vector<LineRun>& done) {
   const double onward = Onward(from, to);
-  const double x = static_cast<double>(row);
+  const auto x = static_cast<double>(row);
   if (onward >= kCircle || onward < 0) {
     const double rim = onward < 0 ? 0 : kCircle;
     const double crossing = x - 1 + (rim - from) / (onward - from);
@@ -131,7 +131,7 @@ std::vector<LineRun> RunsOf(const transit::PlanetSeries& series, const Scale& sc
 // at the first day of the new motion.
 QPointF MarkPoint(const transit::PlanetSeries& series, const transit::SeriesMark& mark,
                   const Scale& scale) {
-  const double x = static_cast<double>(mark.Row);
+  const auto x = static_cast<double>(mark.Row);
   const double to = series.Longitudes[mark.Row];
   if (mark.Kind == transit::MarkKind::Station) {
     return scale.At(x, to);

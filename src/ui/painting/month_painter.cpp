@@ -4,6 +4,7 @@ namespace orvex::ui {
 
 namespace {
 
+constexpr double kSmall = 0.9;  // of the text: days, legend, today
 constexpr double kLine = 1.8;
 constexpr double kHair = 0.8;
 constexpr double kDot = 3.4;      // radius of a change of sign
@@ -14,27 +15,21 @@ void PaintBands(QPainter& painter, const MonthLayout& layout, const GraphColors&
   for (std::size_t i = 0; i < layout.Bands.size(); ++i) {
     const SignBand& band = layout.Bands.at(i);
     painter.fillRect(band.Box, i % 2 == 0 ? colors.Band : colors.Paper);
-    painter.setPen(colors.Text);
-    DrawLabel(painter, band.Sign);
+    DrawLabel(painter, band.Sign, painter.font(), colors.Text);
   }
 }
 
 void PaintDays(QPainter& painter, const MonthLayout& layout, const GraphColors& colors) {
   constexpr double kTick = 4;
-  const QFont font = painter.font();
-  painter.setFont(Scaled(font, 0.9));
+  const QFont font = Scaled(painter.font(), kSmall);
   for (const DayTick& day : layout.Days) {
     painter.setPen(QPen(colors.Grid, kHair));
     painter.drawLine(QPointF(day.X, layout.Plot.top()), QPointF(day.X, layout.Plot.bottom()));
     painter.setPen(QPen(colors.Frame, kHair));
     painter.drawLine(QPointF(day.X, layout.Plot.bottom()),
                      QPointF(day.X, layout.Plot.bottom() + kTick));
-    if (!day.Label.Text.isEmpty()) {
-      painter.setPen(colors.Muted);
-      DrawLabel(painter, day.Label);
-    }
+    DrawLabel(painter, day.Label, font, colors.Muted);
   }
-  painter.setFont(font);
 }
 
 void PaintFrame(QPainter& painter, const MonthLayout& layout, const GraphColors& colors) {
@@ -45,22 +40,15 @@ void PaintFrame(QPainter& painter, const MonthLayout& layout, const GraphColors&
   }
   painter.setPen(QPen(colors.Frame, kHair));
   painter.drawRect(layout.Plot);
-  painter.setPen(colors.Text);
-  const QFont font = painter.font();
-  painter.setFont(Heavy(font));
-  DrawLabel(painter, layout.Title);
-  painter.setPen(colors.Muted);
-  painter.setFont(Scaled(font, 0.9));
-  DrawLabel(painter, layout.Legend);
+  DrawLabel(painter, layout.Title, Heavy(painter.font()), colors.Text);
+  DrawLabel(painter, layout.Legend, Scaled(painter.font(), kSmall), colors.Muted);
 }
 
 void PaintToday(QPainter& painter, const MonthLayout& layout, const GraphColors& colors) {
-  if (!layout.Today) {
-    return;
+  if (layout.Today) {
+    DrawDay(painter, *layout.Today, layout.Plot, colors.Today, colors.Paper);
+    DrawLabel(painter, layout.TodayLabel, Scaled(painter.font(), kSmall), colors.Today);
   }
-  DrawDay(painter, *layout.Today, layout.Plot, colors.Today, colors.Paper);
-  painter.setFont(Scaled(painter.font(), 0.9));
-  DrawLabel(painter, layout.TodayLabel);
 }
 
 // The line, dashed while the planet goes backwards, and the thin way from its end to its code.
@@ -75,58 +63,55 @@ void PaintLine(QPainter& painter, const PlanetLine& line, const QColor& color,
   }
   painter.setPen(QPen(Mixed(color, colors.Paper, 0.55), kHair));
   painter.drawLine(line.End, QPointF(line.Code.Box.left() - 2, line.Code.Box.center().y()));
-  painter.setPen(color);
-  painter.setFont(Heavy(painter.font()));
-  DrawLabel(painter, line.Code);
+  DrawLabel(painter, line.Code, Heavy(painter.font()), color);
 }
 
-void PaintMark(QPainter& painter, const PlacedMark& mark, const QColor& color,
-               const GraphColors& colors) {
-  painter.setPen(QPen(color, 1.4));
-  painter.setBrush(colors.Paper);
-  if (mark.Mark.Kind == transit::MarkKind::SignChange) {
-    painter.drawEllipse(mark.At, kDot, kDot);
-    return;
-  }
+void PaintStation(QPainter& painter, const PlacedMark& mark, const QColor& color,
+                  const GraphColors& colors) {
   painter.setPen(QPen(colors.Paper, 1.2));
   painter.setBrush(color);
   painter.drawEllipse(mark.At, kStation, kStation);
-  painter.setPen(colors.Paper);
-  QFont font = Heavy(painter.font(), kLetter);
-  painter.setFont(font);
-  painter.drawText(
-      QRectF(mark.At.x() - kStation, mark.At.y() - kStation, 2 * kStation, 2 * kStation),
-      Qt::AlignCenter | Qt::TextDontClip, mark.Retrograde ? "R" : "D");
+  const QFont font = Heavy(painter.font(), kLetter);
+  DrawLabel(painter, LabelAt(mark.Retrograde ? "R" : "D", font, mark.At), font, colors.Paper);
+}
+
+void PaintMarks(QPainter& painter, const PlanetLine& line, transit::MarkKind kind,
+                const QColor& color, const GraphColors& colors) {
+  for (const PlacedMark& mark : line.Marks) {
+    if (mark.Mark.Kind != kind) {
+      continue;
+    }
+    if (kind == transit::MarkKind::Station) {
+      PaintStation(painter, mark, color, colors);
+    } else {
+      painter.setPen(QPen(color, 1.4));
+      painter.setBrush(colors.Paper);
+      painter.drawEllipse(mark.At, kDot, kDot);
+    }
+  }
 }
 
 }  // namespace
 
 void PaintMonth(QPainter& painter, const QRectF& area, const MonthPicture& picture, Ground ground) {
   const GraphColors& colors = ColorsOn(ground);
-  const QFont font = painter.font();
-  const MonthLayout layout = LayOutMonth(picture, font, area);
+  const MonthLayout layout = LayOutMonth(picture, painter.font(), area);
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.fillRect(area, colors.Paper);
   PaintBands(painter, layout, colors);
   PaintDays(painter, layout, colors);
   PaintFrame(painter, layout, colors);
-  painter.setFont(font);
   PaintToday(painter, layout, colors);
-  for (const transit::MarkKind kind : {transit::MarkKind::SignChange, transit::MarkKind::Station}) {
-    for (std::size_t i = 0; i < layout.Lines.size(); ++i) {
-      const QColor color = PlanetColor(picture.Series[i].Planet, ground);
-      painter.setFont(font);
-      if (kind == transit::MarkKind::SignChange) {
-        PaintLine(painter, layout.Lines[i], color, colors);
-      }
-      for (const PlacedMark& mark : layout.Lines[i].Marks) {
-        if (mark.Mark.Kind == kind) {
-          painter.setFont(font);
-          PaintMark(painter, mark, color, colors);
-        }
-      }
-    }
+  for (std::size_t i = 0; i < layout.Lines.size(); ++i) {
+    const QColor color = PlanetColor(picture.Series[i].Planet, ground);
+    PaintLine(painter, layout.Lines[i], color, colors);
+    PaintMarks(painter, layout.Lines[i], transit::MarkKind::SignChange, color, colors);
+  }
+  // Stations are told above all lines.
+  for (std::size_t i = 0; i < layout.Lines.size(); ++i) {
+    PaintMarks(painter, layout.Lines[i], transit::MarkKind::Station,
+               PlanetColor(picture.Series[i].Planet, ground), colors);
   }
   painter.restore();
 }

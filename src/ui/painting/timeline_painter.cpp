@@ -40,22 +40,14 @@ void PaintBars(QPainter& painter, const TimelineRow& row, const TimelineLevel& l
   painter.drawRect(row.Bars.at(*level.Chosen).Box);
 }
 
-void PaintNames(QPainter& painter, const TimelineRow& row, const GraphColors& colors) {
-  painter.setPen(colors.Text);
-  for (const TimelineBar& bar : row.Bars) {
-    painter.drawText(bar.Box, Qt::AlignCenter | Qt::TextDontClip, bar.Name);
-  }
-}
-
 void PaintDates(QPainter& painter, const TimelineRow& row, const GraphColors& colors) {
   constexpr double kTick = 4;
   painter.setPen(QPen(colors.Frame, kHair));
   for (const TimelineBar& bar : row.Bars) {
     painter.drawLine(bar.Box.bottomRight(), bar.Box.bottomRight() + QPointF(0, kTick));
   }
-  painter.setPen(colors.Muted);
   for (const GraphLabel& date : row.Dates) {
-    DrawLabel(painter, date);
+    DrawLabel(painter, date, Scaled(painter.font(), kSmall), colors.Muted);
   }
 }
 
@@ -69,24 +61,21 @@ void PaintDay(QPainter& painter, const TimelineRow& row, std::optional<double> x
 
 void PaintRow(QPainter& painter, const TimelineRow& row, const TimelineLevel& level,
               const Brushes& brushes, bool cursor) {
-  const QFont font = painter.font();
-  painter.setPen(brushes.Colors.Text);
-  painter.setFont(Heavy(font));
-  DrawLabel(painter, row.Heading);
-  painter.setFont(font);
+  const GraphColors& colors = brushes.Colors;
+  const QFont heavy = Heavy(painter.font());
+  DrawLabel(painter, row.Heading, heavy, colors.Text);
   PaintBars(painter, row, level, brushes, cursor);
-  painter.setFont(Scaled(font, kSmall));
-  PaintDates(painter, row, brushes.Colors);
-  PaintDay(painter, row, row.Birth, brushes.Colors.Text, brushes.Colors.Paper);
-  PaintDay(painter, row, row.Today, brushes.Colors.Today, brushes.Colors.Paper);
+  PaintDates(painter, row, colors);
+  PaintDay(painter, row, row.Birth, colors.Text, colors.Paper);
+  PaintDay(painter, row, row.Today, colors.Today, colors.Paper);
   for (const GraphLabel& flag : row.Flags) {
-    painter.setPen(flag.Text.startsWith("Today") ? brushes.Colors.Today : brushes.Colors.Text);
-    DrawLabel(painter, flag);
+    DrawLabel(painter, flag, Scaled(painter.font(), kSmall),
+              flag.Text.startsWith("Today") ? colors.Today : colors.Text);
   }
   // The names stand before the lines.
-  painter.setFont(Heavy(font));
-  PaintNames(painter, row, brushes.Colors);
-  painter.setFont(font);
+  for (const TimelineBar& bar : row.Bars) {
+    DrawLabel(painter, {bar.Name, bar.Box}, heavy, colors.Text);
+  }
 }
 
 }  // namespace
@@ -94,15 +83,11 @@ void PaintRow(QPainter& painter, const TimelineRow& row, const TimelineLevel& le
 void PaintTimeline(QPainter& painter, const QRectF& area, const TimelinePicture& picture,
                    Ground ground, std::optional<std::size_t> cursor) {
   const Brushes brushes{ColorsOn(ground), ground};
-  const QFont font = painter.font();
-  const TimelineLayout layout = LayOutTimeline(picture, font, area);
+  const TimelineLayout layout = LayOutTimeline(picture, painter.font(), area);
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.fillRect(area, brushes.Colors.Paper);
-  painter.setPen(brushes.Colors.Text);
-  painter.setFont(Heavy(font, kTitleText));
-  DrawLabel(painter, layout.Title);
-  painter.setFont(font);
+  DrawLabel(painter, layout.Title, Heavy(painter.font(), kTitleText), brushes.Colors.Text);
   for (const TimelineRow& row : layout.Rows) {
     PaintOpening(painter, row, brushes.Colors.Band);
   }
