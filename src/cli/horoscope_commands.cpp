@@ -8,6 +8,9 @@
 #include "horoscope/catalogue.h"
 #include "horoscope/create_horoscope.h"
 #include "horoscope/recalculation.h"
+#include "ui/painting/dasha_timeline.h"
+#include "ui/painting/graph_files.h"
+#include "ui/painting/offscreen.h"
 
 namespace orvex::cli {
 
@@ -18,6 +21,7 @@ struct HoroscopeOptions {
   std::string Rotate;
   std::string Aspects;
   std::string Year;
+  std::string TimelineFile;
 };
 
 // The filter of the aspect list that an option names.
@@ -84,8 +88,21 @@ void PrintHoroscope(const chart::HoroscopeModel& model) {
   }
 }
 
+void WriteTimeline(const core::Session& session, const std::string& file,
+                   const chart::HoroscopeModel& model) {
+  const ui::OffscreenPainting painting;
+  const ui::TimelinePicture picture = ui::PictureOfDashas(model, session.Time.Today());
+  const auto paint = [&](QPainter& painter, const QRectF& area, ui::Ground ground) {
+    ui::PaintTimeline(painter, area, picture, ground, std::nullopt);
+  };
+  ui::WriteGraphSvg(paint, picture.Title, file);
+}
+
 void RunHoroscope(Context& context, const HoroscopeOptions& options) {
   const horoscope::OpenedHoroscope opened = Open(context, options);
+  if (!options.TimelineFile.empty()) {
+    WriteTimeline(context.Reading(), options.TimelineFile, opened.Model);
+  }
   if (context.Json) {
     PrintJson(HoroscopeJson(opened.Model));
   } else {
@@ -157,6 +174,7 @@ void AddHoroscopeCommands(CLI::App& app, Context& context) {
   command->add_option("--aspects", options->Aspects, "aspects listed: all, good or hard")
       ->check(CLI::IsMember({"all", "good", "hard"}));
   command->add_option("--year", options->Year, "year of life of the annual chart, 1 to 120");
+  command->add_option("--timeline", options->TimelineFile, "writes the periods as bars, as SVG");
   AddRectifyCommand(app, context);
 }
 

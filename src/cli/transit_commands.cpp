@@ -10,6 +10,9 @@
 #include "transit/monthly_grid.h"
 #include "transit/transit_calendar.h"
 #include "transit/transit_details.h"
+#include "ui/painting/graph_files.h"
+#include "ui/painting/month_graph.h"
+#include "ui/painting/offscreen.h"
 
 namespace orvex::cli {
 
@@ -31,6 +34,7 @@ struct TransitOptions {
   std::string Rashi;
   std::string Count = "1";
   std::string IcsFile;
+  std::string SvgFile;
 };
 
 void WriteCalendar(const core::Session& session, const std::string& file,
@@ -38,6 +42,15 @@ void WriteCalendar(const core::Session& session, const std::string& file,
   core::WriteFileSafely(
       file, transit::CalendarText(
                 events, chart::PlainMomentUt(session.Time.Now(), session.State.UserCityOffset)));
+}
+
+void WriteGraph(const core::Session& session, const std::string& file,
+                const transit::MonthGrid& grid) {
+  const ui::OffscreenPainting painting;
+  const ui::MonthPicture picture = ui::PictureOfMonth(grid, session.Time.Today());
+  ui::WriteGraphSvg([&](QPainter& painter, const QRectF& area,
+                        ui::Ground ground) { ui::PaintMonth(painter, area, picture, ground); },
+                    picture.Title, file);
 }
 
 transit::Planet PlanetArgument(const std::string& name) {
@@ -78,6 +91,9 @@ void RunGrid(Context& context, const TransitOptions& options) {
   const transit::MonthGrid grid = transit::CreateGrid(session, view, month, year);
   if (!options.IcsFile.empty()) {
     WriteCalendar(session, options.IcsFile, transit::GridEvents(session, view, month, year));
+  }
+  if (!options.SvgFile.empty()) {
+    WriteGraph(session, options.SvgFile, grid);
   }
   if (context.Json) {
     PrintJson({{"captions",
@@ -228,6 +244,7 @@ void AddGrid(CLI::App& app, Context& context) {
   command->add_option("--city", options->City, "id of the city; else the user city");
   command->add_option("--time", options->Time, "time of day, HH:MM; else now");
   command->add_option("--ics", options->IcsFile, "writes stations and changes of sign as calendar");
+  command->add_option("--svg", options->SvgFile, "writes the month as lines over the signs");
 }
 
 void AddTransit(CLI::App& app, Context& context) {

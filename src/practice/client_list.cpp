@@ -87,6 +87,10 @@ std::string ClientCountText(std::size_t count, bool filtered) {
   return WholeText(static_cast<std::int64_t>(count)) + " client(s)" + (filtered ? " filtered" : "");
 }
 
+bool HasClients(const core::Session& session) {
+  return !session.StoreConnection.Query("Select Top 1 id from client_master").AtEnd();
+}
+
 std::string TotalClients(const core::Session& session) {
   return "Total Clients: " +
          session.StoreConnection.Query("Select count(id) as cnt from client_master").Text("cnt");

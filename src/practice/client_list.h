@@ -33,6 +33,9 @@ inline constexpr const char* kNoClients = "No Clients Found";
 // The panel under the list: "12 client(s)", with a filter text "12 client(s) filtered".
 std::string ClientCountText(std::size_t count, bool filtered);
 
+// Whether there is any client, in whatever group.
+bool HasClients(const core::Session& session);
+
 // "Total Clients: " and the number of all clients.
 std::string TotalClients(const core::Session& session);
 

@@ -19,7 +19,8 @@ struct SeriesMark {
 
 struct PlanetSeries {
   std::string Planet;
-  std::vector<double> Longitudes;  // degrees 0 to 360, one a row of the grid
+  std::vector<double> Longitudes;  // degrees from 0 to below 360, one a row of the grid
+  std::vector<bool> Retrograde;    // likewise
   std::vector<SeriesMark> Marks;
 };
 

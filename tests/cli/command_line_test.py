@@ -4,6 +4,7 @@ import json
 import os
 import unittest
 import zipfile
+from xml.etree import ElementTree
 
 from calling import BIRTH, PROGRAM, CommandLineTest
 
@@ -216,6 +217,18 @@ class CommandLine(CommandLineTest):
             self.assertEqual(os.stat(file).st_mode & 0o777, 0o600)
             self.assertEqual(first[0], first[1])
             self.assertGreater(len(first[0]), 2)
+
+    def test_graphs_are_private_well_formed_pictures_that_tell_their_matter(self):
+        client = self.succeed("client", "add", "--name", "<Asha> & Rao", *BIRTH).strip()
+        for arguments, option, told in (
+                (["grid", "2026", "11"], "--svg", "Sagittarius"),
+                (["horoscope", client], "--timeline", "Horoscope for <Asha> & Rao")):
+            file = os.path.join(os.path.dirname(self.home), "graph.svg")
+            self.succeed(*arguments, option, file)
+            self.assertEqual(os.stat(file).st_mode & 0o777, 0o600)
+            self.assertIn(told, "".join(ElementTree.parse(file).getroot().itertext()))
+            status, _, err = self.call(*arguments, option, "/nowhere/graph.svg")
+            self.assertEqual((status, err.strip() != ""), (1, True))
 
     def test_a_negative_number_is_a_value_and_not_an_option(self):
         chart = json.loads(self.succeed("chart", "--birth", "1990-07-05 14:30", "--offset", "-5",

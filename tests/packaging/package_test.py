@@ -21,27 +21,32 @@ def expect(done, wanted, what):
         sys.exit(f"{what}: exit {done.returncode}\n{done.stdout}\n{done.stderr}")
 
 
-class Addresses(html.parser.HTMLParser):
-    """The links, pictures and styles that a page names."""
+class Page(html.parser.HTMLParser):
+    """The links, pictures and styles that a page names, and the places in it that links lead to."""
 
     def __init__(self, page):
         super().__init__()
-        self.found = []
+        self.addresses = []
+        self.places = {""}
         self.feed(page.read_text(encoding="utf8"))
 
     def handle_starttag(self, tag, attrs):
-        self.found += [value for name, value in attrs if name in ("href", "src")]
+        self.addresses += [value for name, value in attrs if name in ("href", "src")]
+        self.places |= {value for name, value in attrs if name == "id"}
 
 
 def check_guide(folder):
     """Every page and picture of the guide is led to, and every address leads somewhere."""
     led_to = {folder / "index.html", folder / "guide.css"}
-    for page in folder.glob("*.html"):
-        for address in Addresses(page).found:
+    pages = {page: Page(page) for page in folder.glob("*.html")}
+    for page, read in pages.items():
+        for address in read.addresses:
             if address.startswith("https://"):
                 continue
-            led_to.add(folder / address)
-            if not (folder / address).is_file():
+            name, _, place = address.partition("#")
+            target = folder / name if name else page
+            led_to.add(target)
+            if not target.is_file() or place and place not in pages[target].places:
                 sys.exit(f"{page.name} leads to {address}, which is not there")
     there = {file for file in folder.rglob("*") if file.is_file()}
     if len(there) < 20 or there != led_to:

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QPrinter>
 #include <QTest>
 #include <QTimer>
 #include <deque>
@@ -56,6 +57,10 @@ class ChosenFiles final : public ui::FileDialogs {
                                                          const std::filesystem::path& /*start*/,
                                                          const std::string& /*filter*/) override {
     return Chosen;
+  }
+  bool ChoosePrinter(QWidget* /*parent*/, QPrinter& printer) override {
+    printer.setOutputFileName(ui::Shown(Chosen.string()));
+    return !Chosen.empty();
   }
   bool OpenWithDesktop(const std::filesystem::path& file) override {
     Opened = file;

@@ -42,7 +42,8 @@ class GuideTest : public test::DeskTest {
     return keys;
   }
 
-  // Every shortcut of a window. Alt and a letter of a caption are told by the line under it.
+  // Every shortcut of a window, which must stand for one thing. Alt and a letter of a caption are
+  // told by the line under it.
   static Keys Present(const QWidget& window) {
     Keys keys;
     const auto add = [&keys](const QKeySequence& key) {
@@ -52,6 +53,9 @@ class GuideTest : public test::DeskTest {
       }
     };
     for (const QAction* action : window.findChildren<QAction*>()) {
+      const bool everywhere = action->shortcutContext() == Qt::WindowShortcut;
+      EXPECT_FALSE(everywhere && keys.contains(Typed(action->shortcut().toString())))
+          << Typed(action->shortcut().toString()) << " is two things";
       add(action->shortcut());
     }
     for (const QShortcut* shortcut : window.findChildren<QShortcut*>()) {

@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QPrintDialog>
 #include <QUrl>
 
 #include "ui/base/qt_text.h"
@@ -27,6 +28,12 @@ std::optional<std::filesystem::path> FileDialogs::ChooseFileToWrite(
     const std::string& filter) {
   return PathOf(
       QFileDialog::getSaveFileName(parent, Shown(title), Shown(start.string()), Shown(filter)));
+}
+
+bool FileDialogs::ChoosePrinter(QWidget* parent, QPrinter& printer) {
+  QPrintDialog dialog(&printer, parent);
+  dialog.setObjectName("printDialog");
+  return dialog.exec() == QDialog::Accepted;
 }
 
 bool FileDialogs::OpenWithDesktop(const std::filesystem::path& file) {

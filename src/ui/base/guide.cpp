@@ -11,8 +11,8 @@ void OpenGuide(Workplace& place) {
   if (!std::filesystem::exists(guide, error)) {
     Complain(place.Session.Shown, "The guide is not installed: " + guide.string() + " is missing.");
   } else if (!place.Files.OpenWithDesktop(guide)) {
-    Inform(place.Session.Shown, "The guide lies in " + guide.string() +
-                                    ", but no program opens it here.");
+    Inform(place.Session.Shown,
+           "The guide lies in " + guide.string() + ", but no program opens it here.");
   }
 }
 

@@ -157,7 +157,7 @@ void HoroscopeWindow::MakeActions() {
   rectify_->setVisible(!document_.Model().Horary);
   connect(rectify_, &QAction::triggered, this, [this] { Turn("recalculation"); });
   AddMenu(tr("E&xport"), MakeExportMenu(), Qt::CTRL | Qt::Key_E);
-  QAction* close = AddAction(tr("&Close"), "close", QKeySequence::Close);
+  QAction* close = AddAction(tr("&Close"), "close", Qt::CTRL | Qt::Key_W);
   connect(close, &QAction::triggered, this, &QWidget::close);
   auto* help = new QAction(tr("Help"), this);
   help->setShortcut(QKeySequence::HelpContents);

@@ -16,6 +16,7 @@
 #include "ui/horoscope/recalculation_page.h"
 #include "ui/horoscope/remedies_page.h"
 #include "ui/horoscope/tables_page.h"
+#include "ui/horoscope/timeline_page.h"
 #include "ui/horoscope/transit_page.h"
 #include "ui/horoscope/vastu_page.h"
 
@@ -53,11 +54,12 @@ struct PageEntry {
 };
 
 // clang-format off
-constexpr std::array<PageEntry, 14> kPages = {{
+constexpr std::array<PageEntry, 15> kPages = {{
     {"chart",         QT_TRANSLATE_NOOP("PageStack", "Chart"),         &Make<ChartPage>},
     {"significators", QT_TRANSLATE_NOOP("PageStack", "Significators"), &MakeSignificators},
     {"fourStep",      QT_TRANSLATE_NOOP("PageStack", "Four steps"),    &MakeFourStep},
     {"dasha",         QT_TRANSLATE_NOOP("PageStack", "Dasha"),         &Make<DashaPage>},
+    {"timeline",      QT_TRANSLATE_NOOP("PageStack", "Timeline"),      &Make<TimelinePage>},
     {"aspects",       QT_TRANSLATE_NOOP("PageStack", "Aspects"),       &Make<AspectsPage>},
     {"ashtakavarga",  QT_TRANSLATE_NOOP("PageStack", "Ashtakavarga"),  &MakeAshtakavarga},
     {"vastu",         QT_TRANSLATE_NOOP("PageStack", "Vastu"),         &Make<VastuPage>},

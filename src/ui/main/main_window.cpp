@@ -80,8 +80,8 @@ void MainWindow::MakeActions() {
   cities_ = Command(*this, "cities", tr("&Cities…"), {});
   refresh_ = Command(*this, "refreshSky", tr("&Refresh Sky"), tr("F5"));
   filter_ = Command(*this, "filterClients", tr("&Filter Clients"), QKeySequence::Find);
-  find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+Shift+F"));
-  quit_ = Command(*this, "quit", tr("E&xit"), QKeySequence::Quit);
+  find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+K"));
+  quit_ = Command(*this, "quit", tr("E&xit"), tr("Ctrl+Q"));
   MakeMenus();
   MakeToolBar();
 }
@@ -245,7 +245,7 @@ void MainWindow::AddPage(QWidget* page, const QString& title) { pages_->addTab(p
 // A practice without clients shows the first steps in the place of its empty lists.
 void MainWindow::ShowClientCounts() {
   total_->setText(Shown(practice::TotalClients(place_.Session)));
-  const bool anyone = !practice::LoadClientsOfGroup(place_.Session, std::nullopt).Rows.empty();
+  const bool anyone = practice::HasClients(place_.Session);
   clientsPage_->setCurrentIndex(anyone || lists_->Group() == 0 ? 0 : 1);
 }
 

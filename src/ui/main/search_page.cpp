@@ -53,8 +53,7 @@ void SearchPage::Connect() {
   connect(form_, &SearchForm::ModeChanged, this, &SearchPage::Clear);
   connect(form_, &SearchForm::SearchRequested, this, &SearchPage::Search);
   connect(search_, &QPushButton::clicked, this, &SearchPage::Search);
-  connect(export_, &QPushButton::clicked, this,
-          [this] { emit ExportRequested(results_->Table()); });
+  connect(export_, &QPushButton::clicked, this, [this] { Export(results_->Table()); });
   connect(results_, &TableView::TagActivated, this, [this](const QString& tag) {
     if (const std::optional<std::int32_t> client = IdOfTag(Typed(tag))) {
       OpenHoroscope(place_, *client);

@@ -17,7 +17,7 @@ TransitCommands::TransitCommands(Workplace& place, QTabWidget& pages, QWidget& w
       page_(new TransitGridPage(place)),
       menu_(new QMenu(tr("T&ransit"), &window)) {
   Add("transitGrid", tr("&Monthly Grid"), tr("Ctrl+T"), &TransitCommands::ShowGrid);
-  Add("findTransit", tr("&Find Transit…"), tr("Ctrl+Shift+T"), &TransitCommands::FindTransit);
+  Add("findTransit", tr("&Find Transit…"), tr("Ctrl+Shift+F"), &TransitCommands::FindTransit);
   Add("hora", tr("&Hora…"), tr("Ctrl+H"), &TransitCommands::OpenHora);
 }
 
