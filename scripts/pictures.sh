@@ -9,13 +9,14 @@ if [ "${1:-}" = "--guide" ]; then guide=docs/guide/pictures; shift; fi
 folder=${1:-build-pictures}
 
 cmake --preset test >/dev/null
-cmake --build --preset test --target window_pictures horoscope_pictures
+cmake --build --preset test --target window_pictures horoscope_pictures transit_pictures
 export QT_QPA_PLATFORM=offscreen
 for theme in light dark; do
   for scale in 1 2; do
     into="$folder/$theme-${scale}00"
     mkdir -p "$into/horoscope"
     ORVEX_THEME=$theme QT_SCALE_FACTOR=$scale build-test/tests/window_pictures "$into"
+    ORVEX_THEME=$theme QT_SCALE_FACTOR=$scale build-test/tests/transit_pictures "$into"
     ORVEX_THEME=$theme QT_SCALE_FACTOR=$scale build-test/tests/horoscope_pictures "$into/horoscope"
   done
 done

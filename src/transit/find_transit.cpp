@@ -75,6 +75,27 @@ void Tell(const FindForm& form, FindResult& result) {
 
 }  // namespace
 
+FindChoices ChoicesOf(const core::ReferenceData& reference) {
+  FindChoices choices;
+  for (const core::PlanetInfo& planet : reference.Planets) {
+    choices.Planets.push_back(planet.PlanetName);
+  }
+  for (const core::StarRow& star : reference.Stars) {
+    choices.Stars.push_back(star.StarName);
+  }
+  std::sort(choices.Planets.begin(), choices.Planets.end());
+  std::sort(choices.Stars.begin(), choices.Stars.end());
+  std::vector<core::SignRow> signs = reference.Signs;
+  std::stable_sort(signs.begin(), signs.end(),
+                   [](const core::SignRow& left, const core::SignRow& right) {
+                     return left.Rashi < right.Rashi;
+                   });
+  for (const core::SignRow& sign : signs) {
+    choices.Zodiacs.push_back(sign.Zodiac);
+  }
+  return choices;
+}
+
 TargetResult TargetOf(const core::ReferenceData& reference, const FindForm& form) {
   switch (form.Kind) {
     case TargetKind::Degree:

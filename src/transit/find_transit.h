@@ -20,6 +20,15 @@ struct FindForm {
   std::string Zodiac;
 };
 
+// What the lists of the tool offer, in their order: planets and stars by name, signs by number.
+struct FindChoices {
+  std::vector<std::string> Planets;
+  std::vector<std::string> Stars;
+  std::vector<std::string> Zodiacs;
+};
+
+FindChoices ChoicesOf(const core::ReferenceData& reference);
+
 // A target longitude, or the program's message with the field to go back to.
 struct TargetResult {
   float Degree = 0;

@@ -10,7 +10,6 @@
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "transit/month_name.h"
-#include "transit/transit_position.h"
 
 namespace orvex::transit {
 
@@ -130,6 +129,20 @@ core::Table GridOfDay(core::Session& session, const GridView& view, core::DateTi
 
 std::optional<core::DateTime> MonthOfTag(const std::string& tag) {
   return core::ParseLongDateText("1 " + core::ReplaceAll(tag, "*", " "));
+}
+
+std::optional<Planet> PlanetOfCell(const std::string& tag) {
+  const std::vector<std::string> fields = core::Split(tag, '*');
+  const std::optional<std::int64_t> number = core::ParseWhole(fields.back());
+  if (fields.size() != 2 || fields.front() != "Planet" || !number || *number < 1 ||
+      *number > kPlanetCount) {
+    return std::nullopt;
+  }
+  return static_cast<Planet>(*number);
+}
+
+std::optional<core::DateTime> DateOfRow(const std::string& tag) {
+  return core::ParseLongDateText(core::Split(tag, '*').back());
 }
 
 std::optional<CellPlace> HighlightCell(core::Table& grid, const std::string& dateText,

@@ -5,6 +5,7 @@
 
 #include "core/session.h"
 #include "core/table.h"
+#include "transit/transit_position.h"
 
 namespace orvex::transit {
 
@@ -49,6 +50,10 @@ core::Table GridOfDay(core::Session& session, const GridView& view, core::DateTi
 
 // The first of the month of a tag of a MonthLink; nothing for another text.
 std::optional<core::DateTime> MonthOfTag(const std::string& tag);
+
+// The planet of a cell's tag, and the date of a row's tag; nothing for another text.
+std::optional<Planet> PlanetOfCell(const std::string& tag);
+std::optional<core::DateTime> DateOfRow(const std::string& tag);
 
 struct CellPlace {
   std::size_t Row = 0;

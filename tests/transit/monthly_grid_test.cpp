@@ -85,6 +85,16 @@ TEST_F(TransitDesk, WithoutANodeInTheSettingsItsColumnsStayEmpty) {
   EXPECT_TRUE(hours.At(0, HourColumn::Degree).Text.empty());
 }
 
+TEST_F(TransitDesk, TagsOfCellsAndRowsTellPlanetAndDateAndNothingElseDoes) {
+  const core::Table grid = Grid(2026, 11).Grid;
+  EXPECT_EQ(PlanetOfCell(grid.Rows[4].Cells[9].Tag), Planet::Ketu);
+  EXPECT_EQ(DateOfRow(grid.Rows[4].Tag), test::Moment("2026-11-05"));
+  for (const char* text : {"", "Planet*", "Planet*0", "Planet*10", "Planet*x", "Date*1", "1"}) {
+    EXPECT_FALSE(PlanetOfCell(text)) << text;
+    EXPECT_FALSE(DateOfRow(text)) << text;
+  }
+}
+
 TEST_F(TransitDesk, AFoundTransitIsMarkedInTheGrid) {
   core::Table grid = Grid(2026, 11).Grid;
   const auto place = HighlightCell(grid, "5 November 2026", "Mars");

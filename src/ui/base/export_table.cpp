@@ -2,6 +2,8 @@
 
 #include "practice/export_list.h"
 #include "ui/base/file_dialogs.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/table_view.h"
 
 namespace orvex::ui {
 
@@ -17,6 +19,12 @@ void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
     return;
   }
   place.Files.OpenWithDesktop(*file);
+}
+
+void OfferExport(Workplace& place, TableView& table) {
+  table.SetExport([&place, &table](const core::Table& shown) {
+    ExportTable(place, table, shown, Typed(table.accessibleName()));
+  });
 }
 
 }  // namespace orvex::ui

@@ -11,4 +11,7 @@ QDateTimeEdit* MakeDateEdit(const QString& objectName);
 // The same with hours, minutes and seconds.
 QDateTimeEdit* MakeMomentEdit(const QString& objectName);
 
+// Hours and minutes of a clock of twelve hours. The date that it holds is not shown.
+QDateTimeEdit* MakeTimeEdit(const QString& objectName);
+
 }  // namespace orvex::ui

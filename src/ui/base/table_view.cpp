@@ -32,7 +32,8 @@ QString OneLine(const std::string& text) {
 
 }  // namespace
 
-TableView::TableView(QWidget* parent) : QTableView(parent), model_(new TableModel(this)) {
+TableView::TableView(QWidget* parent)
+    : QTableView(parent), model_(new TableModel(this)), columnRoom_(kGrid) {
   setModel(model_);
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
@@ -88,7 +89,7 @@ void TableView::SizeToContent() {
 
 // The measured width with some room; a table without rows takes the widths that it asks for.
 int TableView::UsualWidth(int column) const {
-  const int measured = std::min(columnWidth(column) + kGrid, kWidestColumn);
+  const int measured = std::min(columnWidth(column) + columnRoom_, kWidestColumn);
   const int own = Table().Columns[static_cast<std::size_t>(column)].Width;
   return model_->rowCount() > 0 ? measured : std::max(measured, own);
 }

@@ -61,6 +61,9 @@ class TableView : public QTableView {
   // object name.
   void RememberWidths(LayoutMemory& memory);
 
+  // Pixels beside the text of a column; kGrid where nothing is said.
+  void SetColumnRoom(int room) { columnRoom_ = room; }
+
   // A column takes the room that is left.
   void SetStretchColumn(int column);
 
@@ -95,6 +98,7 @@ class TableView : public QTableView {
   std::vector<QAction*> actions_;
   LayoutMemory* memory_ = nullptr;
   bool sizing_ = false;  // widths that change now are not the user's doing
+  int columnRoom_;
   bool fitsHeight_ = false;
   int stretchColumn_ = -1;
 };

@@ -1,6 +1,7 @@
 #include "ui/graphs/graph_view.h"
 
 #include <QAction>
+#include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QPrinter>
 #include <QPushButton>
@@ -108,12 +109,18 @@ bool GraphView::event(QEvent* event) {
   return true;
 }
 
-QPushButton* MakeActionButton(QAction& action) {
-  auto* button = new QPushButton(action.text());
-  button->setObjectName(action.objectName() + "Button");
-  button->setToolTip(action.shortcut().toString(QKeySequence::NativeText));
-  QObject::connect(button, &QPushButton::clicked, &action, &QAction::trigger);
-  return button;
+QHBoxLayout* GraphButtons(QWidget& pane, std::initializer_list<QAction*> actions) {
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  for (QAction* action : actions) {
+    auto* button = new QPushButton(action->text());
+    button->setObjectName(action->objectName() + "Button");
+    button->setToolTip(action->shortcut().toString(QKeySequence::NativeText));
+    QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
+    row->addWidget(button);
+    pane.addAction(action);
+  }
+  return row;
 }
 
 }  // namespace orvex::ui

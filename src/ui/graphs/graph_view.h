@@ -2,12 +2,13 @@
 #pragma once
 
 #include <QWidget>
+#include <initializer_list>
 
 #include "ui/base/workplace.h"
 #include "ui/painting/graph_style.h"
 
 class QAction;
-class QPushButton;
+class QHBoxLayout;
 
 namespace orvex::ui {
 
@@ -54,7 +55,7 @@ class GraphView : public QWidget {
   QAction* save_;
 };
 
-// A button for an action, as wide as its text.
-QPushButton* MakeActionButton(QAction& action);
+// The row of buttons under a graph, at the right; their keys work in all of `pane`.
+QHBoxLayout* GraphButtons(QWidget& pane, std::initializer_list<QAction*> actions);
 
 }  // namespace orvex::ui

@@ -1,12 +1,10 @@
 #include "ui/horoscope/catalogue_table.h"
 
 #include <QHeaderView>
-#include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <stdexcept>
 
-#include "ui/base/export_table.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -32,24 +30,13 @@ std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, cons
   return named || word.size() != 2 ? named : chart::RowOfCode(model, word);
 }
 
-QLabel* MakeHeading(const QString& text) {
-  auto* heading = new QLabel(text);
-  QFont font = heading->font();
-  font.setWeight(QFont::DemiBold);
-  heading->setFont(font);
-  heading->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  return heading;
-}
-
 CatalogueTable::CatalogueTable(HoroscopeDocument& document, const char* name)
     : document_(document), entry_(EntryOf(name)), view_(new TableView) {
   view_->setObjectName(name);
   view_->setAccessibleName(entry_.Title);
-  view_->SetExport([this](const core::Table& table) {
-    ExportTable(document_.Place(), *this, table, entry_.Title);
-  });
+  OfferExport(document_.Place(), *view_);
   view_->RememberWidths(document.Place().Layout);
-  connect(view_, &QTableView::activated, this, &CatalogueTable::Activate);
+  connect(view_, &TableView::TagActivated, this, [this] { Activate(view_->currentIndex()); });
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGrid / 2);

@@ -4,10 +4,10 @@
 #include <QWidget>
 
 #include "horoscope/catalogue.h"
+#include "ui/base/export_table.h"
+#include "ui/base/labels.h"
 #include "ui/base/table_view.h"
 #include "ui/horoscope/horoscope_document.h"
-
-class QLabel;
 
 namespace orvex::ui {
 
@@ -49,8 +49,5 @@ class CatalogueTable final : public QWidget {
 // The row of the planet that a text begins with, by name or code: "Venus (8 1)", "VE (8 1)", "VE*";
 // nothing for any other text.
 std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, const QString& text);
-
-// A heading above a part of a page.
-QLabel* MakeHeading(const QString& text);
 
 }  // namespace orvex::ui

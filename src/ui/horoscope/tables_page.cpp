@@ -21,14 +21,6 @@ std::string chart::HoroscopeCaptions::*CaptionOf(const std::string& name) {
   return found->Text;
 }
 
-QLabel* MakeCaptionLabel(const QString& objectName) {
-  auto* label = new QLabel;
-  label->setObjectName(objectName);
-  label->setTextFormat(Qt::PlainText);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  return label;
-}
-
 TablesPage::TablesPage(HoroscopeDocument& document, const PagePlan& plan)
     : HoroscopePage(document) {
   auto* layout = new QVBoxLayout(this);

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "ui/base/layout_memory.h"
 #include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/horoscope_page.h"
 
@@ -39,6 +40,4 @@ class TablesPage : public HoroscopePage {
 // The caption of that name. std::out_of_range for a name that the catalogue does not have.
 std::string chart::HoroscopeCaptions::*CaptionOf(const std::string& name);
 
-// A label whose text can be marked and copied.
-QLabel* MakeCaptionLabel(const QString& objectName);
 }  // namespace orvex::ui

@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "ui/horoscope/field_label.h"
@@ -13,30 +12,25 @@ TimelinePage::TimelinePage(HoroscopeDocument& document)
     : HoroscopePage(document), view_(new DashaTimelineView(document.Place())) {
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(view_, 1);
-  layout->addWidget(LayOutButtons());
+  auto* help =
+      new FieldLabel(tr("A click opens a period. Arrow keys: ← → along, ↑ ↓ between the levels."));
+  QHBoxLayout* foot =
+      GraphButtons(*this, {MakeRunningAction(), view_->PrintAction(), view_->SaveAction()});
+  foot->insertWidget(0, help);
+  layout->addLayout(foot);
   connect(view_, &DashaTimelineView::PeriodChosen, this,
           [this](std::size_t level, std::size_t row) {
             Document().SelectPeriod(static_cast<chart::DashaLevel>(level), row);
           });
 }
 
-QWidget* TimelinePage::LayOutButtons() {
+QAction* TimelinePage::MakeRunningAction() {
   auto* running = new QAction(tr("Running pe&riods"), this);
   running->setObjectName("runningPeriods");
   running->setShortcut(Qt::CTRL | Qt::Key_J);
   running->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   connect(running, &QAction::triggered, this, &TimelinePage::ShowRunning);
-  auto* bar = new QWidget;
-  auto* layout = new QHBoxLayout(bar);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(
-      new FieldLabel(tr("A click opens a period. Arrow keys: ← → along, ↑ ↓ between the levels.")),
-      1);
-  for (QAction* action : {running, view_->PrintAction(), view_->SaveAction()}) {
-    addAction(action);
-    layout->addWidget(MakeActionButton(*action));
-  }
-  return bar;
+  return running;
 }
 
 // The lists below a dasha open at what runs today.

@@ -15,7 +15,7 @@ class TimelinePage final : public HoroscopePage {
   void ShowModel() override;
 
  private:
-  QWidget* LayOutButtons();
+  QAction* MakeRunningAction();
   void ShowRunning();
 
   DashaTimelineView* view_;

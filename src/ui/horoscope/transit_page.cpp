@@ -3,6 +3,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/base/qt_text.h"
+#include "ui/transit/transit_details_dialog.h"
+
 namespace orvex::ui {
 
 TransitPage::TransitPage(HoroscopeDocument& document)
@@ -11,6 +14,21 @@ TransitPage::TransitPage(HoroscopeDocument& document)
   again->setObjectName("readSky");
   connect(again, &QPushButton::clicked, this, [this] { Document().ReadSkyAgain(); });
   static_cast<QVBoxLayout*>(layout())->addWidget(again, 0, Qt::AlignLeft);
+  // A planet of now leads to its hours, one of the birth to its sheet.
+  CatalogueTable& now = TableOf("TransitNow");
+  disconnect(&now, &CatalogueTable::PlanetActivated, this, nullptr);
+  connect(&now, &CatalogueTable::PlanetActivated, this, [this, &now] {
+    const QModelIndex planet = now.View().currentIndex().siblingAtColumn(0);
+    ShowHours(transit::PlanetOfName(Typed(planet.data().toString())));
+  });
+}
+
+void TransitPage::ShowHours(std::optional<transit::Planet> planet) {
+  Workplace& place = Document().Place();
+  if (planet) {
+    TransitDetailsDialog details(place, *planet, place.Session.Time.Today(), this);
+    details.exec();
+  }
 }
 
 }  // namespace orvex::ui

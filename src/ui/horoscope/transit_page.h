@@ -1,6 +1,9 @@
 // The planets of the present moment beside those of the birth.
 #pragma once
 
+#include <optional>
+
+#include "transit/transit_position.h"
 #include "ui/horoscope/tables_page.h"
 
 namespace orvex::ui {
@@ -10,6 +13,9 @@ class TransitPage final : public TablesPage {
 
  public:
   explicit TransitPage(HoroscopeDocument& document);
+
+ private:
+  void ShowHours(std::optional<transit::Planet> planet);
 };
 
 }  // namespace orvex::ui

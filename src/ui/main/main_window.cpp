@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
@@ -27,6 +28,8 @@
 #include "ui/main/first_run.h"
 #include "ui/main/search_page.h"
 #include "ui/main/sky_panel.h"
+#include "ui/main/transit_commands.h"
+#include "ui/transit/transit_grid_page.h"
 
 namespace orvex::ui {
 
@@ -55,6 +58,7 @@ MainWindow::MainWindow(Workplace& place)
       lists_(new ClientLists(place)),
       sky_(new SkyPanel(place)),
       commands_(new ClientCommands(place, *lists_, *this)),
+      transits_(new TransitCommands(place, *pages_, *this)),
       search_(new SearchPage(place)),
       halves_(new QSplitter(Qt::Horizontal)),
       birthdayCaption_(Panel("birthdayCaption")),
@@ -92,6 +96,7 @@ void MainWindow::MakeMenus() {
   clients->addAction(quit_);
   QMenu* groups = menuBar()->addMenu(tr("&Groups"));
   groups->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
+  menuBar()->addMenu(transits_->Menu());
   QMenu* tools = menuBar()->addMenu(tr("&Tools"));
   tools->addActions({refresh_, cities_, settings_});
   QMenu* help = menuBar()->addMenu(tr("&Help"));
@@ -121,6 +126,7 @@ void MainWindow::LayOut() {
   pages_->tabBar()->setDrawBase(false);
   AddPage(BuildClientsPage(), tr("Clients"));
   AddPage(search_, tr("Search"));
+  AddPage(&transits_->Page(), tr("Transit"));
   halves_->setObjectName("mainHalves");
   halves_->addWidget(pages_);
   halves_->addWidget(sky_);
@@ -187,6 +193,7 @@ void MainWindow::Connect() {
   });
   connect(lists_, &ClientLists::GroupsLoaded, search_, &SearchPage::LoadGroups);
   connect(quit_, &QAction::triggered, this, &QWidget::close);
+  connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::MakeRoom);
   connect(sky_, &SkyPanel::Refreshed, this, [this] { ShowSkyStatus(); });
   connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);
   connect(lists_, &ClientLists::CountChanged, count_, &QLabel::setText);
@@ -206,6 +213,22 @@ void MainWindow::Connect() {
   lists_->ClientTable().SetExport([this](const core::Table& table) {
     ExportTable(place_, *this, table, Typed(lists_->GroupName()));
   });
+}
+
+// A page takes the room that it asks for; the clients get back what the user gave them.
+void MainWindow::MakeRoom() {
+  const QList<int> sizes = halves_->sizes();
+  if (pages_->currentIndex() == 0) {
+    halves_->setSizes(givenSizes_.isEmpty() ? sizes : std::exchange(givenSizes_, {}));
+    return;
+  }
+  if (givenSizes_.isEmpty()) {
+    givenSizes_ = sizes;
+  }
+  const int wanted = pages_->currentWidget()->sizeHint().width() + 2 * kGrid;
+  if (wanted > sizes.front()) {
+    halves_->setSizes({wanted, sizes.front() + sizes.back() - wanted});
+  }
 }
 
 void MainWindow::Start() {
@@ -252,6 +275,7 @@ void MainWindow::OpenSettings() {
     sky_->Refresh();
     firstRun_->ShowCity();
     lists_->ReloadClients();
+    transits_->Page().Refresh();
   }
 }
 

@@ -18,6 +18,7 @@ class FirstRun;
 class SearchPage;
 class SkyPanel;
 class TableView;
+class TransitCommands;
 
 class MainWindow final : public QMainWindow {
   Q_OBJECT
@@ -37,6 +38,7 @@ class MainWindow final : public QMainWindow {
   void MakeActions();
   void LayOut();
   void Connect();
+  void MakeRoom();
   void Start();
   void MakeMenus();
   void MakeToolBar();
@@ -57,9 +59,11 @@ class MainWindow final : public QMainWindow {
   ClientLists* lists_;
   SkyPanel* sky_;
   ClientCommands* commands_;
+  TransitCommands* transits_;
   FirstRun* firstRun_ = nullptr;
   SearchPage* search_;
   QSplitter* halves_;
+  QList<int> givenSizes_;  // of the halves beside the page of the clients
   QLabel* birthdayCaption_;
   TableView* birthdays_;
   QLabel* count_;

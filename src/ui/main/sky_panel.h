@@ -7,13 +7,9 @@
 #include "panchang/sky_view.h"
 #include "ui/base/workplace.h"
 
-class QLabel;
-class QSplitter;
-
 namespace orvex::ui {
 
-class ChartView;
-class TableView;
+class SkyBoard;
 
 class SkyPanel final : public QWidget {
   Q_OBJECT
@@ -32,24 +28,10 @@ class SkyPanel final : public QWidget {
   void Refreshed();
 
  private:
-  void Build();
-  QWidget* BuildHeader();
-  QWidget* BuildChart();
-  void Show();
-  void ShowHeader();
-
   Workplace& place_;
   panchang::SkyView view_;
   QTimer minute_;
-  QWidget* header_;
-  QLabel* title_;
-  QLabel* day_;
-  QLabel* city_;
-  QLabel* moon_;
-  ChartView* chart_;
-  TableView* ruling_;
-  TableView* panchang_;
-  TableView* planets_;
+  SkyBoard* board_;
 };
 
 }  // namespace orvex::ui

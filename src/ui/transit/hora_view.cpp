@@ -1,0 +1,146 @@
+#include "ui/transit/hora_view.h"
+
+#include <QDateTimeEdit>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QShortcut>
+
+#include "panchang/hora.h"
+#include "ui/base/export_table.h"
+#include "ui/base/labels.h"
+#include "ui/base/moment_edit.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/table_view.h"
+#include "ui/base/theme.h"
+#include "ui/dialogs/pick_city_dialog.h"
+
+namespace orvex::ui {
+
+namespace {
+
+QPushButton* Button(const char* name, const QString& text) {
+  auto* button = new QPushButton(text);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  return button;
+}
+
+TableView* HoraList(Workplace& place, const char* name, const QString& title) {
+  auto* table = new TableView;
+  table->setObjectName(name);
+  table->setAccessibleName(title);
+  table->setSortingEnabled(false);
+  table->SetEmptyText(HoraView::tr("The Sun does not rise or set on this date."));
+  table->SetStretchColumn(0);
+  table->RememberWidths(place.Layout);
+  OfferExport(place, *table);
+  return table;
+}
+
+}  // namespace
+
+HoraView::HoraView(Workplace& place, QWidget* parent)
+    : QDialog(parent),
+      place_(place),
+      cityId_(place.Session.State.UserCityId),
+      caption_(MakeCaptionLabel("horaCaption")),
+      previous_(Button("previousDay", tr("&Previous day"))),
+      date_(MakeDateEdit("horaDate")),
+      next_(Button("nextDay", tr("&Next day"))),
+      city_(Button("changeCity", tr("Change &city…"))),
+      sunrise_(MakeCaptionLabel("sunrise")),
+      sunset_(MakeCaptionLabel("sunset")),
+      day_(HoraList(place, "dayHoras", tr("Horas of the day"))),
+      night_(HoraList(place, "nightHoras", tr("Horas of the night"))) {
+  setObjectName("horaView");
+  setAttribute(Qt::WA_DeleteOnClose);
+  LayOut();
+  date_->setDateTime(ToField(place.Session.Time.Today()));
+  Connect();
+  CalcHora();
+  if (!place_.Layout.RestoreWindow(*this)) {
+    resize(72 * kGrid, 58 * kGrid);
+  }
+}
+
+void HoraView::LayOut() {
+  caption_->setFont(Theme::HeadingFont());
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->addWidget(caption_);
+  layout->addLayout(BuildDates());
+  layout->addLayout(BuildTables(), 1);
+}
+
+QHBoxLayout* HoraView::BuildDates() {
+  date_->setAccessibleName(tr("Date"));
+  auto* row = new QHBoxLayout;
+  for (QWidget* widget : std::initializer_list<QWidget*>{previous_, date_, next_}) {
+    row->addWidget(widget);
+  }
+  row->addStretch();
+  row->addWidget(city_);
+  return row;
+}
+
+QHBoxLayout* HoraView::BuildTables() {
+  auto* row = new QHBoxLayout;
+  row->addWidget(BuildHalf(tr("Day"), sunrise_, day_));
+  row->addWidget(BuildHalf(tr("Night"), sunset_, night_));
+  return row;
+}
+
+QWidget* HoraView::BuildHalf(const QString& title, QLabel* sun, TableView* table) {
+  auto* half = new QWidget;
+  auto* head = new QHBoxLayout;
+  head->addWidget(MakeHeading(title));
+  head->addStretch();
+  head->addWidget(sun);
+  auto* column = new QVBoxLayout(half);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(head);
+  column->addWidget(table, 1);
+  return half;
+}
+
+void HoraView::Connect() {
+  connect(date_, &QDateTimeEdit::dateChanged, this, &HoraView::CalcHora);
+  connect(previous_, &QPushButton::clicked, this, [this] { Move(-1); });
+  connect(next_, &QPushButton::clicked, this, [this] { Move(1); });
+  connect(city_, &QPushButton::clicked, this, &HoraView::ChangeCity);
+  connect(new QShortcut(tr("Alt+Left"), this), &QShortcut::activated, previous_,
+          &QPushButton::click);
+  connect(new QShortcut(tr("Alt+Right"), this), &QShortcut::activated, next_, &QPushButton::click);
+  previous_->setToolTip(tr("Alt+Left"));
+  next_->setToolTip(tr("Alt+Right"));
+}
+
+// A city that is gone leaves its caption and nothing else.
+void HoraView::CalcHora() {
+  const auto view = panchang::CalcHora(place_.Session, FromField(date_->dateTime()), cityId_)
+                        .value_or(panchang::HoraView{Typed(windowTitle()), "", "", {}, {}});
+  setWindowTitle(Shown(view.Title));
+  caption_->setText(Shown(view.Title));
+  sunrise_->setText(view.Sunrise.empty() ? "" : tr("Sunrise: %1").arg(Shown(view.Sunrise)));
+  sunset_->setText(view.Sunset.empty() ? "" : tr("Sunset: %1").arg(Shown(view.Sunset)));
+  day_->SetTable(view.DayHoras);
+  night_->SetTable(view.NightHoras);
+  previous_->setEnabled(date_->date() > date_->minimumDate());
+  next_->setEnabled(date_->date() < date_->maximumDate());
+}
+
+void HoraView::Move(int days) { date_->setDate(date_->date().addDays(days)); }
+
+void HoraView::ChangeCity() {
+  if (const std::optional<PickedCity> city = PickCity(place_, this)) {
+    cityId_ = city->Id;
+    CalcHora();
+  }
+}
+
+void HoraView::hideEvent(QHideEvent* event) {
+  place_.Layout.KeepWindow(*this);
+  QDialog::hideEvent(event);
+}
+
+}  // namespace orvex::ui

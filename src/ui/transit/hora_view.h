@@ -1,0 +1,50 @@
+// The 24 planetary hours of any date over any city.
+#pragma once
+
+#include <QDialog>
+
+#include "ui/base/workplace.h"
+
+class QDateTimeEdit;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace orvex::ui {
+
+class TableView;
+
+// Opens for the user city and today.
+class HoraView final : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit HoraView(Workplace& place, QWidget* parent = nullptr);
+
+ protected:
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  void LayOut();
+  QHBoxLayout* BuildDates();
+  QHBoxLayout* BuildTables();
+  QWidget* BuildHalf(const QString& title, QLabel* sun, TableView* table);
+  void Connect();
+  void CalcHora();
+  void Move(int days);
+  void ChangeCity();
+
+  Workplace& place_;
+  std::int32_t cityId_;
+  QLabel* caption_;
+  QPushButton* previous_;
+  QDateTimeEdit* date_;
+  QPushButton* next_;
+  QPushButton* city_;
+  QLabel* sunrise_;
+  QLabel* sunset_;
+  TableView* day_;
+  TableView* night_;
+};
+
+}  // namespace orvex::ui

@@ -1,0 +1,164 @@
+#include "ui/transit/sky_board.h"
+
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "core/exact_numbers.h"
+#include "core/text.h"
+#include "report/chart_picture.h"
+#include "report/sky_chart.h"
+#include "ui/base/chart_view.h"
+#include "ui/base/export_table.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/table_view.h"
+#include "ui/base/theme.h"
+
+namespace orvex::ui {
+
+namespace {
+
+constexpr int kSmallestChart = 24 * kGrid;
+
+QLabel* PlainLabel(const char* name) {
+  auto* label = new QLabel;
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+// The colour of a weekday, "255, 255, 255", as the ground of a strip, with a text that is readable
+// on it. White and no colour leave the ground as it is.
+void PaintStrip(QWidget& strip, const std::string& rgb) {
+  QColor ground;
+  const std::vector<std::string> parts = core::Split(rgb, ',');
+  if (parts.size() == 3) {
+    const auto part = [&parts](std::size_t i) {
+      return static_cast<int>(core::ParseWhole(core::Trim(parts[i])).value_or(255));
+    };
+    ground = Theme::Background(Typed(QColor(part(0), part(1), part(2)).name().mid(1).toUpper()));
+  }
+  QPalette palette;
+  if (ground.isValid()) {
+    palette.setColor(QPalette::Window, ground);
+  }
+  strip.setAutoFillBackground(ground.isValid());
+  strip.setPalette(palette);
+}
+
+}  // namespace
+
+SkyBoard::SkyBoard(Workplace& place, Side side)
+    : place_(place),
+      title_(PlainLabel("skyTitle")),
+      day_(PlainLabel("skyDay")),
+      city_(PlainLabel("skyCity")),
+      moon_(PlainLabel("skyMoon")),
+      chart_(new ChartView("skyChart", kSmallestChart)),
+      panchang_(MakeTable("panchang", tr("Panchang"))),
+      planets_(MakeTable("skyPlanets", tr("Sky View"))) {
+  Build(side);
+}
+
+TableView* SkyBoard::MakeTable(const char* name, const QString& title) {
+  auto* table = new TableView;
+  table->setObjectName(name);
+  table->setAccessibleName(title);
+  table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kGrid / 2);
+  OfferExport(place_, *table);
+  return table;
+}
+
+void SkyBoard::Build(Side side) {
+  header_ = BuildHeader();
+  planets_->FreezeFirstColumn();
+  auto* halves = new QSplitter(Qt::Vertical);
+  halves->setObjectName(side == Side::Horas ? "detailsSkyHalves" : "skyHalves");
+  halves->addWidget(BuildUpper(side));
+  halves->addWidget(planets_);
+  halves->setStretchFactor(0, 3);
+  halves->setStretchFactor(1, 2);
+  place_.Layout.Remember(*halves);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(header_);
+  layout->addWidget(halves, 1);
+}
+
+QWidget* SkyBoard::BuildHeader() {
+  auto* strip = new QWidget;
+  strip->setObjectName("skyStrip");
+  title_->setFont(Theme::HeadingFont());
+  auto* grid = new QGridLayout(strip);
+  grid->setContentsMargins(kGrid, kGrid / 2, kGrid, kGrid / 2);
+  grid->setVerticalSpacing(kGrid / 4);
+  grid->addWidget(title_, 0, 0);
+  grid->addWidget(day_, 0, 1, Qt::AlignRight);
+  grid->addWidget(city_, 1, 0);
+  grid->addWidget(moon_, 1, 1, Qt::AlignRight);
+  grid->setColumnStretch(1, 1);
+  return strip;
+}
+
+QWidget* SkyBoard::BuildUpper(Side side) {
+  auto* row = new QHBoxLayout;
+  row->addWidget(chart_, 1);
+  if (side == Side::RulingPlanets) {
+    ruling_ = MakeTable("skyRulingPlanets", tr("Ruling Planets"));
+    ruling_->SetStretchColumn(1);
+    row->addWidget(ruling_, 1);
+  } else {
+    AddHoras(*row);
+  }
+  panchang_->horizontalHeader()->hide();
+  panchang_->setSortingEnabled(false);
+  panchang_->SetStretchColumn(3);
+  auto* upper = new QWidget;
+  auto* column = new QVBoxLayout(upper);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(row, 1);
+  column->addWidget(panchang_);
+  return upper;
+}
+
+void SkyBoard::AddHoras(QHBoxLayout& row) {
+  dayHoras_ = MakeTable("skyDayHoras", tr("Horas of the day"));
+  nightHoras_ = MakeTable("skyNightHoras", tr("Horas of the night"));
+  for (TableView* horas : {dayHoras_, nightHoras_}) {
+    horas->setSortingEnabled(false);
+    row.addWidget(horas);
+  }
+}
+
+void SkyBoard::ShowView(const panchang::SkyView& view) {
+  ShowHeader(view.Captions);
+  chart_->SetPicture(
+      report::RashiPicture(report::BuildSkyChart(view), place_.Session.State.DefaultChartType));
+  if (ruling_ != nullptr) {
+    ruling_->SetTable(view.SkyRulingPlanets);
+  } else {
+    ShowHoras(*dayHoras_, view.DayHoras);
+    ShowHoras(*nightHoras_, view.NightHoras);
+  }
+  panchang_->SetTable(view.Panchang);
+  panchang_->FitHeightToRows();
+  planets_->SetTable(view.SkyPlanets);
+}
+
+// The list takes the room of its columns, the chart what is left.
+void SkyBoard::ShowHoras(TableView& list, const core::Table& horas) {
+  list.SetTable(horas);
+  list.setFixedWidth(list.sizeHint().width());
+}
+
+void SkyBoard::ShowHeader(const panchang::SkyCaptions& captions) {
+  PaintStrip(*header_, captions.DishaShoolColor);
+  title_->setText(Shown(captions.SkyView));
+  day_->setText(Shown(captions.WeekdayName + ", " + captions.Date + "   " + captions.VikramSamvat));
+  city_->setText(Shown(captions.City + " (" + captions.Place + ")"));
+  moon_->setText(Shown(captions.MoonStatus));
+}
+
+}  // namespace orvex::ui

@@ -1,0 +1,100 @@
+// Writes pictures of the transit windows into a folder, and says how long they take:
+// transit_pictures FOLDER. The size of the pictures follows QT_SCALE_FACTOR, the palette
+// ORVEX_THEME.
+#include <QApplication>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QTabWidget>
+#include <iostream>
+
+#include "support/test_home.h"
+#include "ui/base/picture.h"
+#include "ui/base/table_view.h"
+#include "ui/base/theme.h"
+#include "ui/main/main_window.h"
+#include "ui/transit/find_transit_dialog.h"
+#include "ui/transit/hora_view.h"
+#include "ui/transit/transit_details_dialog.h"
+#include "ui/transit/transit_grid_page.h"
+
+namespace orvex::ui {
+namespace {
+
+// Does it and paints the window, and tells how long both took.
+template <typename Deed>
+void Measure(const char* what, QWidget& window, Deed deed) {
+  QElapsedTimer timer;
+  timer.start();
+  deed();
+  QApplication::processEvents();
+  window.repaint();
+  std::cout << what << ": " << timer.elapsed() << " ms\n";
+}
+
+void WriteGrid(Workplace& place, const std::filesystem::path& folder) {
+  constexpr int kWidth = 1366;
+  constexpr int kHeight = 740;  // what a title bar and a panel leave of 768
+  MainWindow window(place);
+  auto& page = *window.findChild<TransitGridPage*>();
+  window.resize(kWidth, kHeight);
+  window.findChild<QTabWidget*>("pages")->setCurrentWidget(&page);
+  window.show();
+  page.CreateGrid(11, 2026);
+  WritePicture(window, folder / "transit-grid.png");
+  Measure("month on screen", window, [&page] { page.CreateGrid(12, 2026); });
+  Measure("another month on screen", window, [&page] { page.CreateGrid(6, 1750); });
+  page.HighlightCell({1, 2027, "14 January 2027", "Sun"});
+  WritePicture(window, folder / "transit-grid-marked.png");
+}
+
+void WriteDetails(Workplace& place, const std::filesystem::path& folder) {
+  TransitDetailsDialog details(place, transit::Planet::Moon, test::Moment("2026-11-24"));
+  WritePicture(details, folder / "transit-details.png");
+  Measure("next day on screen", details,
+          [&details] { details.findChild<QPushButton*>("nextDay")->click(); });
+  auto& hours = *details.findChild<TableView*>("hours");
+  Measure("minutes on screen", details,
+          [&hours] { emit hours.clicked(hours.Model().index(9, 0)); });
+  WritePicture(details, folder / "transit-minutes.png");
+}
+
+void WriteFind(Workplace& place, const std::filesystem::path& folder) {
+  FindTransitDialog find(place);
+  WritePicture(find, folder / "find-transit.png");
+  find.findChild<QComboBox*>("planet")->setCurrentText("Jupiter");
+  find.findChild<QLineEdit*>("Degree")->setText("75.5");
+  Measure("ten years searched and shown", find, [&find] { find.findChild<QPushButton*>("find")->click(); });
+  std::cout << find.findChild<QLabel*>("result")->text().toStdString() << "\n";
+  WritePicture(find, folder / "find-transit-found.png");
+}
+
+void WriteAll(const std::filesystem::path& folder) {
+  test::TestHome home;
+  const std::unique_ptr<core::Session> session = home.Start();
+  FileDialogs files;
+  LayoutMemory layout(home.Place.Folder / "windows.ini");
+  Workplace place{*session, files, layout};
+  WriteGrid(place, folder);
+  WriteDetails(place, folder);
+  WriteFind(place, folder);
+  WritePicture(*std::make_unique<HoraView>(place), folder / "hora.png");
+}
+
+}  // namespace
+}  // namespace orvex::ui
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  QLocale::setDefault(QLocale::c());
+  orvex::ui::Theme::Apply(application);
+  const std::filesystem::path folder = argc > 1 ? argv[1] : ".";
+  std::filesystem::create_directories(folder);
+  orvex::ui::WriteAll(folder);
+  return 0;
+}

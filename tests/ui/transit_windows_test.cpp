@@ -1,0 +1,500 @@
+#include <QAction>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include "chart/client_saving.h"
+#include "core/cell_colors.h"
+#include "support/ui_desk.h"
+#include "ui/base/open_windows.h"
+#include "ui/base/theme.h"
+#include "ui/dialogs/city_list.h"
+#include "ui/horoscope/horoscope_window.h"
+#include "ui/main/main_window.h"
+#include "ui/main/sky_panel.h"
+#include "ui/transit/find_transit_dialog.h"
+#include "ui/transit/hora_view.h"
+#include "ui/transit/transit_details_dialog.h"
+#include "ui/transit/transit_grid_page.h"
+
+namespace orvex::ui {
+namespace {
+
+constexpr int kMoonColumn = 2;
+constexpr int kRahuColumn = 8;
+
+class TransitWindowTest : public test::DeskTest {
+ protected:
+  static QString Text(QWidget& window, const char* label) {
+    return Find<QLabel>(window, label).text();
+  }
+
+  static QString Caption(QWidget& window, const char* button) {
+    return Find<QPushButton>(window, button).text();
+  }
+
+  static bool Enabled(QWidget& window, const char* widget) {
+    return Find<QWidget>(window, widget).isEnabled();
+  }
+
+  static QModelIndex Cell(QWidget& window, const char* table, int row, int column) {
+    return Find<TableView>(window, table).Model().index(row, column);
+  }
+
+  static QString CellText(QWidget& window, const char* table, int row, int column) {
+    return Cell(window, table, row, column).data().toString();
+  }
+
+  static void ClickCell(QWidget& window, const char* table, int row, int column) {
+    auto& view = Find<TableView>(window, table);
+    const QModelIndex index = view.Model().index(row, column);
+    view.scrollTo(index);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+    QCoreApplication::processEvents();
+  }
+
+  // What is done when the dialog for picking a city stands open: Mumbai is taken.
+  static void WhenAskedTakeMumbai() {
+    WhenOpen("pickCityDialog", [](QWidget& dialog) {
+      Find<QTabBar>(dialog, "cityViews").setCurrentIndex(CityList::AllCities);
+      Type(dialog, "citySearch", "mumbai");
+      ClickRow(Find<TableView>(dialog, "cityList"), 0, true);
+    });
+  }
+
+  // The page after its first month is shown.
+  std::unique_ptr<TransitGridPage> OpenGrid() {
+    auto page = std::make_unique<TransitGridPage>(place_);
+    page->resize(1000, 700);
+    Show(*page);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Text(*page, "gridTitle").isEmpty(); }));
+    return page;
+  }
+
+  static void GoTo(TransitGridPage& page, const char* month, const char* year) {
+    Find<QComboBox>(page, "months").setCurrentText(month);
+    Find<QComboBox>(page, "years").setCurrentText(year);
+    Press(page, "goToMonth");
+  }
+};
+
+TEST_F(TransitWindowTest, TheGridShowsTodayRetrogradesAndTheWayToOtherMonths) {
+  const auto page = OpenGrid();
+  EXPECT_EQ(Text(*page, "gridTitle"), "Planetary Transit in Dubai at 10:00");
+  EXPECT_EQ(Text(*page, "monthLabel"), "November 2026");
+  EXPECT_FALSE(Find<QWidget>(*page, "thisMonth").isVisible());
+  const QModelIndex today = Cell(*page, "grid", 23, kMoonColumn);
+  EXPECT_EQ(today.data(Qt::BackgroundRole).value<QColor>(), Theme::Background(core::kGoodColor));
+  const QModelIndex rahu = Cell(*page, "grid", 0, kRahuColumn);
+  EXPECT_EQ(rahu.data(Qt::ForegroundRole).value<QColor>(), Theme::Red());
+  EXPECT_EQ(rahu.data(Qt::ToolTipRole).toString(),
+            "Rahu in Aquarius (Nakshatra: Dhanishtha, Pada: 3)");
+
+  EXPECT_EQ(Caption(*page, "nextMonth"), "December 2026 &>");
+  Press(*page, "nextMonth");
+  EXPECT_EQ(Text(*page, "monthLabel"), "December 2026");
+  EXPECT_EQ(Find<QComboBox>(*page, "months").currentText(), "December");
+  EXPECT_EQ(Caption(*page, "nextMonth"), "January 2027 &>");
+  Find<QWidget>(*page, "grid").setFocus();
+  QTest::keyClick(page.get(), Qt::Key_Greater, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Text(*page, "monthLabel") == "January 2027"; }));
+  EXPECT_EQ(Caption(*page, "previousMonth"), "&< December 2026");
+  EXPECT_EQ(Caption(*page, "thisMonth"), "Nov 2026");
+  Press(*page, "thisMonth");
+  EXPECT_EQ(Text(*page, "monthLabel"), "November 2026");
+}
+
+TEST_F(TransitWindowTest, TheGridEndsWithTheYears1500And2500) {
+  const auto page = OpenGrid();
+  GoTo(*page, "January", "1500");
+  EXPECT_EQ(CellText(*page, "grid", 0, 0), "Monday 1 Jan 1500");
+  EXPECT_FALSE(Enabled(*page, "previousMonth"));
+  EXPECT_TRUE(Enabled(*page, "nextMonth"));
+  GoTo(*page, "December", "2500");
+  EXPECT_FALSE(CellText(*page, "grid", 30, kMoonColumn).trimmed().isEmpty());
+  EXPECT_FALSE(Enabled(*page, "nextMonth"));
+  EXPECT_TRUE(Enabled(*page, "previousMonth"));
+  GoTo(*page, "February", "2024");
+  EXPECT_EQ(Find<TableView>(*page, "grid").Model().rowCount(), 29);
+}
+
+TEST_F(TransitWindowTest, ACityInAnotherZoneAndAnotherTimeStayForThePage) {
+  const auto page = OpenGrid();
+  const QString inDubai = CellText(*page, "grid", 0, kMoonColumn);
+  WhenAskedTakeMumbai();
+  Press(*page, "changeCity");
+  EXPECT_EQ(Text(*page, "gridTitle"), "Planetary Transit in Mumbai at 10:00");
+  const QString inMumbai = CellText(*page, "grid", 0, kMoonColumn);
+  EXPECT_NE(inMumbai, inDubai);
+  // Ten in Dubai is half past eleven in Mumbai.
+  auto& time = Find<QDateTimeEdit>(*page, "transitTime");
+  EXPECT_EQ(time.text(), "10:00 AM");
+  page->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
+  time.setFocus(Qt::TabFocusReason);
+  QTest::keyClicks(&time, "1130");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*page, "gridTitle").endsWith("at 11:30"); }))
+      << Typed(time.text());
+  EXPECT_EQ(CellText(*page, "grid", 0, kMoonColumn), inDubai);
+
+  session_->State.UserCityName = "Elsewhere";
+  page->hide();
+  page->show();
+  QTest::qWait(150);
+  EXPECT_EQ(Text(*page, "gridTitle"), "Planetary Transit in Mumbai at 11:30");
+}
+
+TEST_F(TransitWindowTest, APlanetOfTheGridOpensItsHoursByMouseAndKey) {
+  const auto page = OpenGrid();
+  std::vector<QString> titles;
+  const auto noteTitle = [&titles](QWidget& dialog) {
+    titles.push_back(dialog.windowTitle());
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  };
+  WhenOpen("transitDetails", noteTitle);
+  ClickCell(*page, "grid", 4, kMoonColumn);
+  WhenOpen("transitDetails", noteTitle);
+  QTest::keyClick(&Find<TableView>(*page, "grid"), Qt::Key_Right);
+  QTest::keyClick(&Find<TableView>(*page, "grid"), Qt::Key_Return);
+  ClickCell(*page, "grid", 4, 0);  // a date opens nothing
+  ASSERT_EQ(titles.size(), 2U);
+  EXPECT_EQ(titles[0], "Transit Details for Moon (5 November 2026, Thursday)");
+  EXPECT_EQ(titles[1], "Transit Details for Mercury (5 November 2026, Thursday)");
+}
+
+TEST_F(TransitWindowTest, DetailsGoFromHoursToMinutesAndFromDayToDay) {
+  TransitDetailsDialog details(place_, transit::Planet::Moon, session_->Time.Today());
+  Show(details);
+  EXPECT_EQ(Caption(details, "previousDay"), "Monday, 23 November 2026");
+  EXPECT_FALSE(Find<QWidget>(details, "today").isVisible());
+  EXPECT_FALSE(Find<QWidget>(details, "backToHours").isVisible());
+  EXPECT_EQ(FocusName(details), "hours");
+
+  ClickCell(details, "hours", 14, 0);
+  EXPECT_FALSE(Find<QWidget>(details, "hours").isVisible());
+  EXPECT_EQ(Text(details, "hour"), "14:00");
+  EXPECT_EQ(CellText(details, "minutes", 11, 0), "14:55");
+  Press(details, "backToHours");
+  EXPECT_TRUE(Find<QWidget>(details, "hours").isVisible());
+  QTest::keyClick(&Find<QWidget>(details, "hours"), Qt::Key_Down);
+  QTest::keyClick(&Find<QWidget>(details, "hours"), Qt::Key_Return);
+  EXPECT_EQ(CellText(details, "minutes", 0, 0), "15:00");
+
+  Press(details, "nextDay");
+  EXPECT_TRUE(Find<QWidget>(details, "hours").isVisible());
+  EXPECT_EQ(details.windowTitle(), "Transit Details for Moon (25 November 2026, Wednesday)");
+  EXPECT_TRUE(Find<QWidget>(details, "today").isVisible());
+  QTest::keyClick(&details, Qt::Key_Left, Qt::AltModifier);
+  QTest::keyClick(&details, Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(details.windowTitle(), "Transit Details for Moon (23 November 2026, Monday)");
+  Press(details, "today");
+  EXPECT_EQ(Caption(details, "nextDay"), "Wednesday, 25 November 2026");
+  QTest::keyClick(&details, Qt::Key_Escape);
+  EXPECT_FALSE(details.isVisible());
+}
+
+TEST_F(TransitWindowTest, TheSkyOfTheDetailsIsThatOfThePickedInstant) {
+  TransitDetailsDialog details(place_, transit::Planet::Sun, test::Moment("2026-11-20"));
+  Show(details);
+  EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 10:00:00 AM");
+  EXPECT_TRUE(Text(details, "skyDay").startsWith("Friday, "));
+  EXPECT_EQ(CellText(details, "panchang", 3, 0), "Hora");
+  EXPECT_EQ(details.findChild<QWidget*>("skyRulingPlanets"), nullptr);
+  EXPECT_EQ(CellText(details, "skyDayHoras", 0, 0), "Venus");
+  auto& picker = Find<QDateTimeEdit>(details, "picker");
+  EXPECT_EQ(picker.text(), "10:00 AM");
+  picker.setFocus(Qt::TabFocusReason);
+  QTest::keyClicks(&picker, "0915");
+  EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 10:00:00 AM");
+  QTest::keyClick(&picker, Qt::Key_Return);
+  EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 09:15:00 AM");
+  EXPECT_TRUE(details.isVisible());
+}
+
+TEST_F(TransitWindowTest, TheHoursGoOutAsASpreadsheet) {
+  TransitDetailsDialog details(place_, transit::Planet::Sun, test::Moment("2026-11-20"));
+  Show(details);
+  files_.Chosen = home_.Place.Folder / "hours.xlsx";
+  QTimer::singleShot(0, qApp, [] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (QAction* entry : menu->actions()) {
+      if (entry->text().startsWith("E&xport")) {
+        entry->trigger();
+      }
+    }
+    menu->close();
+  });
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5});
+  QApplication::sendEvent(&Find<QWidget>(details, "hours"), &asked);
+  EXPECT_TRUE(std::filesystem::exists(files_.Chosen));
+}
+
+TEST_F(TransitWindowTest, DetailsEndWithTheYears1500And2500) {
+  TransitDetailsDialog first(place_, transit::Planet::Ketu, test::Moment("1500-01-01"));
+  Show(first);
+  EXPECT_FALSE(Enabled(first, "previousDay"));
+  EXPECT_TRUE(Enabled(first, "nextDay"));
+  TransitDetailsDialog last(place_, transit::Planet::Ketu, test::Moment("2500-12-31"));
+  Show(last);
+  EXPECT_TRUE(Enabled(last, "previousDay"));
+  EXPECT_FALSE(Enabled(last, "nextDay"));
+  QTest::keyClick(&last, Qt::Key_Right, Qt::AltModifier);
+  EXPECT_TRUE(last.windowTitle().contains("31 December 2500"));
+}
+
+TEST_F(TransitWindowTest, FindRefusesWhatIsNoDegreeAndGoesBackToTheField) {
+  FindTransitDialog find(place_);
+  Show(find);
+  EXPECT_EQ(Find<QComboBox>(find, "planet").itemText(0), "Jupiter");
+  EXPECT_EQ(Find<QComboBox>(find, "Nakshatra").itemText(0), "Anuradha");
+  EXPECT_EQ(Find<QComboBox>(find, "Rashi").itemText(0), "Aries");
+  EXPECT_EQ(Text(find, "result"), transit::kFindPrompt);
+  const std::vector<std::pair<const char*, const char*>> refusals = {
+      {"", "Numeric value required."},
+      {"abc", "Numeric value required."},
+      {"-5", "Value should be between 0 to 360 degrees."},
+      {"361", "Value should be between 0 to 360 degrees."}};
+  for (const auto& [typed, message] : refusals) {
+    Type(find, "Degree", typed);
+    if (*typed == '\0') {
+      Find<QLineEdit>(find, "Degree").clear();
+    }
+    messages_.Await(message);
+    Press(find, "find");
+    EXPECT_EQ(FocusName(find), "Degree") << typed;
+    EXPECT_EQ(Text(find, "result"), transit::kFindPrompt);
+    EXPECT_FALSE(Enabled(find, "sync"));
+  }
+}
+
+TEST_F(TransitWindowTest, OnlyTheFieldsOfTheChosenTargetAreOpen) {
+  FindTransitDialog find(place_);
+  Show(find);
+  const auto open = [&find] {
+    QString fields;
+    for (const char* field : {"Degree", "Nakshatra", "Pada", "Rashi"}) {
+      fields += Enabled(find, field) ? "1" : "0";
+    }
+    return fields;
+  };
+  EXPECT_EQ(open(), "1000");
+  Find<QRadioButton>(find, "byNakshatra").click();
+  EXPECT_EQ(open(), "0110");
+  Find<QRadioButton>(find, "byRashi").click();
+  EXPECT_EQ(open(), "0001");
+}
+
+TEST_F(TransitWindowTest, WhatIsFoundIsToldAndLeadsIntoTheGrid) {
+  const auto page = OpenGrid();
+  WhenOpen("findTransitDialog", [](QWidget& find) {
+    Find<QComboBox>(find, "planet").setCurrentText("Sun");
+    Find<QRadioButton>(find, "byRashi").click();
+    Find<QComboBox>(find, "Rashi").setCurrentText("Capricorn");
+    QTest::keyClick(&find, Qt::Key_Return);
+    EXPECT_EQ(Text(find, "result"), "Sun will get to Capricorn on 14 January 2027 at 17:00.");
+    EXPECT_EQ(Text(find, "status"), "Ready");
+    EXPECT_EQ(Find<TableView>(find, "hours").Model().rowCount(), 24);
+    EXPECT_EQ(Find<TableView>(find, "hours").currentIndex().row(), 17);
+    EXPECT_EQ(FocusName(find), "sync");
+    QTest::keyClick(find.focusWidget(), Qt::Key_Space);
+  });
+  Press(*page, "findTransit");
+  EXPECT_EQ(Text(*page, "monthLabel"), "January 2027");
+  const QModelIndex marked = Find<TableView>(*page, "grid").currentIndex();
+  EXPECT_EQ(marked, Cell(*page, "grid", 13, 1));
+  EXPECT_EQ(marked.data(Qt::BackgroundRole).value<QColor>(), QColor(238, 237, 245));
+  EXPECT_TRUE(Find<TableView>(*page, "grid").selectionModel()->isSelected(marked));
+  QTest::qWait(150);  // no timer builds the month anew
+  EXPECT_EQ(Cell(*page, "grid", 13, 1).data(Qt::BackgroundRole).value<QColor>(),
+            QColor(238, 237, 245));
+}
+
+TEST_F(TransitWindowTest, AFoundDateBeyondTheGridIsKeptOutOfIt) {
+  FindTransitDialog find(place_);
+  Show(find);
+  Find<QComboBox>(find, "planet").setCurrentText("Sun");
+  Find<QDateTimeEdit>(find, "from").setDate(QDate(2600, 1, 1));
+  Type(find, "Degree", "100");
+  Press(find, "find");
+  EXPECT_TRUE(Text(find, "result").contains("2600"));
+  messages_.Await("The grid shows the years 1500 to 2500.");
+  Press(find, "sync");
+  EXPECT_TRUE(find.isVisible());
+}
+
+// No hour is ever followed by 360 degrees: this search goes on through the centuries.
+class LongSearchTest : public TransitWindowTest {
+ protected:
+  LongSearchTest() : find_(place_) {
+    Show(find_);
+    Find<QComboBox>(find_, "planet").setCurrentText("Moon");
+    Type(find_, "Degree", "360");
+  }
+
+  // Does it in the middle of the search.
+  template <typename Deed>
+  void SearchAnd(Deed deed) {
+    QTimer::singleShot(60, &find_, deed);
+    Press(find_, "find");
+  }
+
+  FindTransitDialog find_;
+};
+
+TEST_F(LongSearchTest, CancelIsHeardAndTypingGoesOn) {
+  SearchAnd([this] {
+    EXPECT_EQ(Text(find_, "result"), "Please wait...");
+    EXPECT_EQ(Text(find_, "status"), "Working...");
+    EXPECT_FALSE(Enabled(find_, "find"));
+    EXPECT_FALSE(Enabled(find_, "planet"));
+    EXPECT_TRUE(Find<QWidget>(find_, "progress").isVisible());
+    Type(find_, "Degree", "12.5");
+    Press(find_, "cancel");
+  });
+  EXPECT_EQ(Text(find_, "result"), transit::kFindPrompt);
+  EXPECT_EQ(Text(find_, "status"), "Process was canceled");
+  EXPECT_EQ(Find<TableView>(find_, "hours").Model().rowCount(), 24);
+  EXPECT_EQ(Find<QLineEdit>(find_, "Degree").text(), "12.5");
+  EXPECT_TRUE(Enabled(find_, "find"));
+  EXPECT_FALSE(Enabled(find_, "cancel"));
+  EXPECT_FALSE(Enabled(find_, "sync"));
+  Press(find_, "find");
+  EXPECT_TRUE(Text(find_, "result").startsWith("Moon will get to 12.5 degree(s) on "));
+}
+
+TEST_F(LongSearchTest, EscapeEndsTheSearchAndThenTheDialog) {
+  SearchAnd([this] { QTest::keyClick(&find_, Qt::Key_Escape); });
+  EXPECT_TRUE(find_.isVisible());
+  EXPECT_EQ(Text(find_, "status"), "Process was canceled");
+  QTest::keyClick(&find_, Qt::Key_Escape);
+  EXPECT_FALSE(find_.isVisible());
+}
+
+TEST_F(LongSearchTest, ClosingTheDialogEndsTheSearchToo) {
+  SearchAnd([this] { find_.close(); });
+  EXPECT_FALSE(find_.isVisible());
+}
+
+TEST_F(TransitWindowTest, TheSkyThatTicksInTheMiddleChangesNoResult) {
+  FindTransitDialog find(place_);
+  SkyPanel sky(place_);
+  Show(find);
+  Find<QComboBox>(find, "planet").setCurrentText("Moon");
+  // Only a Moon that stands on the minute at the hour is found here, after years.
+  Type(find, "Degree", "0");
+  Press(find, "find");
+  const QString alone = Text(find, "result");
+  EXPECT_TRUE(alone.startsWith("Moon will get to 0 degree(s) on "));
+  int ticks = 0;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, &sky, [&] {
+    ++ticks;
+    sky.Refresh();
+  });
+  timer.start(0);
+  Press(find, "find");
+  EXPECT_GT(ticks, 0);
+  EXPECT_EQ(Text(find, "result"), alone);
+}
+
+TEST_F(TransitWindowTest, TheHorasFollowTheDateAndTheCity) {
+  auto view = std::make_unique<HoraView>(place_);
+  Show(*view);
+  EXPECT_EQ(view->windowTitle(), "Hora for Dubai");
+  EXPECT_EQ(Text(*view, "horaCaption"), "Hora for Dubai");
+  EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Mars");
+  EXPECT_EQ(CellText(*view, "nightHoras", 0, 0), "Saturn");
+  EXPECT_EQ(CellText(*view, "dayHoras", 0, 1), "06:40 AM");
+  EXPECT_EQ(Text(*view, "sunrise"), "Sunrise: 6:40 AM");
+  EXPECT_EQ("Sunset: " + CellText(*view, "dayHoras", 11, 2), Text(*view, "sunset"));
+  Press(*view, "nextDay");
+  EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Mercury");
+  QTest::keyClick(view.get(), Qt::Key_Left, Qt::AltModifier);
+  Press(*view, "previousDay");
+  EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Moon");
+  auto& date = Find<QDateTimeEdit>(*view, "horaDate");
+  date.setFocus(Qt::TabFocusReason);
+  QTest::keyClicks(&date, "05072026");
+  EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Sun");
+  const QString inDubai = Text(*view, "sunrise");
+  WhenAskedTakeMumbai();
+  Press(*view, "changeCity");
+  EXPECT_EQ(view->windowTitle(), "Hora for Mumbai");
+  EXPECT_NE(Text(*view, "sunrise"), inDubai);
+  Find<QDateTimeEdit>(*view, "horaDate").setDate(QDate(9999, 12, 31));
+  EXPECT_FALSE(Enabled(*view, "nextDay"));
+  EXPECT_EQ(Find<TableView>(*view, "dayHoras").Model().rowCount(), 12);
+}
+
+TEST_F(TransitWindowTest, WhereTheSunStaysUpThereAreNoHoras) {
+  session_->State.UserCityId = 1;
+  session_->StoreConnection.Execute("Update city_master set latitude = 78.2 where id = 1");
+  auto view = std::make_unique<HoraView>(place_);
+  Show(*view);
+  Find<QDateTimeEdit>(*view, "horaDate").setDate(QDate(2026, 6, 21));
+  EXPECT_EQ(Find<TableView>(*view, "dayHoras").Model().rowCount(), 0);
+  EXPECT_EQ(Text(*view, "sunrise"), "");
+}
+
+TEST_F(TransitWindowTest, TheMainWindowLeadsToAllOfThem) {
+  auto window = std::make_unique<MainWindow>(place_);
+  Show(*window);
+  const auto trigger = [&window](const char* name) {
+    auto* action = window->findChild<QAction*>(name);
+    ASSERT_NE(action, nullptr) << name;
+    action->trigger();
+    QCoreApplication::processEvents();
+  };
+  trigger("transitGrid");
+  EXPECT_TRUE(Find<QWidget>(*window, "transitGrid").isVisible());
+  Find<QTabWidget>(*window, "pages").setCurrentIndex(0);
+  bool found = false;
+  WhenOpen("findTransitDialog", [&found](QWidget& dialog) {
+    found = true;
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  trigger("findTransit");
+  EXPECT_TRUE(found);
+  trigger("hora");
+  trigger("hora");
+  EXPECT_EQ(window->findChildren<HoraView*>().size(), 1);
+  EXPECT_TRUE(window->findChild<HoraView*>()->isVisible());
+}
+
+TEST_F(TransitWindowTest, APlanetOfNowInAHoroscopeOpensItsHoursOfToday) {
+  chart::ClientForm form = chart::OpenAddClient(*session_);
+  chart::SelectCity(*session_, 1, form);
+  form.FullName = "Asha Rao";
+  form.Birth = test::Moment("1990-07-05 14:30:00");
+  HoroscopeWindow* window = OpenHoroscope(place_, chart::SaveNewClient(*session_, form, 1).Id);
+  Show(*window);
+  auto& pages = Find<QListWidget>(*window, "pages");
+  pages.setFocus();
+  QTest::keyClicks(&pages, "Transit now");
+  std::vector<QString> titles;
+  const auto noteTitle = [&titles](QWidget& dialog) {
+    titles.push_back(dialog.windowTitle());
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  };
+  auto& now = Find<TableView>(*window, "TransitNow");
+  WhenOpen("transitDetails", noteTitle);
+  ClickRow(now, 1, true);
+  WhenOpen("transitDetails", noteTitle);
+  QTest::keyClick(&now, Qt::Key_Return);
+  const QString planet = now.Model().index(1, 0).data().toString();
+  const QString title = "Transit Details for " + planet + " (24 November 2026, Tuesday)";
+  EXPECT_EQ(titles, (std::vector<QString>{title, title}));
+  DeleteOpenWindows();
+}
+
+}  // namespace
+}  // namespace orvex::ui
