@@ -46,6 +46,11 @@ void WriteGrid(Workplace& place, const std::filesystem::path& folder) {
   window.show();
   page.CreateGrid(11, 2026);
   WritePicture(window, folder / "transit-grid.png");
+  auto& views = *page.findChild<QTabWidget*>("gridViews");
+  views.setCurrentIndex(1);
+  WritePicture(window, folder / "month-graph.png");
+  Measure("month on screen as a graph", window, [&page] { page.CreateGrid(10, 2026); });
+  views.setCurrentIndex(0);
   Measure("month on screen", window, [&page] { page.CreateGrid(12, 2026); });
   Measure("another month on screen", window, [&page] { page.CreateGrid(6, 1750); });
   page.HighlightCell({1, 2027, "14 January 2027", "Sun"});
