@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QShowEvent>
+#include <QStackedWidget>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -17,6 +18,7 @@
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/pick_city_dialog.h"
+#include "ui/graphs/month_graph_view.h"
 #include "ui/transit/find_transit_dialog.h"
 #include "ui/transit/transit_details_dialog.h"
 
@@ -71,7 +73,10 @@ TransitGridPage::TransitGridPage(Workplace& place)
       time_(MakeTimeEdit("transitTime")),
       city_(Button("changeCity", tr("Change c&ity…"))),
       title_(MakeCaptionLabel("gridTitle")),
-      grid_(new TableView) {
+      showGraph_(Button("showGraph", tr("Gra&ph"))),
+      grid_(new TableView),
+      graph_(new MonthGraphView(place)),
+      views_(new QStackedWidget) {
   setObjectName("transitGrid");
   FillLists();
   LayOut();
@@ -109,7 +114,18 @@ void TransitGridPage::LayOut() {
   layout->addLayout(BuildMonths());
   layout->addLayout(BuildChoices());
   layout->addWidget(title_);
-  layout->addWidget(grid_, 1);
+  views_->addWidget(grid_);
+  views_->addWidget(BuildGraph());
+  layout->addWidget(views_, 1);
+}
+
+QWidget* TransitGridPage::BuildGraph() {
+  auto* pane = new QWidget;
+  auto* column = new QVBoxLayout(pane);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(graph_, 1);
+  column->addLayout(GraphButtons(*pane, {graph_->PrintAction(), graph_->SaveAction()}));
+  return pane;
 }
 
 QHBoxLayout* TransitGridPage::BuildMonths() {
@@ -132,6 +148,8 @@ QHBoxLayout* TransitGridPage::BuildChoices() {
     row->addWidget(widget);
   }
   row->addStretch();
+  showGraph_->setCheckable(true);
+  row->addWidget(showGraph_);
   row->addWidget(find_);
   return row;
 }
@@ -153,6 +171,10 @@ void TransitGridPage::Connect() {
   });
   connect(city_, &QPushButton::clicked, this, &TransitGridPage::ChangeCity);
   connect(find_, &QPushButton::clicked, this, &TransitGridPage::FindTransit);
+  connect(showGraph_, &QPushButton::toggled, this, &TransitGridPage::TurnToGraph);
+  connect(graph_, &MonthGraphView::CellChosen, this, [this](std::size_t row, std::size_t column) {
+    OpenDetails(grid_->Model().index(static_cast<int>(row), static_cast<int>(column)));
+  });
   connect(grid_, &TableView::clicked, this, &TransitGridPage::OpenDetails);
   connect(grid_, &TableView::TagActivated, this, [this] { OpenDetails(grid_->currentIndex()); });
 }
@@ -210,6 +232,7 @@ void TransitGridPage::ShowGrid(transit::MonthGrid month) {
   nextTag_ = month.Next.Tag;
   thisMonthTag_ = month.ThisMonth.Tag;
   grid_->setAccessibleName(tr("Planetary Transit") + ' ' + monthLabel_->text());
+  graph_->ShowGrid(month);
   grid_->SetTable(std::move(month.Grid));
   if (was.isValid()) {
     SelectCell(std::min(was.row(), grid_->Model().rowCount() - 1), was.column());
@@ -236,6 +259,7 @@ void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
   core::Table marked = grid_->Table();
   if (const auto cell = transit::HighlightCell(marked, mark.DateText, mark.PlanetName)) {
     grid_->SetTable(std::move(marked));
+    showGraph_->setChecked(false);
     SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();
   }
@@ -247,6 +271,8 @@ void TransitGridPage::FindTransit() {
     HighlightCell(dialog.Mark());
   }
 }
+
+void TransitGridPage::TurnToGraph(bool graph) { views_->setCurrentIndex(graph ? 1 : 0); }
 
 void TransitGridPage::ChangeCity() {
   if (const std::optional<PickedCity> city = PickCity(place_, this)) {

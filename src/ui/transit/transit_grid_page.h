@@ -14,10 +14,12 @@ class QHBoxLayout;
 class QLabel;
 class QModelIndex;
 class QPushButton;
+class QStackedWidget;
 
 namespace orvex::ui {
 
 class LinkButton;
+class MonthGraphView;
 class TableView;
 
 // Follows the user city until another one is chosen here. The city and the time of day chosen stay
@@ -49,6 +51,7 @@ class TransitGridPage final : public QWidget {
   void LayOut();
   QHBoxLayout* BuildMonths();
   QHBoxLayout* BuildChoices();
+  QWidget* BuildGraph();
   void FillLists();
   void Connect();
   void FollowUserCity();
@@ -57,6 +60,7 @@ class TransitGridPage final : public QWidget {
   void SelectCell(int row, int column);
   void GoToTag(const std::string& tag);
   void ChangeCity();
+  void TurnToGraph(bool graph);
   void OpenDetails(const QModelIndex& cell);
 
   Workplace& place_;
@@ -79,7 +83,10 @@ class TransitGridPage final : public QWidget {
   QDateTimeEdit* time_;
   QPushButton* city_;
   QLabel* title_;
+  QPushButton* showGraph_;
   TableView* grid_;
+  MonthGraphView* graph_;
+  QStackedWidget* views_;
 };
 
 }  // namespace orvex::ui
