@@ -48,6 +48,10 @@ void WriteGrid(Workplace& place, const std::filesystem::path& folder) {
   WritePicture(window, folder / "transit-grid.png");
   Measure("month on screen", window, [&page] { page.CreateGrid(12, 2026); });
   Measure("another month on screen", window, [&page] { page.CreateGrid(6, 1750); });
+  auto& graph = *page.findChild<QPushButton*>("showGraph");
+  graph.click();
+  WritePicture(window, folder / "month-graph.png");
+  graph.click();
   page.HighlightCell({1, 2027, "14 January 2027", "Sun"});
   WritePicture(window, folder / "transit-grid-marked.png");
 }
@@ -68,7 +72,8 @@ void WriteFind(Workplace& place, const std::filesystem::path& folder) {
   WritePicture(find, folder / "find-transit.png");
   find.findChild<QComboBox*>("planet")->setCurrentText("Jupiter");
   find.findChild<QLineEdit*>("Degree")->setText("75.5");
-  Measure("ten years searched and shown", find, [&find] { find.findChild<QPushButton*>("find")->click(); });
+  Measure("ten years searched and shown", find,
+          [&find] { find.findChild<QPushButton*>("find")->click(); });
   std::cout << find.findChild<QLabel*>("result")->text().toStdString() << "\n";
   WritePicture(find, folder / "find-transit-found.png");
 }

@@ -17,6 +17,7 @@
 #include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/city_list.h"
+#include "ui/graphs/month_graph_view.h"
 #include "ui/horoscope/horoscope_window.h"
 #include "ui/main/main_window.h"
 #include "ui/main/sky_panel.h"
@@ -170,6 +171,22 @@ TEST_F(TransitWindowTest, APlanetOfTheGridOpensItsHoursByMouseAndKey) {
   EXPECT_EQ(titles[1], "Transit Details for Mercury (5 November 2026, Thursday)");
 }
 
+TEST_F(TransitWindowTest, TheGraphShowsTheMonthOfTheGrid) {
+  const auto page = OpenGrid();
+  Press(*page, "showGraph");
+  auto& graph = Find<MonthGraphView>(*page, "monthGraph");
+  EXPECT_TRUE(graph.isVisible());
+  Press(*page, "nextMonth");
+  EXPECT_TRUE(Typed(graph.accessibleDescription()).find("December 2026") != std::string::npos);
+  QString title;
+  WhenOpen("transitDetails", [&title](QWidget& dialog) {
+    title = dialog.windowTitle();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  emit graph.CellChosen(9, kMoonColumn);
+  EXPECT_EQ(title, "Transit Details for Moon (10 December 2026, Thursday)");
+}
+
 TEST_F(TransitWindowTest, DetailsGoFromHoursToMinutesAndFromDayToDay) {
   TransitDetailsDialog details(place_, transit::Planet::Moon, session_->Time.Today());
   Show(details);
@@ -233,8 +250,9 @@ TEST_F(TransitWindowTest, TheHoursGoOutAsASpreadsheet) {
     }
     menu->close();
   });
-  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5});
-  QApplication::sendEvent(&Find<QWidget>(details, "hours"), &asked);
+  auto& hours = Find<QWidget>(details, "hours");
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5}, hours.mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(&hours, &asked);
   EXPECT_TRUE(std::filesystem::exists(files_.Chosen));
 }
 

@@ -1,13 +1,12 @@
 #include "ui/transit/transit_grid_page.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QShowEvent>
+#include <QStackedWidget>
 #include <QStyledItemDelegate>
-#include <QTabWidget>
 #include <algorithm>
 
 #include "core/exact_numbers.h"
@@ -74,9 +73,10 @@ TransitGridPage::TransitGridPage(Workplace& place)
       time_(MakeTimeEdit("transitTime")),
       city_(Button("changeCity", tr("Change c&ity…"))),
       title_(MakeCaptionLabel("gridTitle")),
+      showGraph_(Button("showGraph", tr("Gra&ph"))),
       grid_(new TableView),
       graph_(new MonthGraphView(place)),
-      views_(new QTabWidget) {
+      views_(new QStackedWidget) {
   setObjectName("transitGrid");
   FillLists();
   LayOut();
@@ -114,17 +114,17 @@ void TransitGridPage::LayOut() {
   layout->addLayout(BuildMonths());
   layout->addLayout(BuildChoices());
   layout->addWidget(title_);
-  views_->setObjectName("gridViews");
-  views_->addTab(grid_, tr("T&able"));
-  views_->addTab(BuildGraph(), tr("G&raph"));
+  views_->addWidget(grid_);
+  views_->addWidget(BuildGraph());
   layout->addWidget(views_, 1);
 }
 
 QWidget* TransitGridPage::BuildGraph() {
   auto* pane = new QWidget;
-  auto* layout = new QVBoxLayout(pane);
-  layout->addWidget(graph_, 1);
-  layout->addLayout(GraphButtons(*pane, {graph_->PrintAction(), graph_->SaveAction()}));
+  auto* column = new QVBoxLayout(pane);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(graph_, 1);
+  column->addLayout(GraphButtons(*pane, {graph_->PrintAction(), graph_->SaveAction()}));
   return pane;
 }
 
@@ -148,6 +148,8 @@ QHBoxLayout* TransitGridPage::BuildChoices() {
     row->addWidget(widget);
   }
   row->addStretch();
+  showGraph_->setCheckable(true);
+  row->addWidget(showGraph_);
   row->addWidget(find_);
   return row;
 }
@@ -169,10 +171,11 @@ void TransitGridPage::Connect() {
   });
   connect(city_, &QPushButton::clicked, this, &TransitGridPage::ChangeCity);
   connect(find_, &QPushButton::clicked, this, &TransitGridPage::FindTransit);
-  connect(grid_, &TableView::clicked, this, &TransitGridPage::OpenDetails);
+  connect(showGraph_, &QPushButton::toggled, this, &TransitGridPage::TurnToGraph);
   connect(graph_, &MonthGraphView::CellChosen, this, [this](std::size_t row, std::size_t column) {
     OpenDetails(grid_->Model().index(static_cast<int>(row), static_cast<int>(column)));
   });
+  connect(grid_, &TableView::clicked, this, &TransitGridPage::OpenDetails);
   connect(grid_, &TableView::TagActivated, this, [this] { OpenDetails(grid_->currentIndex()); });
 }
 
@@ -255,8 +258,8 @@ void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
   CreateGrid(mark.Month, mark.Year);
   core::Table marked = grid_->Table();
   if (const auto cell = transit::HighlightCell(marked, mark.DateText, mark.PlanetName)) {
-    views_->setCurrentWidget(grid_);
     grid_->SetTable(std::move(marked));
+    showGraph_->setChecked(false);
     SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();
   }
@@ -268,6 +271,8 @@ void TransitGridPage::FindTransit() {
     HighlightCell(dialog.Mark());
   }
 }
+
+void TransitGridPage::TurnToGraph(bool graph) { views_->setCurrentIndex(graph ? 1 : 0); }
 
 void TransitGridPage::ChangeCity() {
   if (const std::optional<PickedCity> city = PickCity(place_, this)) {

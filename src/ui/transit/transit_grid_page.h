@@ -1,5 +1,4 @@
-// The monthly grid: where the planets stand on each day of a month, at one time of day in one city,
-// as a table and as a graph.
+// The monthly grid: where the planets stand on each day of a month, at one time of day in one city.
 #pragma once
 
 #include <QTimer>
@@ -15,7 +14,7 @@ class QHBoxLayout;
 class QLabel;
 class QModelIndex;
 class QPushButton;
-class QTabWidget;
+class QStackedWidget;
 
 namespace orvex::ui {
 
@@ -52,6 +51,7 @@ class TransitGridPage final : public QWidget {
   void LayOut();
   QHBoxLayout* BuildMonths();
   QHBoxLayout* BuildChoices();
+  QWidget* BuildGraph();
   void FillLists();
   void Connect();
   void FollowUserCity();
@@ -60,7 +60,7 @@ class TransitGridPage final : public QWidget {
   void SelectCell(int row, int column);
   void GoToTag(const std::string& tag);
   void ChangeCity();
-  QWidget* BuildGraph();
+  void TurnToGraph(bool graph);
   void OpenDetails(const QModelIndex& cell);
 
   Workplace& place_;
@@ -83,9 +83,10 @@ class TransitGridPage final : public QWidget {
   QDateTimeEdit* time_;
   QPushButton* city_;
   QLabel* title_;
+  QPushButton* showGraph_;
   TableView* grid_;
   MonthGraphView* graph_;
-  QTabWidget* views_;
+  QStackedWidget* views_;
 };
 
 }  // namespace orvex::ui
