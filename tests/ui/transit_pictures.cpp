@@ -68,7 +68,8 @@ void WriteFind(Workplace& place, const std::filesystem::path& folder) {
   WritePicture(find, folder / "find-transit.png");
   find.findChild<QComboBox*>("planet")->setCurrentText("Jupiter");
   find.findChild<QLineEdit*>("Degree")->setText("75.5");
-  Measure("ten years searched and shown", find, [&find] { find.findChild<QPushButton*>("find")->click(); });
+  Measure("ten years searched and shown", find,
+          [&find] { find.findChild<QPushButton*>("find")->click(); });
   std::cout << find.findChild<QLabel*>("result")->text().toStdString() << "\n";
   WritePicture(find, folder / "find-transit-found.png");
 }
