@@ -4,6 +4,8 @@
 #include <QHelpEvent>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QToolTip>
 #include <QXmlStreamReader>
 
@@ -13,6 +15,7 @@
 #include "ui/graphs/dasha_timeline_view.h"
 #include "ui/graphs/month_graph_view.h"
 #include "ui/horoscope/horoscope_window.h"
+#include "ui/transit/transit_grid_page.h"
 
 namespace orvex::ui {
 namespace {
@@ -96,6 +99,28 @@ TEST_F(Graphs, TheMonthGraphShowsTheMonthAskedForAndTellsWhatIsUnderThePointer) 
   EXPECT_FALSE(view.Picture().Today);
   EXPECT_THROW(view.ShowMonth(transit::UserCityView(*session_), 12, 1499), std::out_of_range);
   EXPECT_EQ(view.Picture().Days.size(), 29U);
+}
+
+TEST_F(Graphs, TheGraphBesideTheGridShowsTheSameMonthAndOpensTheSameDay) {
+  TransitGridPage page(place_);
+  page.resize(1100, 640);
+  Show(page);
+  auto& tabs = Find<QTabWidget>(page, "gridViews");
+  QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(1).center());
+  auto& graph = Find<MonthGraphView>(page, "monthGraph");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return graph.Picture().Days.size() == 30; }));
+  EXPECT_TRUE(graph.Picture().Today);
+  Press(page, "nextMonth");
+  EXPECT_EQ(graph.Picture().Days.front(), test::Moment("2026-12-01"));
+  EXPECT_EQ(graph.Picture().Title, "Planetary Transit in Dubai at 10:00, December 2026");
+  const MonthLayout layout = LayOutMonth(graph.Picture(), graph.font(), graph.rect());
+  QString title;
+  WhenOpen("transitDetails", [&](QWidget& dialog) {
+    title = dialog.windowTitle();
+    dialog.close();
+  });
+  QTest::mouseClick(&graph, Qt::LeftButton, {}, layout.Lines.at(6).Code.Box.center().toPoint());
+  EXPECT_TRUE(title.contains("Saturn")) << title.toStdString();
 }
 
 TEST_F(Graphs, SavedAndPrintedGraphsAreLightAndPrivateWhateverTheTheme) {

@@ -1,11 +1,13 @@
 #include "ui/transit/transit_grid_page.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QShowEvent>
 #include <QStyledItemDelegate>
+#include <QTabWidget>
 #include <algorithm>
 
 #include "core/exact_numbers.h"
@@ -17,6 +19,7 @@
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/pick_city_dialog.h"
+#include "ui/graphs/month_graph_view.h"
 #include "ui/transit/find_transit_dialog.h"
 #include "ui/transit/transit_details_dialog.h"
 
@@ -71,7 +74,9 @@ TransitGridPage::TransitGridPage(Workplace& place)
       time_(MakeTimeEdit("transitTime")),
       city_(Button("changeCity", tr("Change c&ity…"))),
       title_(MakeCaptionLabel("gridTitle")),
-      grid_(new TableView) {
+      grid_(new TableView),
+      graph_(new MonthGraphView(place)),
+      views_(new QTabWidget) {
   setObjectName("transitGrid");
   FillLists();
   LayOut();
@@ -109,7 +114,18 @@ void TransitGridPage::LayOut() {
   layout->addLayout(BuildMonths());
   layout->addLayout(BuildChoices());
   layout->addWidget(title_);
-  layout->addWidget(grid_, 1);
+  views_->setObjectName("gridViews");
+  views_->addTab(grid_, tr("T&able"));
+  views_->addTab(BuildGraph(), tr("G&raph"));
+  layout->addWidget(views_, 1);
+}
+
+QWidget* TransitGridPage::BuildGraph() {
+  auto* pane = new QWidget;
+  auto* layout = new QVBoxLayout(pane);
+  layout->addWidget(graph_, 1);
+  layout->addLayout(GraphButtons(*pane, {graph_->PrintAction(), graph_->SaveAction()}));
+  return pane;
 }
 
 QHBoxLayout* TransitGridPage::BuildMonths() {
@@ -154,6 +170,9 @@ void TransitGridPage::Connect() {
   connect(city_, &QPushButton::clicked, this, &TransitGridPage::ChangeCity);
   connect(find_, &QPushButton::clicked, this, &TransitGridPage::FindTransit);
   connect(grid_, &TableView::clicked, this, &TransitGridPage::OpenDetails);
+  connect(graph_, &MonthGraphView::CellChosen, this, [this](std::size_t row, std::size_t column) {
+    OpenDetails(grid_->Model().index(static_cast<int>(row), static_cast<int>(column)));
+  });
   connect(grid_, &TableView::TagActivated, this, [this] { OpenDetails(grid_->currentIndex()); });
 }
 
@@ -210,6 +229,7 @@ void TransitGridPage::ShowGrid(transit::MonthGrid month) {
   nextTag_ = month.Next.Tag;
   thisMonthTag_ = month.ThisMonth.Tag;
   grid_->setAccessibleName(tr("Planetary Transit") + ' ' + monthLabel_->text());
+  graph_->ShowGrid(month);
   grid_->SetTable(std::move(month.Grid));
   if (was.isValid()) {
     SelectCell(std::min(was.row(), grid_->Model().rowCount() - 1), was.column());
@@ -235,6 +255,7 @@ void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
   CreateGrid(mark.Month, mark.Year);
   core::Table marked = grid_->Table();
   if (const auto cell = transit::HighlightCell(marked, mark.DateText, mark.PlanetName)) {
+    views_->setCurrentWidget(grid_);
     grid_->SetTable(std::move(marked));
     SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();

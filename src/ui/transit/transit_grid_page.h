@@ -1,4 +1,5 @@
-// The monthly grid: where the planets stand on each day of a month, at one time of day in one city.
+// The monthly grid: where the planets stand on each day of a month, at one time of day in one city,
+// as a table and as a graph.
 #pragma once
 
 #include <QTimer>
@@ -14,10 +15,12 @@ class QHBoxLayout;
 class QLabel;
 class QModelIndex;
 class QPushButton;
+class QTabWidget;
 
 namespace orvex::ui {
 
 class LinkButton;
+class MonthGraphView;
 class TableView;
 
 // Follows the user city until another one is chosen here. The city and the time of day chosen stay
@@ -57,6 +60,7 @@ class TransitGridPage final : public QWidget {
   void SelectCell(int row, int column);
   void GoToTag(const std::string& tag);
   void ChangeCity();
+  QWidget* BuildGraph();
   void OpenDetails(const QModelIndex& cell);
 
   Workplace& place_;
@@ -80,6 +84,8 @@ class TransitGridPage final : public QWidget {
   QPushButton* city_;
   QLabel* title_;
   TableView* grid_;
+  MonthGraphView* graph_;
+  QTabWidget* views_;
 };
 
 }  // namespace orvex::ui
