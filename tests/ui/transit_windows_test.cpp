@@ -250,7 +250,7 @@ TEST_F(TransitWindowTest, TheHoursGoOutAsASpreadsheet) {
     }
     menu->close();
   });
-  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5});
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5}, {5, 5});
   QApplication::sendEvent(&Find<QWidget>(details, "hours"), &asked);
   EXPECT_TRUE(std::filesystem::exists(files_.Chosen));
 }
