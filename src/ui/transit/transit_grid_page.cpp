@@ -106,7 +106,7 @@ void TransitGridPage::LayOut() {
   grid_->verticalHeader()->setDefaultSectionSize(grid_->fontMetrics().height() + kGrid / 2);
   grid_->SetEmptyText(tr("The positions of the month are being computed…"));
   // So close together that all planets stand side by side.
-  grid_->SetColumnRoom(kGrid / 2);
+  grid_->SetColumnRoom(kGrid / 4);
   grid_->FreezeFirstColumn();
   grid_->setItemDelegate(new PositionDelegate(grid_));
   OfferExport(place_, *grid_);
