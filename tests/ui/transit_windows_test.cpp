@@ -233,9 +233,8 @@ TEST_F(TransitWindowTest, TheHoursGoOutAsASpreadsheet) {
     }
     menu->close();
   });
-  auto& hours = Find<QWidget>(details, "hours");
-  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5}, hours.mapToGlobal(QPoint(5, 5)));
-  QApplication::sendEvent(&hours, &asked);
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5}, {5, 5});
+  QApplication::sendEvent(&Find<QWidget>(details, "hours"), &asked);
   EXPECT_TRUE(std::filesystem::exists(files_.Chosen));
 }
 
