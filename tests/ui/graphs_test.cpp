@@ -13,6 +13,7 @@
 #include "ui/graphs/dasha_timeline_view.h"
 #include "ui/graphs/month_graph_view.h"
 #include "ui/horoscope/horoscope_window.h"
+#include "ui/transit/transit_grid_page.h"
 
 namespace orvex::ui {
 namespace {
@@ -96,6 +97,27 @@ TEST_F(Graphs, TheMonthGraphShowsTheMonthAskedForAndTellsWhatIsUnderThePointer) 
   EXPECT_FALSE(view.Picture().Today);
   EXPECT_THROW(view.ShowMonth(transit::UserCityView(*session_), 12, 1499), std::out_of_range);
   EXPECT_EQ(view.Picture().Days.size(), 29U);
+}
+
+TEST_F(Graphs, TheGraphBesideTheGridShowsTheSameMonthAndOpensTheSameDay) {
+  TransitGridPage page(place_);
+  page.resize(1100, 640);
+  Show(page);
+  page.CreateGrid(11, 2026);
+  Press(page, "showGraph");
+  auto& graph = Find<MonthGraphView>(page, "monthGraph");
+  EXPECT_TRUE(graph.isVisible());
+  EXPECT_TRUE(graph.Picture().Today);
+  Press(page, "nextMonth");
+  EXPECT_EQ(graph.Picture().Days.front(), test::Moment("2026-12-01"));
+  const MonthLayout layout = LayOutMonth(graph.Picture(), graph.font(), graph.rect());
+  QString title;
+  WhenOpen("transitDetails", [&title](QWidget& dialog) {
+    title = dialog.windowTitle();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  QTest::mouseClick(&graph, Qt::LeftButton, {}, layout.Lines.at(6).Code.Box.center().toPoint());
+  EXPECT_EQ(title, "Transit Details for Saturn (31 December 2026, Thursday)");
 }
 
 TEST_F(Graphs, SavedAndPrintedGraphsAreLightAndPrivateWhateverTheTheme) {

@@ -17,7 +17,6 @@
 #include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/city_list.h"
-#include "ui/graphs/month_graph_view.h"
 #include "ui/horoscope/horoscope_window.h"
 #include "ui/main/main_window.h"
 #include "ui/main/sky_panel.h"
@@ -169,22 +168,6 @@ TEST_F(TransitWindowTest, APlanetOfTheGridOpensItsHoursByMouseAndKey) {
   ASSERT_EQ(titles.size(), 2U);
   EXPECT_EQ(titles[0], "Transit Details for Moon (5 November 2026, Thursday)");
   EXPECT_EQ(titles[1], "Transit Details for Mercury (5 November 2026, Thursday)");
-}
-
-TEST_F(TransitWindowTest, TheGraphShowsTheMonthOfTheGrid) {
-  const auto page = OpenGrid();
-  Press(*page, "showGraph");
-  auto& graph = Find<MonthGraphView>(*page, "monthGraph");
-  EXPECT_TRUE(graph.isVisible());
-  Press(*page, "nextMonth");
-  EXPECT_TRUE(Typed(graph.accessibleDescription()).find("December 2026") != std::string::npos);
-  QString title;
-  WhenOpen("transitDetails", [&title](QWidget& dialog) {
-    title = dialog.windowTitle();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-  });
-  emit graph.CellChosen(9, kMoonColumn);
-  EXPECT_EQ(title, "Transit Details for Moon (10 December 2026, Thursday)");
 }
 
 TEST_F(TransitWindowTest, DetailsGoFromHoursToMinutesAndFromDayToDay) {
