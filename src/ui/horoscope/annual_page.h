@@ -1,8 +1,8 @@
 // The annual chart of a year of life.
 #pragma once
 
-#include "ui/horoscope/catalogue_table.h"
 #include "ui/base/chart_view.h"
+#include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/horoscope_page.h"
 
 class QHBoxLayout;

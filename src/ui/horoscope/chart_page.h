@@ -1,8 +1,8 @@
 // The first page: the two charts beside the tables of planets, cusps and ruling planets.
 #pragma once
 
-#include "ui/horoscope/catalogue_table.h"
 #include "ui/base/chart_view.h"
+#include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/horoscope_page.h"
 
 class QRadioButton;
