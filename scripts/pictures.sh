@@ -28,6 +28,6 @@ mkdir -p "$guide"
 for name in $(grep -ohE 'pictures/[a-z-]+\.png' docs/guide/*.md | sort -u | sed 's|pictures/||'); do
   from="$folder/light-100/$name"
   [ -f "$from" ] || from="$folder/light-100/horoscope/$name"
-  convert "$from" -strip +dither -colors 96 -define png:compression-level=9 "PNG8:$guide/$name"
+  convert "$from" -strip +dither -colors 64 -define png:compression-level=9 "PNG8:$guide/$name"
 done
 echo "Pictures of the guide lie in $guide."

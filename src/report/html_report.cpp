@@ -320,7 +320,7 @@ std::filesystem::path GenerateHoroscopeView(core::Session& session,
               PictureTag(request, ChalitPicture(cells, request.Style),
                          folder / ("Chalit-" + clientId + ".bmp"), files)};
   }
-  const std::filesystem::path file = folder / (clientId + ".htm");
+  std::filesystem::path file = folder / (clientId + ".htm");
   files.Add(file, FillTemplate(session, opened.Model, request.Detail, charts, templateText));
   files.Commit();
   return file;

@@ -50,7 +50,7 @@ void WriteGrid(Workplace& place, const std::filesystem::path& folder) {
   Measure("another month on screen", window, [&page] { page.CreateGrid(6, 1750); });
   auto& graph = *page.findChild<QPushButton*>("showGraph");
   graph.click();
-  WritePicture(window, folder / "transit-graph.png");
+  WritePicture(window, folder / "month-graph.png");
   graph.click();
   page.HighlightCell({1, 2027, "14 January 2027", "Sun"});
   WritePicture(window, folder / "transit-grid-marked.png");

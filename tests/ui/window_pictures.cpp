@@ -26,7 +26,6 @@
 #include "ui/dialogs/pick_city_dialog.h"
 #include "ui/dialogs/remedy_dialog.h"
 #include "ui/dialogs/settings_dialog.h"
-#include "ui/graphs/month_graph_view.h"
 #include "ui/main/main_window.h"
 
 namespace orvex::ui {
@@ -97,13 +96,6 @@ void WriteDialogs(Workplace& place, std::int32_t client, const std::filesystem::
   WriteSettings(place, folder);
 }
 
-void WriteMonthGraph(Workplace& place, const std::filesystem::path& file) {
-  MonthGraphView graph(place);
-  graph.resize(1366, 700);
-  graph.ShowMonth(transit::UserCityView(place.Session), 11, 2026);
-  WritePicture(graph, file);
-}
-
 void WriteAll(const std::filesystem::path& folder) {
   test::TestHome home;
   const std::unique_ptr<core::Session> session = home.Start();
@@ -120,7 +112,6 @@ void WriteAll(const std::filesystem::path& folder) {
   WriteMain(place, folder / "main.png");
   WriteSearch(place, folder);
   WriteDialogs(place, client, folder);
-  WriteMonthGraph(place, folder / "month-graph.png");
 }
 
 }  // namespace

@@ -112,7 +112,7 @@ std::optional<std::vector<PlacedWord>> Fit(const Setting& setting) {
     const double step = std::max(setting.LineHeight / 6, 0.25);
     for (double away = 0; away <= slack; away += step) {
       for (const double top : {middle - away, middle + away}) {
-        if (const auto placed = TrySetting(setting, lines, top)) {
+        if (auto placed = TrySetting(setting, lines, top)) {
           return placed;
         }
       }
