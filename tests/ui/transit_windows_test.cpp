@@ -2,89 +2,29 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDateTimeEdit>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabBar>
 #include <QTabWidget>
 
 #include "chart/client_saving.h"
 #include "core/cell_colors.h"
-#include "support/ui_desk.h"
+#include "support/transit_windows.h"
 #include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/city_list.h"
+#include "ui/graphs/month_graph_view.h"
 #include "ui/horoscope/horoscope_window.h"
 #include "ui/main/main_window.h"
-#include "ui/main/sky_panel.h"
-#include "ui/transit/find_transit_dialog.h"
 #include "ui/transit/hora_view.h"
 #include "ui/transit/transit_details_dialog.h"
-#include "ui/transit/transit_grid_page.h"
 
 namespace orvex::ui {
 namespace {
 
+using test::TransitWindowTest;
+
 constexpr int kMoonColumn = 2;
 constexpr int kRahuColumn = 8;
-
-class TransitWindowTest : public test::DeskTest {
- protected:
-  static QString Text(QWidget& window, const char* label) {
-    return Find<QLabel>(window, label).text();
-  }
-
-  static QString Caption(QWidget& window, const char* button) {
-    return Find<QPushButton>(window, button).text();
-  }
-
-  static bool Enabled(QWidget& window, const char* widget) {
-    return Find<QWidget>(window, widget).isEnabled();
-  }
-
-  static QModelIndex Cell(QWidget& window, const char* table, int row, int column) {
-    return Find<TableView>(window, table).Model().index(row, column);
-  }
-
-  static QString CellText(QWidget& window, const char* table, int row, int column) {
-    return Cell(window, table, row, column).data().toString();
-  }
-
-  static void ClickCell(QWidget& window, const char* table, int row, int column) {
-    auto& view = Find<TableView>(window, table);
-    const QModelIndex index = view.Model().index(row, column);
-    view.scrollTo(index);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
-    QCoreApplication::processEvents();
-  }
-
-  // What is done when the dialog for picking a city stands open: Mumbai is taken.
-  static void WhenAskedTakeMumbai() {
-    WhenOpen("pickCityDialog", [](QWidget& dialog) {
-      Find<QTabBar>(dialog, "cityViews").setCurrentIndex(CityList::AllCities);
-      Type(dialog, "citySearch", "mumbai");
-      ClickRow(Find<TableView>(dialog, "cityList"), 0, true);
-    });
-  }
-
-  // The page after its first month is shown.
-  std::unique_ptr<TransitGridPage> OpenGrid() {
-    auto page = std::make_unique<TransitGridPage>(place_);
-    page->resize(1000, 700);
-    Show(*page);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !Text(*page, "gridTitle").isEmpty(); }));
-    return page;
-  }
-
-  static void GoTo(TransitGridPage& page, const char* month, const char* year) {
-    Find<QComboBox>(page, "months").setCurrentText(month);
-    Find<QComboBox>(page, "years").setCurrentText(year);
-    Press(page, "goToMonth");
-  }
-};
 
 TEST_F(TransitWindowTest, TheGridShowsTodayRetrogradesAndTheWayToOtherMonths) {
   const auto page = OpenGrid();
@@ -249,161 +189,6 @@ TEST_F(TransitWindowTest, DetailsEndWithTheYears1500And2500) {
   EXPECT_FALSE(Enabled(last, "nextDay"));
   QTest::keyClick(&last, Qt::Key_Right, Qt::AltModifier);
   EXPECT_TRUE(last.windowTitle().contains("31 December 2500"));
-}
-
-TEST_F(TransitWindowTest, FindRefusesWhatIsNoDegreeAndGoesBackToTheField) {
-  FindTransitDialog find(place_);
-  Show(find);
-  EXPECT_EQ(Find<QComboBox>(find, "planet").itemText(0), "Jupiter");
-  EXPECT_EQ(Find<QComboBox>(find, "Nakshatra").itemText(0), "Anuradha");
-  EXPECT_EQ(Find<QComboBox>(find, "Rashi").itemText(0), "Aries");
-  EXPECT_EQ(Text(find, "result"), transit::kFindPrompt);
-  const std::vector<std::pair<const char*, const char*>> refusals = {
-      {"", "Numeric value required."},
-      {"abc", "Numeric value required."},
-      {"-5", "Value should be between 0 to 360 degrees."},
-      {"361", "Value should be between 0 to 360 degrees."}};
-  for (const auto& [typed, message] : refusals) {
-    Type(find, "Degree", typed);
-    if (*typed == '\0') {
-      Find<QLineEdit>(find, "Degree").clear();
-    }
-    messages_.Await(message);
-    Press(find, "find");
-    EXPECT_EQ(FocusName(find), "Degree") << typed;
-    EXPECT_EQ(Text(find, "result"), transit::kFindPrompt);
-    EXPECT_FALSE(Enabled(find, "sync"));
-  }
-}
-
-TEST_F(TransitWindowTest, OnlyTheFieldsOfTheChosenTargetAreOpen) {
-  FindTransitDialog find(place_);
-  Show(find);
-  const auto open = [&find] {
-    QString fields;
-    for (const char* field : {"Degree", "Nakshatra", "Pada", "Rashi"}) {
-      fields += Enabled(find, field) ? "1" : "0";
-    }
-    return fields;
-  };
-  EXPECT_EQ(open(), "1000");
-  Find<QRadioButton>(find, "byNakshatra").click();
-  EXPECT_EQ(open(), "0110");
-  Find<QRadioButton>(find, "byRashi").click();
-  EXPECT_EQ(open(), "0001");
-}
-
-TEST_F(TransitWindowTest, WhatIsFoundIsToldAndLeadsIntoTheGrid) {
-  const auto page = OpenGrid();
-  WhenOpen("findTransitDialog", [](QWidget& find) {
-    Find<QComboBox>(find, "planet").setCurrentText("Sun");
-    Find<QRadioButton>(find, "byRashi").click();
-    Find<QComboBox>(find, "Rashi").setCurrentText("Capricorn");
-    QTest::keyClick(&find, Qt::Key_Return);
-    EXPECT_EQ(Text(find, "result"), "Sun will get to Capricorn on 14 January 2027 at 17:00.");
-    EXPECT_EQ(Text(find, "status"), "Ready");
-    EXPECT_EQ(Find<TableView>(find, "hours").Model().rowCount(), 24);
-    EXPECT_EQ(Find<TableView>(find, "hours").currentIndex().row(), 17);
-    EXPECT_EQ(FocusName(find), "sync");
-    QTest::keyClick(find.focusWidget(), Qt::Key_Space);
-  });
-  Press(*page, "findTransit");
-  EXPECT_EQ(Text(*page, "monthLabel"), "January 2027");
-  const QModelIndex marked = Find<TableView>(*page, "grid").currentIndex();
-  EXPECT_EQ(marked, Cell(*page, "grid", 13, 1));
-  EXPECT_EQ(marked.data(Qt::BackgroundRole).value<QColor>(), QColor(238, 237, 245));
-  EXPECT_TRUE(Find<TableView>(*page, "grid").selectionModel()->isSelected(marked));
-  QTest::qWait(150);  // no timer builds the month anew
-  EXPECT_EQ(Cell(*page, "grid", 13, 1).data(Qt::BackgroundRole).value<QColor>(),
-            QColor(238, 237, 245));
-}
-
-TEST_F(TransitWindowTest, AFoundDateBeyondTheGridIsKeptOutOfIt) {
-  FindTransitDialog find(place_);
-  Show(find);
-  Find<QComboBox>(find, "planet").setCurrentText("Sun");
-  Find<QDateTimeEdit>(find, "from").setDate(QDate(2600, 1, 1));
-  Type(find, "Degree", "100");
-  Press(find, "find");
-  EXPECT_TRUE(Text(find, "result").contains("2600"));
-  messages_.Await("The grid shows the years 1500 to 2500.");
-  Press(find, "sync");
-  EXPECT_TRUE(find.isVisible());
-}
-
-// No hour is ever followed by 360 degrees: this search goes on through the centuries.
-class LongSearchTest : public TransitWindowTest {
- protected:
-  LongSearchTest() : find_(place_) {
-    Show(find_);
-    Find<QComboBox>(find_, "planet").setCurrentText("Moon");
-    Type(find_, "Degree", "360");
-  }
-
-  // Does it in the middle of the search.
-  template <typename Deed>
-  void SearchAnd(Deed deed) {
-    QTimer::singleShot(60, &find_, deed);
-    Press(find_, "find");
-  }
-
-  FindTransitDialog find_;
-};
-
-TEST_F(LongSearchTest, CancelIsHeardAndTypingGoesOn) {
-  SearchAnd([this] {
-    EXPECT_EQ(Text(find_, "result"), "Please wait...");
-    EXPECT_EQ(Text(find_, "status"), "Working...");
-    EXPECT_FALSE(Enabled(find_, "find"));
-    EXPECT_FALSE(Enabled(find_, "planet"));
-    EXPECT_TRUE(Find<QWidget>(find_, "progress").isVisible());
-    Type(find_, "Degree", "12.5");
-    Press(find_, "cancel");
-  });
-  EXPECT_EQ(Text(find_, "result"), transit::kFindPrompt);
-  EXPECT_EQ(Text(find_, "status"), "Process was canceled");
-  EXPECT_EQ(Find<TableView>(find_, "hours").Model().rowCount(), 24);
-  EXPECT_EQ(Find<QLineEdit>(find_, "Degree").text(), "12.5");
-  EXPECT_TRUE(Enabled(find_, "find"));
-  EXPECT_FALSE(Enabled(find_, "cancel"));
-  EXPECT_FALSE(Enabled(find_, "sync"));
-  Press(find_, "find");
-  EXPECT_TRUE(Text(find_, "result").startsWith("Moon will get to 12.5 degree(s) on "));
-}
-
-TEST_F(LongSearchTest, EscapeEndsTheSearchAndThenTheDialog) {
-  SearchAnd([this] { QTest::keyClick(&find_, Qt::Key_Escape); });
-  EXPECT_TRUE(find_.isVisible());
-  EXPECT_EQ(Text(find_, "status"), "Process was canceled");
-  QTest::keyClick(&find_, Qt::Key_Escape);
-  EXPECT_FALSE(find_.isVisible());
-}
-
-TEST_F(LongSearchTest, ClosingTheDialogEndsTheSearchToo) {
-  SearchAnd([this] { find_.close(); });
-  EXPECT_FALSE(find_.isVisible());
-}
-
-TEST_F(TransitWindowTest, TheSkyThatTicksInTheMiddleChangesNoResult) {
-  FindTransitDialog find(place_);
-  SkyPanel sky(place_);
-  Show(find);
-  Find<QComboBox>(find, "planet").setCurrentText("Moon");
-  // Only a Moon that stands on the minute at the hour is found here, after years.
-  Type(find, "Degree", "0");
-  Press(find, "find");
-  const QString alone = Text(find, "result");
-  EXPECT_TRUE(alone.startsWith("Moon will get to 0 degree(s) on "));
-  int ticks = 0;
-  QTimer timer;
-  QObject::connect(&timer, &QTimer::timeout, &sky, [&] {
-    ++ticks;
-    sky.Refresh();
-  });
-  timer.start(0);
-  Press(find, "find");
-  EXPECT_GT(ticks, 0);
-  EXPECT_EQ(Text(find, "result"), alone);
 }
 
 TEST_F(TransitWindowTest, TheHorasFollowTheDateAndTheCity) {

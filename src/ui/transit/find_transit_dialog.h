@@ -28,7 +28,6 @@ class FindTransitDialog final : public FormDialog {
   // Where the transit found last lies in the grid.
   const transit::GridMark& Mark() const { return mark_; }
 
- public slots:
   // The first call while it searches ends the search and leaves the dialog open.
   void reject() override;
 

@@ -42,8 +42,11 @@ class PositionDelegate final : public QStyledItemDelegate {
 
   QString displayText(const QVariant& value, const QLocale& /*locale*/) const override {
     const QString text = value.toString();
-    const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return c != ' '; });
-    return text.mid(first - text.begin());
+    qsizetype blanks = 0;
+    while (blanks < text.size() && text[blanks] == ' ') {
+      ++blanks;
+    }
+    return text.mid(blanks);
   }
 };
 
