@@ -11,8 +11,6 @@
 #include "support/transit_windows.h"
 #include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
-#include "ui/dialogs/city_list.h"
-#include "ui/graphs/month_graph_view.h"
 #include "ui/horoscope/horoscope_window.h"
 #include "ui/main/main_window.h"
 #include "ui/transit/hora_view.h"

@@ -47,7 +47,7 @@ xdotool key Return
 horoscope=$(await 'First Client')
 [ -n "$horoscope" ] || fail "no horoscope"
 
-"$cli" client list | grep -q "First Client" || fail "the client was not stored"
+grep -q "First Client" <<<"$("$cli" client list)" || fail "the client was not stored"
 timeout 20 "$orvex" >/dev/null 2>&1 &
 second=$!
 sleep 3
@@ -68,8 +68,8 @@ demo=$(await 'demonstration')
 xdotool windowfocus --sync "$demo"
 xdotool key ctrl+q || true
 wait "$program" || fail "the demonstration ended with an error"
-"$cli" --demo client list | grep -q "Albert Einstein" || fail "the demonstration has no clients"
-"$cli" client list | grep -q "Albert Einstein" && fail "the demonstration filled the own home"
+grep -q "Albert Einstein" <<<"$("$cli" --demo client list)" || fail "the demonstration has no clients"
+grep -q "Albert Einstein" <<<"$("$cli" client list)" && fail "the demonstration filled the own home"
 
 [ -z "$(find "$work/home" "$work/config" "$work/data" -type f -perm /077)" ] || fail "files that others may read"
 echo "The whole path was walked."
