@@ -42,8 +42,9 @@ void WriteGrid(Workplace& place, const std::filesystem::path& folder) {
   MainWindow window(place);
   auto& page = *window.findChild<TransitGridPage*>();
   window.resize(kWidth, kHeight);
-  window.findChild<QTabWidget*>("pages")->setCurrentWidget(&page);
   window.show();
+  QCoreApplication::processEvents();
+  window.findChild<QTabWidget*>("pages")->setCurrentWidget(&page);
   page.CreateGrid(11, 2026);
   WritePicture(window, folder / "transit-grid.png");
   auto& graph = *page.findChild<QPushButton*>("showGraph");

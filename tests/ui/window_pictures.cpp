@@ -56,6 +56,8 @@ void WriteMain(Workplace& place, const std::filesystem::path& file) {
 void WriteSearch(Workplace& place, const std::filesystem::path& folder) {
   MainWindow window(place);
   window.resize(kWidth, kHeight);
+  window.show();
+  QCoreApplication::processEvents();
   window.findChild<QAction*>("searchClients")->trigger();
   WritePicture(window, folder / "search-empty.png");
   window.findChild<QComboBox*>("dateRange")->setCurrentText("Between");

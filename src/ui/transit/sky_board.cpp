@@ -114,6 +114,8 @@ QWidget* SkyBoard::BuildUpper(Side side) {
   }
   panchang_->horizontalHeader()->hide();
   panchang_->setSortingEnabled(false);
+  // Beside the month of the transits the board is narrow.
+  panchang_->SetColumnRoom(0);
   panchang_->SetStretchColumn(3);
   auto* upper = new QWidget;
   auto* column = new QVBoxLayout(upper);

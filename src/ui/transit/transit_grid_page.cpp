@@ -196,7 +196,7 @@ void TransitGridPage::Refresh() {
 }
 
 QSize TransitGridPage::sizeHint() const {
-  constexpr int kMonthWidth = 101 * kGrid;  // a month without a bar
+  constexpr int kMonthWidth = 97 * kGrid;  // a month without a bar
   return {kMonthWidth, QWidget::sizeHint().height()};
 }
 
