@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "ui/base/message_boxes.h"
+#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -20,12 +21,6 @@ namespace {
 
 constexpr int kLastNumber = 249;
 constexpr const char* kOnlyNumbers = "Only a numeric value is accepted in this field.";
-
-template <typename Widget>
-Widget* Named(Widget* widget, const char* name) {
-  widget->setObjectName(name);
-  return widget;
-}
 
 }  // namespace
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "core/messages.h"
+#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/catalogue_table.h"
@@ -23,12 +24,6 @@ namespace {
 
 constexpr const char* kChangedColor = "FEFA85";
 constexpr int kMostSteps = 9999;
-
-template <typename Widget>
-Widget* Named(Widget* widget, const char* name) {
-  widget->setObjectName(name);
-  return widget;
-}
 
 // Tints the cells that differ from those of the birth.
 core::Table WithChangesMarked(core::Table table, const core::Table& birth) {

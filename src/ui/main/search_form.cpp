@@ -14,6 +14,7 @@
 
 #include "practice/groups.h"
 #include "ui/base/moment_edit.h"
+#include "ui/base/named.h"
 #include "ui/base/planet_box.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
@@ -27,12 +28,6 @@ using practice::SearchMode;
 
 // The order of the age box.
 enum class AgeRange { Above, Below, Between };
-
-template <typename Widget>
-Widget* Named(Widget* widget, const char* name) {
-  widget->setObjectName(name);
-  return widget;
-}
 
 QLabel* Caption(const QString& text, QWidget* buddy) {
   auto* caption = new QLabel(text);

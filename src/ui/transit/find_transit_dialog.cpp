@@ -16,6 +16,7 @@
 #include "ui/base/labels.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/moment_edit.h"
+#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -27,12 +28,6 @@ namespace {
 constexpr int kPadas = 4;
 constexpr qint64 kEventsEvery = 30;  // milliseconds
 
-template <typename Widget>
-Widget* Named(const char* name, Widget* widget) {
-  widget->setObjectName(name);
-  return widget;
-}
-
 void Fill(QComboBox& list, const std::vector<std::string>& entries) {
   for (const std::string& entry : entries) {
     list.addItem(Shown(entry));
@@ -43,23 +38,23 @@ void Fill(QComboBox& list, const std::vector<std::string>& entries) {
 
 FindTransitDialog::FindTransitDialog(Workplace& place, QWidget* parent)
     : FormDialog(place, "findTransitDialog", parent),
-      planet_(Named("planet", new QComboBox)),
+      planet_(Named(new QComboBox, "planet")),
       from_(MakeDateEdit("from")),
-      byDegree_(Named("byDegree", new QRadioButton(tr("&Degree")))),
-      byNakshatra_(Named("byNakshatra", new QRadioButton(tr("&Nakshatra")))),
-      byRashi_(Named("byRashi", new QRadioButton(tr("&Rashi")))),
-      degree_(Named("Degree", new QLineEdit)),
-      nakshatra_(Named("Nakshatra", new QComboBox)),
-      pada_(Named("Pada", new QComboBox)),
-      rashi_(Named("Rashi", new QComboBox)),
-      find_(Named("find", new QPushButton(tr("&Find")))),
-      cancel_(Named("cancel", new QPushButton(tr("&Cancel")))),
-      sync_(Named("sync", new QPushButton(tr("&Sync to grid")))),
+      byDegree_(Named(new QRadioButton(tr("&Degree")), "byDegree")),
+      byNakshatra_(Named(new QRadioButton(tr("&Nakshatra")), "byNakshatra")),
+      byRashi_(Named(new QRadioButton(tr("&Rashi")), "byRashi")),
+      degree_(Named(new QLineEdit, "Degree")),
+      nakshatra_(Named(new QComboBox, "Nakshatra")),
+      pada_(Named(new QComboBox, "Pada")),
+      rashi_(Named(new QComboBox, "Rashi")),
+      find_(Named(new QPushButton(tr("&Find")), "find")),
+      cancel_(Named(new QPushButton(tr("&Cancel")), "cancel")),
+      sync_(Named(new QPushButton(tr("&Sync to grid")), "sync")),
       result_(MakeCaptionLabel("result")),
       status_(MakeCaptionLabel("status")),
       searched_(MakeCaptionLabel("searched")),
-      progress_(Named("progress", new QProgressBar)),
-      hours_(Named("hours", new TableView)) {
+      progress_(Named(new QProgressBar, "progress")),
+      hours_(Named(new TableView, "hours")) {
   setWindowTitle(tr("Find Transit"));
   FillLists();
   LayOut();

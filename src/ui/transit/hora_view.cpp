@@ -9,6 +9,7 @@
 #include "ui/base/export_table.h"
 #include "ui/base/labels.h"
 #include "ui/base/moment_edit.h"
+#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -17,13 +18,6 @@
 namespace orvex::ui {
 
 namespace {
-
-QPushButton* Button(const char* name, const QString& text) {
-  auto* button = new QPushButton(text);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  return button;
-}
 
 TableView* HoraList(Workplace& place, const char* name, const QString& title) {
   auto* table = new TableView;
@@ -44,10 +38,10 @@ HoraView::HoraView(Workplace& place, QWidget* parent)
       place_(place),
       cityId_(place.Session.State.UserCityId),
       caption_(MakeCaptionLabel("horaCaption")),
-      previous_(Button("previousDay", tr("&Previous day"))),
+      previous_(MakeButton("previousDay", tr("&Previous day"))),
       date_(MakeDateEdit("horaDate")),
-      next_(Button("nextDay", tr("&Next day"))),
-      city_(Button("changeCity", tr("Change &city…"))),
+      next_(MakeButton("nextDay", tr("&Next day"))),
+      city_(MakeButton("changeCity", tr("Change &city…"))),
       sunrise_(MakeCaptionLabel("sunrise")),
       sunset_(MakeCaptionLabel("sunset")),
       day_(HoraList(place, "dayHoras", tr("Horas of the day"))),

@@ -10,6 +10,7 @@
 #include "ui/base/export_table.h"
 #include "ui/base/labels.h"
 #include "ui/base/moment_edit.h"
+#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -17,13 +18,6 @@
 namespace orvex::ui {
 
 namespace {
-
-QPushButton* Button(const char* name, const QString& text) {
-  auto* button = new QPushButton(text);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  return button;
-}
 
 TableView* TimeTable(Workplace& place, const char* name) {
   auto* table = new TableView;
@@ -43,8 +37,8 @@ TransitDetailsDialog::TransitDetailsDialog(Workplace& place, transit::Planet pla
     : QDialog(parent),
       place_(place),
       title_(MakeCaptionLabel("detailsTitle")),
-      previous_(Button("previousDay", {})),
-      next_(Button("nextDay", {})),
+      previous_(MakeButton("previousDay", {})),
+      next_(MakeButton("nextDay", {})),
       today_(new LinkButton("today")),
       backToHours_(new LinkButton("backToHours")),
       hour_(MakeCaptionLabel("hour")),
@@ -52,7 +46,7 @@ TransitDetailsDialog::TransitDetailsDialog(Workplace& place, transit::Planet pla
       hours_(TimeTable(place, "hours")),
       minutes_(TimeTable(place, "minutes")),
       picker_(MakeTimeEdit("picker")),
-      go_(Button("go", tr("&Go"))),
+      go_(MakeButton("go", tr("&Go"))),
       sky_(new SkyBoard(place, SkyBoard::Side::Horas)) {
   setObjectName("transitDetails");
   setModal(true);

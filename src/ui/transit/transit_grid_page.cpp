@@ -14,6 +14,7 @@
 #include "ui/base/export_table.h"
 #include "ui/base/labels.h"
 #include "ui/base/moment_edit.h"
+#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -28,12 +29,6 @@ namespace {
 
 constexpr int kBuildDelay = 100;  // milliseconds
 constexpr int kMonths = 12;
-
-QPushButton* Button(const char* name, const QString& text) {
-  auto* button = new QPushButton(text);
-  button->setObjectName(name);
-  return button;
-}
 
 // The blanks ahead of the positions line up texts of a fixed column; here they only take room.
 class PositionDelegate final : public QStyledItemDelegate {
@@ -65,18 +60,18 @@ TransitGridPage::TransitGridPage(Workplace& place)
       view_(transit::UserCityView(place.Session)),
       month_(core::PartsOf(place.Session.Time.Now()).Month),
       year_(core::PartsOf(place.Session.Time.Now()).Year),
-      previous_(Button("previousMonth", {})),
+      previous_(MakeButton("previousMonth", {})),
       monthLabel_(MakeCaptionLabel("monthLabel")),
-      next_(Button("nextMonth", {})),
+      next_(MakeButton("nextMonth", {})),
       thisMonth_(new LinkButton("thisMonth")),
-      find_(Button("findTransit", tr("&Find transit…"))),
+      find_(MakeButton("findTransit", tr("&Find transit…"))),
       months_(List("months", tr("Month"))),
       years_(List("years", tr("Year"))),
-      go_(Button("goToMonth", tr("G&o"))),
+      go_(MakeButton("goToMonth", tr("G&o"))),
       time_(MakeTimeEdit("transitTime")),
-      city_(Button("changeCity", tr("Change c&ity…"))),
+      city_(MakeButton("changeCity", tr("Change c&ity…"))),
       title_(MakeCaptionLabel("gridTitle")),
-      showGraph_(Button("showGraph", tr("Gra&ph"))),
+      showGraph_(MakeButton("showGraph", tr("Gra&ph"))),
       grid_(new TableView),
       graph_(new MonthGraphView(place)),
       views_(new QStackedWidget) {
@@ -275,7 +270,10 @@ void TransitGridPage::FindTransit() {
   }
 }
 
-void TransitGridPage::TurnToGraph(bool graph) { views_->setCurrentIndex(graph ? 1 : 0); }
+void TransitGridPage::TurnToGraph(bool graph) {
+  views_->setCurrentIndex(graph ? 1 : 0);
+  showGraph_->setText(graph ? tr("Ta&ble") : tr("Gra&ph"));
+}
 
 void TransitGridPage::ChangeCity() {
   if (const std::optional<PickedCity> city = PickCity(place_, this)) {
