@@ -12,6 +12,7 @@
 #include <QTabWidget>
 #include <iostream>
 
+#include "support/picture_program.h"
 #include "support/test_home.h"
 #include "ui/base/picture.h"
 #include "ui/base/table_view.h"
@@ -96,12 +97,5 @@ void WriteAll(const std::filesystem::path& folder) {
 }  // namespace orvex::ui
 
 int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  QLocale::setDefault(QLocale::c());
-  orvex::ui::Theme::Apply(application);
-  const std::filesystem::path folder = argc > 1 ? argv[1] : ".";
-  std::filesystem::create_directories(folder);
-  orvex::ui::WriteAll(folder);
-  return 0;
+  return orvex::test::RunPictureProgram(argc, argv, orvex::ui::WriteAll);
 }

@@ -14,6 +14,7 @@
 #include "chart/client_saving.h"
 #include "practice/groups.h"
 #include "practice/remedies.h"
+#include "support/picture_program.h"
 #include "support/test_home.h"
 #include "ui/base/picture.h"
 #include "ui/base/theme.h"
@@ -120,12 +121,5 @@ void WriteAll(const std::filesystem::path& folder) {
 }  // namespace orvex::ui
 
 int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  QLocale::setDefault(QLocale::c());
-  orvex::ui::Theme::Apply(application);
-  const std::filesystem::path folder = argc > 1 ? argv[1] : ".";
-  std::filesystem::create_directories(folder);
-  orvex::ui::WriteAll(folder);
-  return 0;
+  return orvex::test::RunPictureProgram(argc, argv, orvex::ui::WriteAll);
 }
