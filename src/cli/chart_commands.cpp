@@ -2,6 +2,7 @@
 
 #include "astro/sun_events.h"
 #include "chart/chart_computation.h"
+#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"

@@ -1,4 +1,5 @@
 #include "cli/chart_style.h"
+#include "cli/call_options.h"
 
 namespace orvex::cli {
 

@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "cli/call_options.h"
 #include "cli/chart_style.h"
 #include "cli/context.h"
 #include "cli/output.h"

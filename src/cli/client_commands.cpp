@@ -4,6 +4,7 @@
 
 #include "chart/client_saving.h"
 #include "chart/instant_chart.h"
+#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"

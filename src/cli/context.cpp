@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "cli/call_options.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "practice/demo_home.h"

@@ -1,9 +1,10 @@
 // What the commands share: the options before the command and the session that it runs in.
 #pragma once
 
-#include <CLI/CLI.hpp>
-#include <filesystem>
+#include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -11,6 +12,10 @@
 #include "core/save_result.h"
 #include "core/session.h"
 #include "core/startup.h"
+
+namespace CLI {
+class App;
+}
 
 namespace orvex::cli {
 

@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/search_commands.h"
 #include "practice/birthdays.h"

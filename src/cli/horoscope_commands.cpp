@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "chart/aspects.h"
+#include "cli/call_options.h"
 #include "cli/chart_style.h"
 #include "cli/context.h"
 #include "cli/output.h"

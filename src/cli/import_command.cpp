@@ -2,6 +2,7 @@
 #include <iostream>
 #include <sstream>
 
+#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "practice/client_import.h"

@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "cli/call_options.h"
 #include "cli/context.h"
 
 namespace {

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/text.h"

@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "cli/call_options.h"
 #include "cli/output.h"
 #include "core/text.h"
 #include "practice/birthdays.h"

@@ -1,6 +1,7 @@
 #include <functional>
 #include <iostream>
 
+#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/settings.h"

@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "panchang/hora.h"

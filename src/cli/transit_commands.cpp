@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "chart/chart_moment.h"
+#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"

@@ -11,7 +11,7 @@ namespace orvex::core {
 namespace {
 
 std::string Script(const char* name) {
-  return test::ReadFile(std::filesystem::path(ORVEX_DATA_FOLDER) / "schema" / name);
+  return test::ReadFile(test::DataFolder() / "schema" / name);
 }
 
 // A store as an early release left it: the first tables only, wrong debilitations, no mark in the
@@ -50,11 +50,11 @@ std::set<std::string> SchemaOf(const Store& store) {
 TEST(StoreSchema, AnOldStoreAndANewOneEndWithTheSameSchema) {
   const test::TempFolder folder;
   MakeOldStore(folder.Path() / "old");
-  CreateStore(folder.Path() / "new", ORVEX_DATA_FOLDER);
+  CreateStore(folder.Path() / "new", test::DataFolder());
   Store oldStore = Store::Open(folder.Path() / "old");
   Store newStore = Store::Open(folder.Path() / "new");
-  ApplyStoreUpgrades(oldStore, ORVEX_DATA_FOLDER);
-  ApplyStoreUpgrades(newStore, ORVEX_DATA_FOLDER);
+  ApplyStoreUpgrades(oldStore, test::DataFolder());
+  ApplyStoreUpgrades(newStore, test::DataFolder());
   EXPECT_EQ(SchemaOf(oldStore), SchemaOf(newStore));
   EXPECT_GT(SchemaOf(newStore).size(), 100U);
 }
@@ -63,7 +63,7 @@ TEST(StoreSchema, AnOldStoreGetsTheTextsAndOrbsOfANewOne) {
   const test::TempFolder folder;
   MakeOldStore(folder.Path() / "old");
   Store store = Store::Open(folder.Path() / "old");
-  ApplyStoreUpgrades(store, ORVEX_DATA_FOLDER);
+  ApplyStoreUpgrades(store, test::DataFolder());
   const Result settings = store.Query("Select Top 1 * from settings");
   const std::pair<const char*, const char*> wanted[] = {
       {"SortByField", "CLN"},   {"ICGroupID", "7"}, {"StatusBarDegreeCalc", "A"},
@@ -83,11 +83,11 @@ TEST(StoreSchema, TheSignTableIsMendedOnEveryStartAndValuesOfTheUserStay) {
   const test::TempFolder folder;
   MakeOldStore(folder.Path() / "old");
   Store store = Store::Open(folder.Path() / "old");
-  ApplyStoreUpgrades(store, ORVEX_DATA_FOLDER);
+  ApplyStoreUpgrades(store, test::DataFolder());
   store.Execute("Update zodiac_master set debilitatedplanet = 'Ketu' where rashi in (2, 10)");
   store.Execute("Update settings set Orbit_30 = 1, SortByField = 'EML'");
   store.Execute("Update client_master set AscDegreeType = 'M'");
-  ApplyStoreUpgrades(store, ORVEX_DATA_FOLDER);
+  ApplyStoreUpgrades(store, test::DataFolder());
   std::string debilitated;
   for (Result row = store.Query("Select debilitatedplanet from zodiac_master order by rashi");
        !row.AtEnd(); row.Next()) {

@@ -168,7 +168,7 @@ TEST_F(StoreTest, WhatIsMadeIsPrivate) {
   };
   const std::filesystem::path folder = home_.Place.Folder / "a" / "b";
   ASSERT_TRUE(MakePrivateFolders(folder));
-  CreateStore(folder / "made.mdb", ORVEX_DATA_FOLDER);
+  CreateStore(folder / "made.mdb", test::DataFolder());
   WriteFileSafely(folder / "text", "x");
   EXPECT_EQ(rightsOf(home_.Place.Folder / "a"), 0700U);
   EXPECT_EQ(rightsOf(folder), 0700U);

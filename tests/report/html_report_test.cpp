@@ -262,8 +262,7 @@ TEST_F(HtmlReport, AReportThatFailsLeavesTheOldOneWithItsOwnPictures) {
 }
 
 TEST_F(HtmlReport, TheShippedTemplateKeepsNoPlaceholder) {
-  const std::string report =
-      Filled(test::ReadFile(fs::path(ORVEX_DATA_FOLDER) / "HoroscopeTemplate.htm"));
+  const std::string report = Filled(test::ReadFile(test::DataFolder() / "HoroscopeTemplate.htm"));
   for (std::size_t at = 0; (at = report.find('[', at)) != std::string::npos; ++at) {
     const std::string inside = report.substr(at + 1, report.find(']', at) - at - 1);
     EXPECT_FALSE(core::UpperCase(inside) == inside) << inside;

@@ -13,6 +13,7 @@
 #include "astro/ephemeris_gateway.h"
 #include "core/startup.h"
 #include "core/store_schema.h"
+#include "support/data_folder.h"
 
 namespace orvex::test {
 
@@ -53,7 +54,7 @@ inline const std::filesystem::path& TemplateStore() {
   static const TempFolder folder;
   static const std::filesystem::path file = [] {
     const std::filesystem::path made = folder.Path() / "ORVD.mdb";
-    core::CreateStore(made, ORVEX_DATA_FOLDER);
+    core::CreateStore(made, DataFolder());
     return made;
   }();
   return file;
@@ -68,7 +69,7 @@ class TestHome {
   }
 
   core::StartupPlan Plan(core::StartMode mode = core::StartMode::Writer) const {
-    return {Place, ORVEX_DATA_FOLDER, folder_.Path() / "machine.json", mode};
+    return {Place, DataFolder(), folder_.Path() / "machine.json", mode};
   }
 
   // A session on this home; null where the start was refused, with the message recorded.

@@ -29,7 +29,7 @@ class GuideTest : public test::DeskTest {
     Keys keys;
     bool inside = false;
     for (const std::string& line :
-         core::Split(core::ReadTextFile(ORVEX_GUIDE_SOURCE "/keys.md"), '\n')) {
+         core::Split(core::ReadTextFile(test::GuideSource() / "keys.md"), '\n')) {
       inside = core::Contains(line, "## ") ? line == "## " + heading : inside;
       const std::vector<std::string> cells = core::Split(line, '|');
       if (!inside || cells.size() < 3 || core::Contains(line, "---") ||

@@ -361,7 +361,7 @@ TEST_F(HoroscopeWindowTest, RemediesAreAddedChangedAndDeleted) {
 }
 
 TEST_F(HoroscopeWindowTest, ExportWritesTheReportOfWhatIsShownAndOpensIt) {
-  std::filesystem::copy_file(std::filesystem::path(ORVEX_DATA_FOLDER) / "HoroscopeTemplate.htm",
+  std::filesystem::copy_file(test::DataFolder() / "HoroscopeTemplate.htm",
                              home_.Place.ReportTemplate());
   Open();
   Turn("Vastu");
@@ -375,7 +375,7 @@ TEST_F(HoroscopeWindowTest, ExportWritesTheReportOfWhatIsShownAndOpensIt) {
 }
 
 TEST_F(HoroscopeWindowTest, APdfLiesBesideTheReportAndIsOpenedInItsPlace) {
-  std::filesystem::copy_file(std::filesystem::path(ORVEX_DATA_FOLDER) / "HoroscopeTemplate.htm",
+  std::filesystem::copy_file(test::DataFolder() / "HoroscopeTemplate.htm",
                              home_.Place.ReportTemplate());
   Open();
   MenuEntry("exportMenu", "PDF: Dasha and Bhukti").trigger();
