@@ -8,7 +8,7 @@ packages=(
   libswe-dev swe-basic-data swe-standard-data
   libsqlite3-dev libxlsxwriter-dev libfmt-dev nlohmann-json3-dev libcli11-dev
   libhowardhinnant-date-dev tzdata
-  qt6-base-dev libqt6svg6-dev fonts-dejavu-core weasyprint cmark-gfm
+  qt6-base-dev libqt6svg6-dev fonts-dejavu-core fonts-open-sans fonts-sil-gentiumplus weasyprint cmark-gfm
   libical-dev
   libgtest-dev libgmock-dev libbenchmark-dev python3
 )

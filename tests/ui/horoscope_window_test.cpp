@@ -30,6 +30,7 @@
 #include "ui/base/chart_view.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
+#include "ui/base/theme.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
 #include "vedic/vastu.h"
 
@@ -300,8 +301,7 @@ TEST_F(HoroscopeWindowTest, ThePlanOfPadsShowsItsSectorsAndTheDeitiesThatAreStru
   const core::Cell& outer = horoscope::CreateHoroscope(*session_, client_)
                                 ->Model.VastuPads.At(0, vedic::PadColumn::Outer);
   EXPECT_EQ(north.item(2, 0)->text(), Shown(outer.Text));
-  EXPECT_EQ(north.item(2, 0)->foreground().color() == QColor(255, 0, 0),
-            outer.Foreground == "FF0000");
+  EXPECT_EQ(north.item(2, 0)->foreground().color() == Theme::Red(), outer.Foreground == "FF0000");
 }
 
 TEST_F(HoroscopeWindowTest, RecalculationRefusesWithTheFieldInFocusAndChangesNothingStored) {

@@ -1,10 +1,15 @@
 #include "ui/base/chart_view.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QHelpEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 
+#include "ui/base/cell_text.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 #include "ui/painting/chart_painter.h"
@@ -13,7 +18,13 @@ namespace orvex::ui {
 
 namespace {
 constexpr int kRoomAround = 5 * kGrid;  // what a chart likes to have beyond its smallest size
+
+ChartColors ScreenColors() {
+  const Tokens& t = Theme::Now();
+  return {t.Sheet, t.Edge, t.Ink, t.Ink2, t.Now, t.Ascendant};
 }
+
+}  // namespace
 
 ChartView::ChartView(const QString& objectName, int smallestSide) : smallestSide_(smallestSide) {
   setObjectName(objectName);
@@ -64,8 +75,58 @@ bool ChartView::event(QEvent* event) {
 
 void ChartView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  PaintChart(painter, rect(), picture_,
-             Theme::Mode() == ThemeMode::Dark ? DarkColors() : PrintColors());
+  PaintChart(painter, rect(), picture_, ScreenColors());
+  PaintRings(painter);
+}
+
+void ChartView::SetChosen(const QString& code) {
+  if (chosen_ != code) {
+    chosen_ = code;
+    update();
+  }
+}
+
+void ChartView::PaintRings(QPainter& painter) const {
+  if (chosen_.isEmpty()) {
+    return;
+  }
+  const Tokens& t = Theme::Now();
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const DrawnField& field : LayOutChart(picture_, font(), ChartSquare(rect()))) {
+    for (const PlacedWord& word : field.Codes.Words) {
+      if (CodeOfWord(word.Text) == chosen_) {
+        painter.setPen(QPen(t.Accent, line::kFocus));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(word.Box.adjusted(-space::kXs, 0, space::kXs, 0), radius::kChip,
+                                radius::kChip);
+      }
+    }
+  }
+}
+
+void ChartView::mouseReleaseEvent(QMouseEvent* event) {
+  const QString code = CodeOfWord(CodeAt(event->position()));
+  if (event->button() == Qt::LeftButton && !code.isEmpty()) {
+    emit CodeClicked(code);
+  }
+}
+
+// Paper is light, whatever the windows are.
+void ChartView::CopyPicture() const {
+  constexpr int kSide = 720;
+  QImage image(kSide, kSide, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  PaintChart(painter, image.rect(), picture_, PrintColors());
+  painter.end();
+  QGuiApplication::clipboard()->setImage(image);
+}
+
+void ChartView::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu menu(this);
+  menu.setObjectName("chartMenu");
+  menu.addAction(tr("&Copy chart"), this, [this] { CopyPicture(); });
+  menu.exec(event->globalPos());
 }
 
 void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -23,23 +23,33 @@ class ChartView final : public QWidget {
   // The code of the planet drawn at a point, with its marks; "" where none is.
   QString CodeAt(const QPointF& point) const;
 
+  // Rings a planet by its code; "" takes the ring off.
+  void SetChosen(const QString& code);
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
  signals:
   // A double click on a planet: its code.
   void CodeActivated(const QString& code);
+  // A click on a planet: its code without marks.
+  void CodeClicked(const QString& code);
 
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   QString TooltipAt(const QPointF& point) const;
+  void PaintRings(QPainter& painter) const;
+  void CopyPicture() const;
 
   int smallestSide_;
   report::ChartPicture picture_;
+  QString chosen_;
 };
 
 }  // namespace orvex::ui

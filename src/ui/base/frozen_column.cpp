@@ -13,6 +13,7 @@ FrozenColumn::FrozenColumn(QTableView& table) : QTableView(&table), table_(table
   setSelectionModel(table.selectionModel());
   setSelectionBehavior(table.selectionBehavior());
   setSelectionMode(table.selectionMode());
+  setItemDelegate(table.itemDelegate());
   setEditTriggers(NoEditTriggers);
   setAlternatingRowColors(table.alternatingRowColors());
   setShowGrid(table.showGrid());

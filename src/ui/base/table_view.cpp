@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <set>
 
+#include "ui/base/cell_delegate.h"
 #include "ui/base/frozen_column.h"
 #include "ui/base/layout_memory.h"
 #include "ui/base/qt_text.h"
@@ -38,7 +39,7 @@ TableView::TableView(QWidget* parent)
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
   setEditTriggers(NoEditTriggers);
-  setAlternatingRowColors(true);
+  setItemDelegate(new CellDelegate(this));
   setShowGrid(false);
   setWordWrap(false);
   setTabKeyNavigation(false);
@@ -199,6 +200,24 @@ void TableView::AddMenuAction(QAction* action) { actions_.push_back(action); }
 void TableView::FitHeightToRows() {
   fitsHeight_ = true;
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  SizeToContent();
+}
+
+void TableView::SetWidths(const std::vector<int>& widths) {
+  sizing_ = true;
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    const auto place = static_cast<std::size_t>(column);
+    const int width = place < widths.size() ? widths[place] : 0;
+    setColumnHidden(column, width == 0);
+    if (width > 0) {
+      setColumnWidth(column, width);
+    }
+  }
+  sizing_ = false;
+}
+
+void TableView::ShowAllColumns() {
+  HideColumns();
   SizeToContent();
 }
 

@@ -64,6 +64,15 @@ class TableView : public QTableView {
   // Pixels beside the text of a column; kGrid where nothing is said.
   void SetColumnRoom(int room) { columnRoom_ = room; }
 
+  // Gives every column its width in pixels, 0 hides it. The widths are the page's, not the user's.
+  void SetWidths(const std::vector<int>& widths);
+
+  // All columns of the table again, as wide as what they show.
+  void ShowAllColumns();
+
+  // The width that the user gave to a column; nothing where none was given.
+  std::optional<int> WidthByHand(int column) const { return KeptWidth(column); }
+
   // A column takes the room that is left.
   void SetStretchColumn(int column);
 

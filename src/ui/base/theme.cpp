@@ -2,79 +2,40 @@
 
 #include <QApplication>
 #include <QFontMetricsF>
-#include <QProxyStyle>
-#include <QStyleFactory>
+#include <algorithm>
 
 #include "core/cell_colors.h"
+#include "ui/base/calm_style.h"
 #include "ui/base/desktop_scheme.h"
 
 namespace orvex::ui {
 
 namespace {
 
-constexpr const char* kLabelColor = "006A94";
-constexpr const char* kMutedColor = "5F6B76";
+constexpr int kLeastTextSize = 90;
+constexpr int kMostTextSize = 140;
+constexpr double kWhole = 100;  // per cent
 
-// Spaces of the 8-pixel grid under an otherwise plain style.
-class CalmStyle final : public QProxyStyle {
- public:
-  CalmStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
-
-  int pixelMetric(PixelMetric metric, const QStyleOption* option,
-                  const QWidget* widget) const override {
-    switch (metric) {
-      case PM_LayoutLeftMargin:
-      case PM_LayoutTopMargin:
-      case PM_LayoutRightMargin:
-      case PM_LayoutBottomMargin:
-      case PM_LayoutHorizontalSpacing:
-      case PM_LayoutVerticalSpacing:
-        return kGrid;
-      case PM_SplitterWidth:
-        return kGrid;
-      default:
-        return QProxyStyle::pixelMetric(metric, option, widget);
-    }
-  }
-};
-
-struct Shades {
-  const char* Window;
-  const char* Base;
-  const char* Alternate;
-  const char* Text;
-  const char* Faint;
-  const char* Button;
-  const char* Highlight;
-  const char* HighlightedText;
-  const char* Link;
-};
-
-constexpr Shades kLight = {"#f4f5f7", "#ffffff", "#f8f9fb", "#1d242b", "#8a939c",
-                           "#eceef1", "#1f6fb2", "#ffffff", "#1a5fa0"};
-constexpr Shades kDark = {"#1e2227", "#272c33", "#2b3138", "#e4e7ea", "#7d8790",
-                          "#2a3037", "#2f7fc4", "#ffffff", "#6cb3f0"};
-
-QPalette PaletteOf(const Shades& shades) {
+QPalette PaletteOf(const Tokens& t) {
   QPalette palette;
-  palette.setColor(QPalette::Window, shades.Window);
-  palette.setColor(QPalette::WindowText, shades.Text);
-  palette.setColor(QPalette::Base, shades.Base);
-  palette.setColor(QPalette::AlternateBase, shades.Alternate);
-  palette.setColor(QPalette::Text, shades.Text);
-  palette.setColor(QPalette::PlaceholderText, shades.Faint);
-  palette.setColor(QPalette::Button, shades.Button);
-  palette.setColor(QPalette::ButtonText, shades.Text);
-  palette.setColor(QPalette::BrightText, shades.HighlightedText);
-  palette.setColor(QPalette::ToolTipBase, shades.Base);
-  palette.setColor(QPalette::ToolTipText, shades.Text);
-  palette.setColor(QPalette::Highlight, shades.Highlight);
-  palette.setColor(QPalette::HighlightedText, shades.HighlightedText);
-  palette.setColor(QPalette::Link, shades.Link);
-  palette.setColor(QPalette::Disabled, QPalette::Base, shades.Window);
+  palette.setColor(QPalette::Window, t.Ground);
+  palette.setColor(QPalette::WindowText, t.Ink);
+  palette.setColor(QPalette::Base, t.Sheet);
+  palette.setColor(QPalette::AlternateBase, t.Sunk);
+  palette.setColor(QPalette::Text, t.Ink);
+  palette.setColor(QPalette::PlaceholderText, t.Ink3);
+  palette.setColor(QPalette::Button, t.Sunk);
+  palette.setColor(QPalette::ButtonText, t.Ink);
+  palette.setColor(QPalette::BrightText, t.OnAccent);
+  palette.setColor(QPalette::ToolTipBase, t.Sheet);
+  palette.setColor(QPalette::ToolTipText, t.Ink);
+  palette.setColor(QPalette::Highlight, t.Sel);
+  palette.setColor(QPalette::HighlightedText, t.Ink);
+  palette.setColor(QPalette::Link, t.Accent);
+  palette.setColor(QPalette::Disabled, QPalette::Base, t.Ground);
   for (const QPalette::ColorRole role :
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, shades.Faint);
+    palette.setColor(QPalette::Disabled, role, t.Ink3);
   }
   return palette;
 }
@@ -90,12 +51,25 @@ bool HasTabularFigures(const QFont& font) {
   return true;
 }
 
+// A family that is not installed gives way to the next one.
 QFont TextFont(const QFont& ofDesktop) {
   QFont font = ofDesktop;
+  font.setFamilies({"Open Sans", ofDesktop.family()});
   if (!HasTabularFigures(font)) {
-    font.setFamily("DejaVu Sans");
+    font.setFamilies({"DejaVu Sans"});
   }
   return font;
+}
+
+int& CurrentTextSize() {
+  static int percent = 100;
+  return percent;
+}
+
+// Qt knows the font of column heads by the class of their widget.
+void ApplyFonts() {
+  QApplication::setFont(Theme::Text(type::kText));
+  QApplication::setFont(Theme::Text(type::kHead, QFont::DemiBold), "QHeaderView");
 }
 
 ThemeMode& CurrentMode() {
@@ -118,12 +92,31 @@ QColor WithLightness(const QColor& color, float saturation, float lightness) {
   return QColor::fromHslF(hue < 0 ? 0 : hue, full * saturation, lightness);
 }
 
+// The grounds by which tables tell good from hard, mark the first period and count.
+QColor GroundToken(std::string_view hex) {
+  const Tokens& t = Theme::Now();
+  const struct {
+    std::string_view Hex;
+    const QColor& Token;
+  } grounds[] = {{"CAFACB", t.GoodGround},
+                 {"FACACA", t.HardGround},
+                 {"FEF9D1", t.Start},
+                 {"B7DA7F", t.Heat.at(2)}};
+  for (const auto& ground : grounds) {
+    if (ground.Hex == hex) {
+      return ground.Token;
+    }
+  }
+  return {};
+}
+
 }  // namespace
 
 void Theme::Apply(QApplication& application) {
   const QPalette ofDesktop = QApplication::palette();
   QApplication::setStyle(new CalmStyle);
   QApplication::setFont(TextFont(QApplication::font()));
+  ApplyFonts();
   const QString wanted = qEnvironmentVariable("ORVEX_THEME");
   if (wanted == "dark" || wanted == "light") {
     SetMode(wanted == "dark" ? ThemeMode::Dark : ThemeMode::Light);
@@ -135,7 +128,7 @@ void Theme::Apply(QApplication& application) {
 
 void Theme::SetMode(ThemeMode mode) {
   CurrentMode() = mode;
-  QApplication::setPalette(PaletteOf(IsDark() ? kDark : kLight));
+  QApplication::setPalette(PaletteOf(Now()));
 }
 
 ThemeMode Theme::Mode() { return CurrentMode(); }
@@ -146,6 +139,9 @@ QColor Theme::Background(std::string_view hex) {
   if (hex.empty() || hex == core::kNeutralColor) {
     return {};
   }
+  if (const QColor token = GroundToken(hex); token.isValid()) {
+    return token;
+  }
   const QColor color = ColorOf(hex);
   return IsDark() ? WithLightness(color, kSaturation, kLightness) : color;
 }
@@ -155,13 +151,36 @@ QColor Theme::Foreground(std::string_view hex) {
   if (hex.empty()) {
     return {};
   }
+  if (hex == core::kRed) {
+    return Now().Now;
+  }
   const QColor color = ColorOf(hex);
   return IsDark() ? WithLightness(color, 1, kLightness) : color;
 }
 
 QColor Theme::Red() { return Foreground(core::kRed); }
-QColor Theme::Label() { return Foreground(kLabelColor); }
-QColor Theme::Muted() { return Foreground(kMutedColor); }
+QColor Theme::Label() { return Now().Ink2; }
+QColor Theme::Muted() { return Now().Ink2; }
+
+void Theme::SetTextSize(int percent) {
+  CurrentTextSize() = std::clamp(percent, kLeastTextSize, kMostTextSize);
+  ApplyFonts();
+}
+
+int Theme::TextSize() { return CurrentTextSize(); }
+
+QFont Theme::Text(double points, QFont::Weight weight) {
+  QFont font = QApplication::font();
+  font.setPointSizeF(points * TextSize() / kWhole);
+  font.setWeight(weight);
+  return font;
+}
+
+QFont Theme::Serif(double points) {
+  QFont font = Text(points);
+  font.setFamilies(QStringList{"Gentium Book Plus"} + font.families());
+  return font;
+}
 
 QFont Theme::HeadingFont() {
   constexpr double kStep = 1.2;

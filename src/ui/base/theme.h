@@ -1,5 +1,5 @@
-// The one style of all windows: a grid of 8 pixels, tabular figures, a light and a dark palette
-// that follow the desktop, and the colours of cells in both.
+// The look of all windows in the present mode: tokens, palette and fonts that follow the desktop,
+// and the colours of cells.
 #pragma once
 
 #include <QColor>
@@ -8,14 +8,14 @@
 #include <QString>
 #include <string_view>
 
+#include "ui/base/tokens.h"
+
 class QApplication;
 
 namespace orvex::ui {
 
-inline constexpr int kGrid = 8;            // pixels between widgets
-inline constexpr int kMargin = 2 * kGrid;  // pixels around the contents of a dialog
-
-enum class ThemeMode { Light, Dark };
+inline constexpr int kGrid = space::kS;    // pixels between widgets
+inline constexpr int kMargin = space::kL;  // pixels around the contents of a dialog
 
 class Theme {
  public:
@@ -26,6 +26,18 @@ class Theme {
   // Another mode for all open windows.
   static void SetMode(ThemeMode mode);
   static ThemeMode Mode();
+
+  // The tokens of the present mode.
+  static const Tokens& Now() { return TokensOf(Mode()); }
+
+  // The size of all texts in per cent, 90 to 140; other values count as the nearer end. Windows
+  // that are open follow.
+  static void SetTextSize(int percent);
+  static int TextSize();
+
+  // The font of the windows in a size of the type scale, and that of names and titles.
+  static QFont Text(double points, QFont::Weight weight = QFont::Normal);
+  static QFont Serif(double points);
 
   // The colours of a cell, six hexadecimal digits as the table carries them, as they are shown in
   // the present mode. An invalid colour for "" and for the neutral background.

@@ -1,0 +1,77 @@
+// Paints the cells of tables: text, planets as chips with their houses, degrees in a sign, counts
+// as a heat map. What a cell says, copies, exports and reads out is its own text in every kind.
+#pragma once
+
+#include <QStyledItemDelegate>
+#include <functional>
+#include <vector>
+
+#include "ui/base/column_plan.h"
+
+namespace orvex::ui {
+
+struct CellPiece;
+
+class CellDelegate final : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  using Marks = std::function<QStringList(const QModelIndex& index)>;
+
+  explicit CellDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
+
+  // The kinds of the columns, column by column; Text where nothing is said.
+  void SetKinds(std::vector<CellKind> kinds) { kinds_ = std::move(kinds); }
+  CellKind KindOf(int column) const;
+
+  // The letters in a frame behind the name of a cell of kind Chip.
+  void SetMarks(Marks marks) { marks_ = std::move(marks); }
+
+  // The houses of a planet by its code, for lords that stand in their cells by name alone. Where it
+  // is set, the columns of `underlined` show them and underline the lord.
+  using Houses = std::function<QString(const QString& code)>;
+  void SetHouses(Houses houses) { houses_ = std::move(houses); }
+  void SetUnderlined(std::vector<bool> underlined) { underlined_ = std::move(underlined); }
+
+  // The planet that wears a ring; "" for none.
+  void SetChosen(const QString& code) { chosen_ = code; }
+
+  // The planet whose chip stands at a point of a cell; "" where none does.
+  QString CodeAt(const QStyleOptionViewItem& option, const QModelIndex& index,
+                 const QPoint& point) const;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+ private:
+  struct Placed {
+    QRect Box;
+    QString Text;
+    QString Code;  // of a chip
+    bool Bold = false;
+    bool Quiet = false;
+    bool Mark = false;
+    bool Underlined = false;
+  };
+
+  bool IsUnderlined(int column) const;
+  std::vector<Placed> LayOut(const QStyleOptionViewItem& option, const QModelIndex& index) const;
+  void PaintPlaced(QPainter& painter, const QStyleOptionViewItem& option, const Placed& part) const;
+  void PaintHeat(QPainter& painter, const QStyleOptionViewItem& option, const QString& text) const;
+  void PaintText(QPainter& painter, const QStyleOptionViewItem& option) const;
+
+  std::vector<CellKind> kinds_;
+  Marks marks_;
+  Houses houses_;
+  std::vector<bool> underlined_;
+  QString chosen_;
+};
+
+// The size of a chip in the present text size.
+QSize ChipSize();
+
+// Draws a chip, with the ring of the chosen planet around it.
+void DrawChip(QPainter& painter, const QRect& box, const QString& code, bool chosen);
+
+}  // namespace orvex::ui

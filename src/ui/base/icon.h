@@ -1,0 +1,15 @@
+// The drawn icons in the ink of their place: black words, disabled, or on the accent. They follow a
+// change of the theme by themselves.
+#pragma once
+
+#include <QIcon>
+
+namespace orvex::ui {
+
+enum class IconInk { Text, Quiet, Accent, OnAccent, Amber };
+
+// The icon of that name, such as "rotate". An unknown name gives an icon that draws nothing; a test
+// draws all that are shipped.
+QIcon Icon(const char* name, IconInk ink = IconInk::Text);
+
+}  // namespace orvex::ui

@@ -1,0 +1,68 @@
+#include "ui/base/keys.h"
+
+#include <stdexcept>
+
+namespace orvex::ui {
+
+namespace {
+
+constexpr const char* kHoroscope = "Horoscope";
+
+}  // namespace
+
+// clang-format off
+const std::vector<KeyEntry>& AllKeys() {
+  static const std::vector<KeyEntry> kKeys = {
+      {kHoroscope, "nextPage",         "Ctrl+PgDown",  "next page"},
+      {kHoroscope, "previousPage",     "Ctrl+PgUp",    "page before"},
+      {kHoroscope, "nextStyle",        "Ctrl+T",       "next style of charts"},
+      {kHoroscope, "rotationMenu",     "Ctrl+R",       "rotate; then a digit is the house"},
+      {kHoroscope, "resetRotation",    "Ctrl+0",       "back to the first house"},
+      {kHoroscope, "divisions",        "Ctrl+D",       "divisional charts"},
+      {kHoroscope, "rectify",          "Ctrl+B",       "rectify the birth time"},
+      {kHoroscope, "allColumns",       "F4",           "all columns of the tables, and back"},
+      {kHoroscope, "birthPanel",       "F9",           "all captions of the birth"},
+      {kHoroscope, "editClient",       "F2",           "edit the client; the window opens anew"},
+      {kHoroscope, "previousClient",   "Alt+Up",       "the client before in the group"},
+      {kHoroscope, "nextClient",       "Alt+Down",     "the next client of the group"},
+      {kHoroscope, "earlier",          "Alt+Left",     "an earlier birth, on the page Rectification"},
+      {kHoroscope, "later",            "Alt+Right",    "a later birth, on the page Rectification"},
+      {kHoroscope, "deleteRemedy",     "Del",          "delete the chosen remedy, on the page Remedies"},
+      {kHoroscope, "running",          "Ctrl+J",       "the periods that run today, on the pages Periods and Timeline"},
+      {kHoroscope, "printGraph",       "Ctrl+P",       "print, on the page Timeline"},
+      {kHoroscope, "saveGraph",        "Ctrl+S",       "save as SVG, on the page Timeline"},
+      {kHoroscope, "exportMenu",       "Ctrl+E",       "export the report"},
+      {kHoroscope, "guide",            "F1",           "this guide"},
+      {kHoroscope, "close",            "Ctrl+W",       "close"},
+  };
+  return kKeys;
+}
+// clang-format on
+
+QKeySequence KeysOf(const QString& window, const QString& name) {
+  for (const KeyEntry& entry : AllKeys()) {
+    if (window == entry.Window && name == entry.Name) {
+      return QKeySequence(entry.Keys, QKeySequence::PortableText);
+    }
+  }
+  throw std::out_of_range("no key is named " + name.toStdString());
+}
+
+QString WithKeys(const QString& text, const QKeySequence& keys) {
+  QString bare = text;
+  bare.remove('&').remove(u'…');
+  return keys.isEmpty() ? bare
+                        : QString("%1 (%2)").arg(bare, keys.toString(QKeySequence::NativeText));
+}
+
+QString GuideTableOfKeys(const QString& window) {
+  QString table = "| key | does |\n| --- | --- |\n";
+  for (const KeyEntry& entry : AllKeys()) {
+    if (window == entry.Window) {
+      table += QString("| %1 | %2 |\n").arg(entry.Keys, entry.Does);
+    }
+  }
+  return table;
+}
+
+}  // namespace orvex::ui

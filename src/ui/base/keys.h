@@ -1,0 +1,29 @@
+// The one table of all keys: menus, buttons, tool tips and the guide's page of keys are made from
+// it.
+#pragma once
+
+#include <QKeySequence>
+#include <QString>
+#include <vector>
+
+namespace orvex::ui {
+
+struct KeyEntry {
+  const char* Window;  // the heading of the guide's page
+  const char* Name;    // the object name of what the key does
+  const char* Keys;    // in the portable form, "Ctrl+N"
+  const char* Does;    // what the guide says
+};
+
+const std::vector<KeyEntry>& AllKeys();
+
+// The key of a name in a window; std::out_of_range for a name that the table does not have.
+QKeySequence KeysOf(const QString& window, const QString& name);
+
+// A text with its key behind it, "Rotate (Ctrl+R)", as tool tips say it.
+QString WithKeys(const QString& text, const QKeySequence& keys);
+
+// The table under a heading of the guide's page, as Markdown.
+QString GuideTableOfKeys(const QString& window);
+
+}  // namespace orvex::ui

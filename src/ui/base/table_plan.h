@@ -1,0 +1,62 @@
+// Shows a table as its page wants it first read: the columns of a plan in their order, as many as
+// the room holds, all rows as high as they can be without a bar. F4 shows the whole table and turns
+// back.
+#pragma once
+
+#include <QObject>
+
+#include "ui/base/cell_delegate.h"
+#include "ui/base/table_view.h"
+#include "ui/base/theme.h"
+
+namespace orvex::ui {
+
+struct RowBounds {
+  int Least = height::kLeastRow;
+  int Most = height::kMostRow;
+  bool ShareRoom = true;  // the rows share the height of the view
+};
+
+class TablePlan final : public QObject {
+  Q_OBJECT
+
+ public:
+  // Belongs to the view. The plan's captions are those of the tables that the view will show.
+  TablePlan(TableView& view, std::vector<ColumnPlan> columns, RowBounds rows = {});
+
+  // To be called when the view has been given another table.
+  void Fit();
+
+  bool ShowsAll() const { return all_; }
+  void ShowAll(bool all);
+
+  CellDelegate& Cells() { return *cells_; }
+
+  // Rings the chips of a planet; "" takes the ring off.
+  void SetChosen(const QString& code);
+
+ signals:
+  // The whole table is shown, or the plan again.
+  void AllShown(bool all);
+  // A chip was clicked.
+  void CodeClicked(const QString& code);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  int ColumnOf(const std::string& caption) const;
+  int Least(const ColumnPlan& column) const;
+  void TakeKinds();
+  void PlaceColumns();
+  void ShareWidth();
+  void ShareHeight();
+
+  TableView& view_;
+  std::vector<ColumnPlan> columns_;
+  RowBounds rows_;
+  CellDelegate* cells_;
+  bool all_ = false;
+};
+
+}  // namespace orvex::ui
