@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "chart/chart_moment.h"
 #include "chart/client_checks.h"
 #include "chart/zodiac_lookups.h"
 #include "core/exact_numbers.h"
@@ -245,6 +246,19 @@ std::optional<ClientForm> OpenEditClient(core::Session& session, std::int32_t cl
   form.AscendantByHand = row.Text("ascdegreetype") == "M";
   form.AscendantDegree = form.AscendantByHand ? row.Text("cuspdegree1") : "";
   return form;
+}
+
+std::optional<core::DateTime> MomentUtOf(const core::Session& session, const ClientForm& form) {
+  const std::optional<CityPlace> city = PlaceOfCity(session, form.CityId);
+  if (!city || !core::IsNumeric(form.Offset) || !core::IsNumeric(form.Longitude)) {
+    return std::nullopt;
+  }
+  try {
+    return ChartMomentUt(form.Birth, core::Trim(form.Offset), core::Trim(form.Longitude),
+                         core::ToDouble(city->Offset));
+  } catch (const core::DateRangeError&) {
+    return std::nullopt;
+  }
 }
 
 CheckedChart CheckAndCompute(core::Session& session, const ClientForm& form) {

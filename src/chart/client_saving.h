@@ -76,6 +76,10 @@ struct CheckedChart {
 // Checks a form and computes its chart; nothing is written.
 CheckedChart CheckAndCompute(core::Session& session, const ClientForm& form);
 
+// The moment in UT for which the chart of a form is cast, by ChartMomentUt; nothing where a text is
+// no number, there is no such city or the moment leaves the years 100 to 9999.
+std::optional<core::DateTime> MomentUtOf(const core::Session& session, const ClientForm& form);
+
 // Writes the rows of a client inside a batch of the caller and gives the id. StoreError where a
 // statement fails.
 std::int32_t InsertClientRows(core::Session& session, const ClientRecord& record);

@@ -274,6 +274,17 @@ std::optional<DateTime> ParseDateLiteral(std::string_view text) {
 
 int MonthNumber(std::string_view name) { return MonthOfName(name, false); }
 
+int MonthBeginningWith(std::string_view letters) {
+  constexpr std::size_t kFewestLetters = 3;
+  const std::string begin = LowerCase(letters);
+  const auto* found = std::find_if(kMonths.begin(), kMonths.end(), [&begin](std::string_view name) {
+    return LowerCase(name.substr(0, begin.size())) == begin;
+  });
+  return begin.size() < kFewestLetters || found == kMonths.end()
+             ? 0
+             : static_cast<int>(found - kMonths.begin()) + 1;
+}
+
 std::string MonthNumberText(std::string_view name) {
   const int month = std::max(MonthOfName(name, false), MonthOfName(name, true));
   if (month == 0) {

@@ -85,6 +85,9 @@ std::optional<DateTime> ParseDateLiteral(std::string_view text);
 // "January" to "December" give 1 to 12, any other name 0.
 int MonthNumber(std::string_view name);
 
+// The month whose name begins with these three or more letters, in any case; 0 for any other text.
+int MonthBeginningWith(std::string_view letters);
+
 // The month number of a full or short English month name as "01" to "12"; std::invalid_argument
 // for any other name.
 std::string MonthNumberText(std::string_view name);

@@ -23,6 +23,14 @@ class Messages {
   // Shows the text under kMessageTitle and gives the button pressed.
   virtual MessageAnswer ShowMessage(const std::string& text, MessageButtons buttons,
                                     MessageIcon icon) = 0;
+
+  // Asks which of two deeds to do and gives whether it is the first one. Where there are no buttons
+  // for them, yes stands for the first.
+  virtual bool ChooseFirst(const std::string& question, const std::string& /*first*/,
+                           const std::string& /*second*/) {
+    return ShowMessage(question, MessageButtons::YesNo, MessageIcon::Question) ==
+           MessageAnswer::Yes;
+  }
 };
 
 // Keeps what was shown and answers yes or no as told.

@@ -66,9 +66,13 @@ TsvTable CitiesWithOffsets(TsvTable cities, const TsvTable& zones) {
   for (const std::vector<std::string>& zone : zones.Rows) {
     offsets[zone.at(zones.ColumnOf("timezone"))] = zone.at(zones.ColumnOf("offset"));
   }
+  // Regions and other names are for the search alone, which reads them from the gazetteer.
+  const std::size_t stored = cities.ColumnOf("region");
   const std::size_t zoneOf = cities.ColumnOf("timezone");
+  cities.Columns.resize(stored);
   cities.Columns.emplace_back("offset");
   for (std::vector<std::string>& city : cities.Rows) {
+    city.resize(stored);
     city.push_back(offsets.at(city.at(zoneOf)));
   }
   return cities;

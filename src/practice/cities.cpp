@@ -107,6 +107,12 @@ std::optional<std::string> OffsetOfZone(const core::Session& session, const std:
   return row.AtEnd() ? std::nullopt : std::optional(row.Text("offset"));
 }
 
+std::string ZoneOfCity(const core::Session& session, std::int32_t cityId) {
+  const core::Result city = session.StoreConnection.Query(
+      "Select timezone from city_master where id = " + WholeText(cityId));
+  return city.AtEnd() ? "" : city.Text("timezone");
+}
+
 std::optional<core::Table> OpenAddCity(core::Session& session) {
   core::Table zones = LoadTimeZones(session);
   if (zones.Rows.empty()) {

@@ -43,6 +43,9 @@ struct CityForm {
 // The offset of a zone as the dialog takes it from the list; nothing for an unknown zone.
 std::optional<std::string> OffsetOfZone(const core::Session& session, const std::string& zone);
 
+// The zone of a city that the lists show; "" for any other id.
+std::string ZoneOfCity(const core::Session& session, std::int32_t cityId);
+
 // The zones that a new city may have; nothing where there are none, after the program's message.
 std::optional<core::Table> OpenAddCity(core::Session& session);
 

@@ -94,6 +94,12 @@ core::Table LoadGroups(const core::Session& session) {
   return table;
 }
 
+std::int32_t GroupOfClient(const core::Session& session, std::int32_t clientId) {
+  const core::Result client = session.StoreConnection.Query(
+      "Select groupid from client_master where id = " + core::PaddedWhole(clientId, 1));
+  return client.AtEnd() ? 0 : static_cast<std::int32_t>(client.Integer("groupid"));
+}
+
 core::SaveResult AddGroup(core::Session& session, const std::string& name) {
   const std::string trimmed = core::Trim(name);
   if (std::optional<core::Refusal> refused = CheckName(session, trimmed, 0)) {

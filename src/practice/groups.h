@@ -24,6 +24,9 @@ enum class GroupColumn { GroupName };
 // All groups by name. The tag of a row is the group's id.
 core::Table LoadGroups(const core::Session& session);
 
+// The group of a client; 0 where there is no such client.
+std::int32_t GroupOfClient(const core::Session& session, std::int32_t clientId);
+
 // Saves a new group, or another name for a stored one. Empty, longer than 20 characters or taken
 // already (in any case): refused.
 core::SaveResult AddGroup(core::Session& session, const std::string& name);

@@ -112,6 +112,16 @@ std::string OffsetText(double hours) {
   return core::DoubleText(core::ToDouble(core::FixedText(hours, kDecimals)));
 }
 
+std::string ClockOffsetText(double hours) {
+  constexpr int kSixty = 60;
+  const std::int64_t whole = core::RoundToWhole(hours * kSecondsOfHour);
+  const std::int64_t seconds = whole < 0 ? -whole : whole;
+  const std::string text = core::PaddedWhole(seconds / kSixty / kSixty, 1) + ":" +
+                           core::PaddedWhole(seconds / kSixty % kSixty, 2);
+  return (whole < 0 ? "-" : "+") + text +
+         (seconds % kSixty == 0 ? "" : ":" + core::PaddedWhole(seconds % kSixty, 2));
+}
+
 std::string ReadingText(const ZoneClock& clock) {
   switch (clock.Reading) {
     case ClockReading::Plain:

@@ -40,6 +40,9 @@ ZoneClock ClocksOf(const std::string& zone, core::DateTime local, double longitu
 // An offset as it is entered: "5.5", "-3.5", at most four decimals.
 std::string OffsetText(double hours);
 
+// The same as clocks write it: "+5:30", "-4:00", with seconds where there are some, "+4:51:32".
+std::string ClockOffsetText(double hours);
+
 // What a reading means, in a sentence; "" for a plain one.
 std::string ReadingText(const ZoneClock& clock);
 
