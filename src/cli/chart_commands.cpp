@@ -2,7 +2,6 @@
 
 #include "astro/sun_events.h"
 #include "chart/chart_computation.h"
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
@@ -149,25 +148,25 @@ void RunSun(Context& context, const SunOptions& options) {
 
 }  // namespace
 
-void AddChartCommands(CLI::App& app, Context& context) {
+void AddChartCommands(Command app, Context& context) {
   auto chartOptions = std::make_shared<ChartOptions>();
-  CLI::App* chart = AddCommand(app, "chart", "compute a chart; nothing is stored",
-                               [&context, chartOptions] { RunChart(context, *chartOptions); });
-  chart->add_option("--birth", chartOptions->Birth, "local moment, YYYY-MM-DD HH:MM")->required();
-  chart->add_option("--offset", chartOptions->Offset, "hours east of Greenwich")->required();
-  chart->add_option("--latitude", chartOptions->Latitude, "degrees north")->required();
-  chart->add_option("--longitude", chartOptions->Longitude, "degrees east")->required();
-  chart->add_option("--city-offset", chartOptions->CityOffset, "offset of the city's row");
-  CLI::Option* horary = chart->add_option("--horary", chartOptions->Horary, "number 1 to 249");
-  chart->add_option("--ascendant", chartOptions->Ascendant, "degree 0 to 360")->excludes(horary);
+  Command chart = AddCommand(app, "chart", "compute a chart; nothing is stored",
+                             [&context, chartOptions] { RunChart(context, *chartOptions); });
+  chart.add_option("--birth", chartOptions->Birth, "local moment, YYYY-MM-DD HH:MM").required();
+  chart.add_option("--offset", chartOptions->Offset, "hours east of Greenwich").required();
+  chart.add_option("--latitude", chartOptions->Latitude, "degrees north").required();
+  chart.add_option("--longitude", chartOptions->Longitude, "degrees east").required();
+  chart.add_option("--city-offset", chartOptions->CityOffset, "offset of the city's row");
+  Option horary = chart.add_option("--horary", chartOptions->Horary, "number 1 to 249");
+  chart.add_option("--ascendant", chartOptions->Ascendant, "degree 0 to 360").excludes(horary);
 
   auto sunOptions = std::make_shared<SunOptions>();
-  CLI::App* sun = AddCommand(app, "sun", "sunrise and sunset of a day",
-                             [&context, sunOptions] { RunSun(context, *sunOptions); });
-  sun->add_option("DATE", sunOptions->Date, "YYYY-MM-DD")->required();
-  sun->add_option("--latitude", sunOptions->Latitude, "degrees north")->required();
-  sun->add_option("--longitude", sunOptions->Longitude, "degrees east")->required();
-  sun->add_option("--offset", sunOptions->Offset, "hours east of Greenwich")->required();
+  Command sun = AddCommand(app, "sun", "sunrise and sunset of a day",
+                           [&context, sunOptions] { RunSun(context, *sunOptions); });
+  sun.add_option("DATE", sunOptions->Date, "YYYY-MM-DD").required();
+  sun.add_option("--latitude", sunOptions->Latitude, "degrees north").required();
+  sun.add_option("--longitude", sunOptions->Longitude, "degrees east").required();
+  sun.add_option("--offset", sunOptions->Offset, "hours east of Greenwich").required();
 }
 
 }  // namespace orvex::cli

@@ -1,12 +1,11 @@
 #include "cli/chart_style.h"
-#include "cli/call_options.h"
 
 namespace orvex::cli {
 
-void AddStyleOptions(CLI::App& command, ChartStyleOptions& options) {
-  command.add_option("ID", options.Id, "id of the client")->required();
+void AddStyleOptions(Command command, ChartStyleOptions& options) {
+  command.add_option("ID", options.Id, "id of the client").required();
   command.add_option("--style", options.Style, "N north, E east, S south Indian")
-      ->check(CLI::IsMember({"N", "E", "S"}));
+      .one_of({"N", "E", "S"});
 }
 
 char StyleOf(Context& context, const ChartStyleOptions& options) {

@@ -14,7 +14,7 @@ struct ChartStyleOptions {
 };
 
 // The client's id, and the style N, E or S.
-void AddStyleOptions(CLI::App& command, ChartStyleOptions& options);
+void AddStyleOptions(Command command, ChartStyleOptions& options);
 
 // The style named, else that of the settings.
 char StyleOf(Context& context, const ChartStyleOptions& options);

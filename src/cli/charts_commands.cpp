@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/chart_style.h"
 #include "cli/context.h"
 #include "cli/output.h"
@@ -91,14 +90,14 @@ void RunCharts(Context& context, const ChartStyleOptions& options, const std::st
 
 }  // namespace
 
-void AddChartsCommands(CLI::App& app, Context& context) {
+void AddChartsCommands(Command app, Context& context) {
   auto options = std::make_shared<ChartStyleOptions>();
   auto pictures = std::make_shared<std::string>();
-  CLI::App* command =
+  Command command =
       AddCommand(app, "charts", "the cells of a client's charts",
                  [&context, options, pictures] { RunCharts(context, *options, *pictures); });
-  AddStyleOptions(*command, *options);
-  command->add_option("--picture", *pictures, "a folder: the charts there as BMP, PNG and SVG");
+  AddStyleOptions(command, *options);
+  command.add_option("--picture", *pictures, "a folder: the charts there as BMP, PNG and SVG");
 }
 
 }  // namespace orvex::cli

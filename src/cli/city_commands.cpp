@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
@@ -17,8 +16,8 @@ struct CityOptions {
   std::string Moment;
   practice::CityForm Form;
   std::string Longitude;
-  const CLI::Option* OffsetOption = nullptr;     // --offset, to tell an empty text from none
-  const CLI::Option* LongitudeOption = nullptr;  // --longitude, likewise
+  std::optional<Option> OffsetOption;     // --offset, to tell an empty text from none
+  std::optional<Option> LongitudeOption;  // --longitude, likewise
 };
 
 void RunList(Context& context, const CityOptions& options) {
@@ -37,7 +36,7 @@ void RunAdd(Context& context, const CityOptions& options) {
     throw CommandFailed("");
   }
   practice::CityForm form = options.Form;
-  if (options.OffsetOption->empty()) {
+  if (!options.OffsetOption->given()) {
     form.Offset = practice::OffsetOfZone(session, form.TimeZone).value_or("");
   }
   PrintId(Context::Saved(practice::SaveNewCity(session, form)), context.Json);
@@ -56,7 +55,7 @@ void RunOffset(Context& context, const CityOptions& options) {
   }
   const core::DateTime moment = MomentOption("MOMENT", options.Moment);
   const double longitude = NumberOption(
-      "--longitude", options.LongitudeOption->empty() ? city->Longitude : options.Longitude, -180,
+      "--longitude", options.LongitudeOption->given() ? options.Longitude : city->Longitude, -180,
       180);
   const practice::ZoneClock clock = practice::ClocksOf(city->TimeZone, moment, longitude);
   const core::Table table{{{"City"},
@@ -89,32 +88,32 @@ void RunOffset(Context& context, const CityOptions& options) {
 
 }  // namespace
 
-void AddCityCommands(CLI::App& app, Context& context) {
-  CLI::App* city = app.add_subcommand("city", "cities and their time zones");
-  city->require_subcommand(1);
+void AddCityCommands(Command app, Context& context) {
+  Command city = app.add_subcommand("city", "cities and their time zones");
+  city.require_subcommand(1);
   const auto add = [&](const char* name, const char* description, auto run) {
     auto options = std::make_shared<CityOptions>();
-    CLI::App* command =
-        AddCommand(*city, name, description, [&context, options, run] { run(context, *options); });
+    Command command =
+        AddCommand(city, name, description, [&context, options, run] { run(context, *options); });
     return std::pair(command, options);
   };
   const auto [listCommand, listOptions] = add("list", "list the cities", RunList);
-  listCommand->add_option("TEXT", listOptions->Text, "text that the name holds");
+  listCommand.add_option("TEXT", listOptions->Text, "text that the name holds");
 
   const auto [addCommand, addOptions] = add("add", "add a city", RunAdd);
   practice::CityForm& form = addOptions->Form;
-  addCommand->add_option("--name", form.CityName, "name")->required();
-  addCommand->add_option("--timezone", form.TimeZone, "zone, as Asia/Kolkata")->required();
-  addCommand->add_option("--latitude", form.Latitude, "degrees north")->required();
-  addCommand->add_option("--longitude", form.Longitude, "degrees east")->required();
+  addCommand.add_option("--name", form.CityName, "name").required();
+  addCommand.add_option("--timezone", form.TimeZone, "zone, as Asia/Kolkata").required();
+  addCommand.add_option("--latitude", form.Latitude, "degrees north").required();
+  addCommand.add_option("--longitude", form.Longitude, "degrees east").required();
   addOptions->OffsetOption =
-      addCommand->add_option("--offset", form.Offset, "hours east of Greenwich; else the zone's");
+      addCommand.add_option("--offset", form.Offset, "hours east of Greenwich; else the zone's");
 
   const auto [offsetCommand, offsetOptions] =
       add("offset", "what the clocks of a city showed on a date", RunOffset);
-  offsetCommand->add_option("ID", offsetOptions->Id, "id of the city")->required();
-  offsetCommand->add_option("MOMENT", offsetOptions->Moment, "YYYY-MM-DD HH:MM")->required();
-  offsetOptions->LongitudeOption = offsetCommand->add_option(
+  offsetCommand.add_option("ID", offsetOptions->Id, "id of the city").required();
+  offsetCommand.add_option("MOMENT", offsetOptions->Moment, "YYYY-MM-DD HH:MM").required();
+  offsetOptions->LongitudeOption = offsetCommand.add_option(
       "--longitude", offsetOptions->Longitude, "degrees east of the birthplace; else the city's");
 }
 

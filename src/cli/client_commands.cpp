@@ -4,7 +4,6 @@
 
 #include "chart/client_saving.h"
 #include "chart/instant_chart.h"
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
@@ -38,7 +37,7 @@ struct ClientOptions {
   bool Yes = false;
 };
 
-void AddFieldOptions(CLI::App& command, ClientOptions& options) {
+void AddFieldOptions(Command command, ClientOptions& options) {
   command.add_option("--name", options.Name, "full name");
   command.add_option("--birth", options.Birth, "local moment, YYYY-MM-DD HH:MM");
   command.add_option("--city", options.City, "id of the city");
@@ -49,10 +48,10 @@ void AddFieldOptions(CLI::App& command, ClientOptions& options) {
   command.add_option("--email", options.Email, "e-mail");
   command.add_option("--mobile", options.Mobile, "mobile number");
   command.add_option("--comments", options.Comments, "comments");
-  CLI::Option* horary = command.add_option("--horary", options.Horary, "horary number 1 to 249");
+  Option horary = command.add_option("--horary", options.Horary, "horary number 1 to 249");
   command.add_option("--question", options.Question, "horary question");
   command.add_option("--ascendant", options.Ascendant, "Ascendant by hand, degree 0 to 360")
-      ->excludes(horary);
+      .excludes(horary);
 }
 
 void Take(const std::optional<std::string>& option, std::string& field) {
@@ -264,42 +263,42 @@ void RunInstant(Context& context) {
 
 }  // namespace
 
-void AddClientCommands(CLI::App& app, Context& context) {
-  CLI::App* client = app.add_subcommand("client", "clients with their births and queries");
-  client->require_subcommand(1);
+void AddClientCommands(Command app, Context& context) {
+  Command client = app.add_subcommand("client", "clients with their births and queries");
+  client.require_subcommand(1);
   const auto add = [&](const char* name, const char* description, auto run) {
     auto options = std::make_shared<ClientOptions>();
-    CLI::App* command = AddCommand(*client, name, description,
-                                   [&context, options, run] { run(context, *options); });
+    Command command =
+        AddCommand(client, name, description, [&context, options, run] { run(context, *options); });
     return std::pair(command, options);
   };
 
   const auto [addCommand, addOptions] = add("add", "save a new client and its chart", RunAdd);
-  AddFieldOptions(*addCommand, *addOptions);
-  addCommand->get_option("--name")->required();
-  addCommand->get_option("--birth")->required();
-  addCommand->get_option("--city")->required();
-  addCommand->add_option("--group", addOptions->Group, "id of the group; else the first by name");
+  AddFieldOptions(addCommand, *addOptions);
+  addCommand.get_option("--name").required();
+  addCommand.get_option("--birth").required();
+  addCommand.get_option("--city").required();
+  addCommand.add_option("--group", addOptions->Group, "id of the group; else the first by name");
 
   const auto [editCommand, editOptions] = add("edit", "change a client; the rest stays", RunEdit);
-  editCommand->add_option("ID", editOptions->Id, "id of the client")->required();
-  AddFieldOptions(*editCommand, *editOptions);
+  editCommand.add_option("ID", editOptions->Id, "id of the client").required();
+  AddFieldOptions(editCommand, *editOptions);
 
   const auto [listCommand, listOptions] = add("list", "list the clients", RunList);
-  listCommand->add_option("--group", listOptions->Group, "id of the group");
-  listCommand->add_flag("--csv", listOptions->Csv, "in the form that import takes");
+  listCommand.add_option("--group", listOptions->Group, "id of the group");
+  listCommand.add_flag("--csv", listOptions->Csv, "in the form that import takes");
 
   const auto [moveCommand, moveOptions] = add("move", "move a client to another group", RunMove);
-  moveCommand->add_option("ID", moveOptions->Id, "id of the client")->required();
-  moveCommand->add_option("--group", moveOptions->Group, "id of the group")->required();
+  moveCommand.add_option("ID", moveOptions->Id, "id of the client").required();
+  moveCommand.add_option("--group", moveOptions->Group, "id of the group").required();
 
   const auto [deleteCommand, deleteOptions] =
       add("delete", "delete a client with its remedies", RunDelete);
-  deleteCommand->add_option("ID", deleteOptions->Id, "id of the client")->required();
-  deleteCommand->add_flag("--yes", deleteOptions->Yes, "do not ask");
+  deleteCommand.add_option("ID", deleteOptions->Id, "id of the client").required();
+  deleteCommand.add_flag("--yes", deleteOptions->Yes, "do not ask");
 
   const auto [showCommand, showOptions] = add("show", "show a client and its chart", RunShow);
-  showCommand->add_option("ID", showOptions->Id, "id of the client")->required();
+  showCommand.add_option("ID", showOptions->Id, "id of the client").required();
 
   AddCommand(app, "instant", "save a chart of this moment at the user city",
              [&context] { RunInstant(context); });

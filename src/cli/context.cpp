@@ -2,7 +2,6 @@
 
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "practice/demo_home.h"
@@ -55,10 +54,10 @@ std::int32_t GroupFor(const core::Session& session, const std::optional<std::str
   return static_cast<std::int32_t>(group.Integer("id"));
 }
 
-CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
-                     std::function<void()> run) {
-  CLI::App* command = parent.add_subcommand(name, description);
-  command->callback(std::move(run));
+Command AddCommand(Command parent, const std::string& name, const std::string& description,
+                   std::function<void()> run) {
+  Command command = parent.add_subcommand(name, description);
+  command.callback(std::move(run));
   return command;
 }
 

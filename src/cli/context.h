@@ -9,13 +9,10 @@
 #include <string>
 
 #include "astro/ephemeris_gateway.h"
+#include "cli/call_words.h"
 #include "core/save_result.h"
 #include "core/session.h"
 #include "core/startup.h"
-
-namespace CLI {
-class App;
-}
 
 namespace orvex::cli {
 
@@ -83,25 +80,25 @@ std::int32_t GroupFor(const core::Session& session, const std::optional<std::str
 double NumberOption(const std::string& name, const std::string& text, double low, double high);
 
 // A command below `parent` whose callback runs `run`.
-CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
-                     std::function<void()> run);
+Command AddCommand(Command parent, const std::string& name, const std::string& description,
+                   std::function<void()> run);
 
-void AddStoreCommands(CLI::App& app, Context& context);       // init, backup, restore
-void AddCityCommands(CLI::App& app, Context& context);        // city
-void AddGroupCommands(CLI::App& app, Context& context);       // group
-void AddClientCommands(CLI::App& app, Context& context);      // client, instant
-void AddChartCommands(CLI::App& app, Context& context);       // chart, sun
-void AddHoroscopeCommands(CLI::App& app, Context& context);   // horoscope, rectify
-void AddChartsCommands(CLI::App& app, Context& context);      // charts
-void AddPlanetCommands(CLI::App& app, Context& context);      // planet
-void AddRemedyCommands(CLI::App& app, Context& context);      // remedy
-void AddSearchCommands(CLI::App& app, Context& context);      // search, birthdays
-void AddExportCommands(CLI::App& app, Context& context);      // export
-void AddImportCommand(CLI::App& app, Context& context);       // import
-void AddSettingsCommands(CLI::App& app, Context& context);    // settings
-void AddSkyCommands(CLI::App& app, Context& context);         // sky, hora
-void AddReportCommands(CLI::App& app, Context& context);      // report
-void AddDivisionalCommands(CLI::App& app, Context& context);  // divisional
-void AddTransitCommands(CLI::App& app, Context& context);     // grid, transit, find
+void AddStoreCommands(Command app, Context& context);       // init, backup, restore
+void AddCityCommands(Command app, Context& context);        // city
+void AddGroupCommands(Command app, Context& context);       // group
+void AddClientCommands(Command app, Context& context);      // client, instant
+void AddChartCommands(Command app, Context& context);       // chart, sun
+void AddHoroscopeCommands(Command app, Context& context);   // horoscope, rectify
+void AddChartsCommands(Command app, Context& context);      // charts
+void AddPlanetCommands(Command app, Context& context);      // planet
+void AddRemedyCommands(Command app, Context& context);      // remedy
+void AddSearchCommands(Command app, Context& context);      // search, birthdays
+void AddExportCommands(Command app, Context& context);      // export
+void AddImportCommand(Command app, Context& context);       // import
+void AddSettingsCommands(Command app, Context& context);    // settings
+void AddSkyCommands(Command app, Context& context);         // sky, hora
+void AddReportCommands(Command app, Context& context);      // report
+void AddDivisionalCommands(Command app, Context& context);  // divisional
+void AddTransitCommands(Command app, Context& context);     // grid, transit, find
 
 }  // namespace orvex::cli

@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/chart_style.h"
 #include "cli/context.h"
 #include "cli/output.h"
@@ -65,11 +64,11 @@ void RunDivisional(Context& context, const ChartStyleOptions& options) {
 
 }  // namespace
 
-void AddDivisionalCommands(CLI::App& app, Context& context) {
+void AddDivisionalCommands(Command app, Context& context) {
   auto options = std::make_shared<ChartStyleOptions>();
-  CLI::App* command = AddCommand(app, "divisional", "navamsha and dashamsha of a client",
-                                 [&context, options] { RunDivisional(context, *options); });
-  AddStyleOptions(*command, *options);
+  Command command = AddCommand(app, "divisional", "navamsha and dashamsha of a client",
+                               [&context, options] { RunDivisional(context, *options); });
+  AddStyleOptions(command, *options);
 }
 
 }  // namespace orvex::cli

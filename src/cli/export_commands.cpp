@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/search_commands.h"
 #include "practice/birthdays.h"
@@ -42,20 +41,20 @@ void ExportBirthdays(Context& context, const ExportOptions& options) {
 
 }  // namespace
 
-void AddExportCommands(CLI::App& app, Context& context) {
-  CLI::App* exported = app.add_subcommand("export", "a list as a spreadsheet");
-  exported->require_subcommand(1);
+void AddExportCommands(Command app, Context& context) {
+  Command exported = app.add_subcommand("export", "a list as a spreadsheet");
+  exported.require_subcommand(1);
   const auto add = [&](const char* name, const char* description, auto run) {
     auto options = std::make_shared<ExportOptions>();
-    CLI::App* command = AddCommand(*exported, name, description,
-                                   [&context, options, run] { run(context, *options); });
-    command->add_option("--file", options->File, "the .xlsx file to write")->required();
+    Command command = AddCommand(exported, name, description,
+                                 [&context, options, run] { run(context, *options); });
+    command.add_option("--file", options->File, "the .xlsx file to write").required();
     return std::pair(command, options);
   };
   const auto [clients, clientOptions] = add("clients", "the clients of a group", ExportClients);
-  clients->add_option("--group", clientOptions->Group, "id of the group; else all groups");
+  clients.add_option("--group", clientOptions->Group, "id of the group; else all groups");
   const auto [search, searchOptions] = add("search", "what a search finds", ExportSearch);
-  AddSearchOptions(*search, searchOptions->Search);
+  AddSearchOptions(search, searchOptions->Search);
   add("birthdays", "the birthdays of today", ExportBirthdays);
 }
 

@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "practice/groups.h"
@@ -38,28 +37,28 @@ void RunDelete(Context& context, const GroupOptions& options) {
 
 }  // namespace
 
-void AddGroupCommands(CLI::App& app, Context& context) {
-  CLI::App* group = app.add_subcommand("group", "groups of clients");
-  group->require_subcommand(1);
+void AddGroupCommands(Command app, Context& context) {
+  Command group = app.add_subcommand("group", "groups of clients");
+  group.require_subcommand(1);
   const auto add = [&](const char* name, const char* description, auto run) {
     auto options = std::make_shared<GroupOptions>();
-    CLI::App* command =
-        AddCommand(*group, name, description, [&context, options, run] { run(context, *options); });
+    Command command =
+        AddCommand(group, name, description, [&context, options, run] { run(context, *options); });
     return std::pair(command, options);
   };
   add("list", "list the groups", RunList);
 
   const auto [addCommand, addOptions] = add("add", "add a group", RunAdd);
-  addCommand->add_option("NAME", addOptions->Name, "its name")->required();
+  addCommand.add_option("NAME", addOptions->Name, "its name").required();
 
   const auto [renameCommand, renameOptions] = add("rename", "give a group a new name", RunRename);
-  renameCommand->add_option("ID", renameOptions->Id, "id of the group")->required();
-  renameCommand->add_option("NAME", renameOptions->Name, "its new name")->required();
+  renameCommand.add_option("ID", renameOptions->Id, "id of the group").required();
+  renameCommand.add_option("NAME", renameOptions->Name, "its new name").required();
 
   const auto [deleteCommand, deleteOptions] =
       add("delete", "delete a group with all its clients", RunDelete);
-  deleteCommand->add_option("ID", deleteOptions->Id, "id of the group")->required();
-  deleteCommand->add_flag("--yes", deleteOptions->Yes, "do not ask");
+  deleteCommand.add_option("ID", deleteOptions->Id, "id of the group").required();
+  deleteCommand.add_flag("--yes", deleteOptions->Yes, "do not ask");
 }
 
 }  // namespace orvex::cli

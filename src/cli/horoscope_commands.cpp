@@ -1,7 +1,6 @@
 #include <iostream>
 
 #include "chart/aspects.h"
-#include "cli/call_options.h"
 #include "cli/chart_style.h"
 #include "cli/context.h"
 #include "cli/output.h"
@@ -149,33 +148,33 @@ void RunRectify(Context& context, const RectifyOptions& options) {
   PrintTable(result.Planets);
 }
 
-void AddRectifyCommand(CLI::App& app, Context& context) {
+void AddRectifyCommand(Command app, Context& context) {
   auto options = std::make_shared<RectifyOptions>();
-  CLI::App* command =
+  Command command =
       AddCommand(app, "rectify", "a client's chart for a moved birth; nothing is saved",
                  [&context, options] { RunRectify(context, *options); });
-  command->add_option("ID", options->Id, "id of the client")->required();
-  command->add_option("--offset", options->Offset, "hours east of Greenwich");
-  command->add_option("--latitude", options->Latitude, "degrees north");
-  command->add_option("--longitude", options->Longitude, "degrees east");
-  command->add_option("--days", options->Days, "days to move the birth by");
-  command->add_option("--hours", options->Hours, "hours to move the birth by");
-  command->add_option("--minutes", options->Minutes, "minutes to move the birth by");
-  command->add_option("--seconds", options->Seconds, "seconds to move the birth by");
+  command.add_option("ID", options->Id, "id of the client").required();
+  command.add_option("--offset", options->Offset, "hours east of Greenwich");
+  command.add_option("--latitude", options->Latitude, "degrees north");
+  command.add_option("--longitude", options->Longitude, "degrees east");
+  command.add_option("--days", options->Days, "days to move the birth by");
+  command.add_option("--hours", options->Hours, "hours to move the birth by");
+  command.add_option("--minutes", options->Minutes, "minutes to move the birth by");
+  command.add_option("--seconds", options->Seconds, "seconds to move the birth by");
 }
 
 }  // namespace
 
-void AddHoroscopeCommands(CLI::App& app, Context& context) {
+void AddHoroscopeCommands(Command app, Context& context) {
   auto options = std::make_shared<HoroscopeOptions>();
-  CLI::App* command = AddCommand(app, "horoscope", "the assembled horoscope of a client",
-                                 [&context, options] { RunHoroscope(context, *options); });
-  command->add_option("ID", options->Id, "id of the client")->required();
-  command->add_option("--rotate", options->Rotate, "house that counts as the first, 1 to 12");
-  command->add_option("--aspects", options->Aspects, "aspects listed: all, good or hard")
-      ->check(CLI::IsMember({"all", "good", "hard"}));
-  command->add_option("--year", options->Year, "year of life of the annual chart, 1 to 120");
-  command->add_option("--timeline", options->TimelineFile, "writes the periods as bars, as SVG");
+  Command command = AddCommand(app, "horoscope", "the assembled horoscope of a client",
+                               [&context, options] { RunHoroscope(context, *options); });
+  command.add_option("ID", options->Id, "id of the client").required();
+  command.add_option("--rotate", options->Rotate, "house that counts as the first, 1 to 12");
+  command.add_option("--aspects", options->Aspects, "aspects listed: all, good or hard")
+      .one_of({"all", "good", "hard"});
+  command.add_option("--year", options->Year, "year of life of the annual chart, 1 to 120");
+  command.add_option("--timeline", options->TimelineFile, "writes the periods as bars, as SVG");
   AddRectifyCommand(app, context);
 }
 

@@ -2,7 +2,6 @@
 #include <iostream>
 #include <sstream>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "practice/client_import.h"
@@ -60,14 +59,14 @@ void RunImport(Context& context, const ImportOptions& options) {
 
 }  // namespace
 
-void AddImportCommand(CLI::App& app, Context& context) {
+void AddImportCommand(Command app, Context& context) {
   auto options = std::make_shared<ImportOptions>();
-  CLI::App* command = AddCommand(app, "import", "take clients from a CSV file",
-                                 [&context, options] { RunImport(context, *options); });
-  command->add_option("FILE", options->File, "the CSV file")->required();
-  command->add_option("--group", options->Group,
-                      "id of the group of lines that name none; else the first by name");
-  command->add_flag("--dry-run", options->DryRun, "check everything, write nothing");
+  Command command = AddCommand(app, "import", "take clients from a CSV file",
+                               [&context, options] { RunImport(context, *options); });
+  command.add_option("FILE", options->File, "the CSV file").required();
+  command.add_option("--group", options->Group,
+                     "id of the group of lines that name none; else the first by name");
+  command.add_flag("--dry-run", options->DryRun, "check everything, write nothing");
 }
 
 }  // namespace orvex::cli

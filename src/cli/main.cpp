@@ -1,8 +1,8 @@
 #include <sys/stat.h>
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 
 namespace {
@@ -51,23 +51,24 @@ int RunProgram(int argc, char** argv) {
   app.require_subcommand(1);
   app.fallthrough();
 
-  orvex::cli::AddStoreCommands(app, context);
-  orvex::cli::AddCityCommands(app, context);
-  orvex::cli::AddGroupCommands(app, context);
-  orvex::cli::AddClientCommands(app, context);
-  orvex::cli::AddChartCommands(app, context);
-  orvex::cli::AddHoroscopeCommands(app, context);
-  orvex::cli::AddDivisionalCommands(app, context);
-  orvex::cli::AddChartsCommands(app, context);
-  orvex::cli::AddReportCommands(app, context);
-  orvex::cli::AddPlanetCommands(app, context);
-  orvex::cli::AddRemedyCommands(app, context);
-  orvex::cli::AddTransitCommands(app, context);
-  orvex::cli::AddSearchCommands(app, context);
-  orvex::cli::AddExportCommands(app, context);
-  orvex::cli::AddImportCommand(app, context);
-  orvex::cli::AddSettingsCommands(app, context);
-  orvex::cli::AddSkyCommands(app, context);
+  const orvex::cli::Command commands(&app);
+  orvex::cli::AddStoreCommands(commands, context);
+  orvex::cli::AddCityCommands(commands, context);
+  orvex::cli::AddGroupCommands(commands, context);
+  orvex::cli::AddClientCommands(commands, context);
+  orvex::cli::AddChartCommands(commands, context);
+  orvex::cli::AddHoroscopeCommands(commands, context);
+  orvex::cli::AddDivisionalCommands(commands, context);
+  orvex::cli::AddChartsCommands(commands, context);
+  orvex::cli::AddReportCommands(commands, context);
+  orvex::cli::AddPlanetCommands(commands, context);
+  orvex::cli::AddRemedyCommands(commands, context);
+  orvex::cli::AddTransitCommands(commands, context);
+  orvex::cli::AddSearchCommands(commands, context);
+  orvex::cli::AddExportCommands(commands, context);
+  orvex::cli::AddImportCommand(commands, context);
+  orvex::cli::AddSettingsCommands(commands, context);
+  orvex::cli::AddSkyCommands(commands, context);
 
   const int status = Run(app, argc, argv);
   if (context.EphemerisFellBack()) {

@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/chart_style.h"
 #include "cli/context.h"
 #include "cli/output.h"
@@ -54,12 +53,12 @@ void RunPlanet(Context& context, const PlanetOptions& options) {
 
 }  // namespace
 
-void AddPlanetCommands(CLI::App& app, Context& context) {
+void AddPlanetCommands(Command app, Context& context) {
   auto options = std::make_shared<PlanetOptions>();
-  CLI::App* command = AddCommand(app, "planet", "all that a horoscope knows of a planet",
-                                 [&context, options] { RunPlanet(context, *options); });
-  command->add_option("ID", options->Id, "id of the client")->required();
-  command->add_option("PLANET", options->Planet, "name of the planet")->required();
+  Command command = AddCommand(app, "planet", "all that a horoscope knows of a planet",
+                               [&context, options] { RunPlanet(context, *options); });
+  command.add_option("ID", options->Id, "id of the client").required();
+  command.add_option("PLANET", options->Planet, "name of the planet").required();
 }
 
 }  // namespace orvex::cli

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/text.h"
@@ -76,7 +75,7 @@ void RunDelete(Context& context, const RemedyOptions& options) {
   PrintId(Context::Saved(practice::DeleteRemedy(context.Writing(), id)), context.Json);
 }
 
-void AddFieldOptions(CLI::App& command, RemedyOptions& options) {
+void AddFieldOptions(Command command, RemedyOptions& options) {
   command.add_option("--problem", options.Problem, "problem or symptom");
   command.add_option("--remedy", options.Remedy, "remedy or solution");
   command.add_option("--planet", options.Planet, "planet that it is for; else none");
@@ -85,29 +84,29 @@ void AddFieldOptions(CLI::App& command, RemedyOptions& options) {
 
 }  // namespace
 
-void AddRemedyCommands(CLI::App& app, Context& context) {
-  CLI::App* remedy = app.add_subcommand("remedy", "remedies given to clients");
-  remedy->require_subcommand(1);
+void AddRemedyCommands(Command app, Context& context) {
+  Command remedy = app.add_subcommand("remedy", "remedies given to clients");
+  remedy.require_subcommand(1);
   const auto add = [&](const char* name, const char* description, auto run, const char* id) {
     auto options = std::make_shared<RemedyOptions>();
-    CLI::App* command = AddCommand(*remedy, name, description,
-                                   [&context, options, run] { run(context, *options); });
-    command->add_option(id, options->Id, "id")->required();
+    Command command =
+        AddCommand(remedy, name, description, [&context, options, run] { run(context, *options); });
+    command.add_option(id, options->Id, "id").required();
     return std::pair(command, options);
   };
   add("list", "list the remedies of a client", RunList, "CLIENT");
 
   const auto [addCommand, addOptions] = add("add", "note a remedy", RunAdd, "CLIENT");
-  AddFieldOptions(*addCommand, *addOptions);
-  addCommand->get_option("--problem")->required();
-  addCommand->get_option("--remedy")->required();
+  AddFieldOptions(addCommand, *addOptions);
+  addCommand.get_option("--problem").required();
+  addCommand.get_option("--remedy").required();
 
   const auto [editCommand, editOptions] =
       add("edit", "change a remedy; the rest stays", RunEdit, "ID");
-  AddFieldOptions(*editCommand, *editOptions);
+  AddFieldOptions(editCommand, *editOptions);
 
   const auto [deleteCommand, deleteOptions] = add("delete", "delete a remedy", RunDelete, "ID");
-  deleteCommand->add_flag("--yes", deleteOptions->Yes, "do not ask");
+  deleteCommand.add_flag("--yes", deleteOptions->Yes, "do not ask");
 }
 
 }  // namespace orvex::cli

@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/chart_style.h"
 #include "cli/context.h"
 #include "cli/output.h"
@@ -106,7 +105,7 @@ void RunBatch(Context& context, const ReportOptions& options) {
 void RunReport(Context& context, const ReportOptions& options) {
   const int ways = !options.Id.empty() + !options.Ids.empty() + !options.Group.empty();
   if (ways != 1) {
-    throw CLI::ValidationError("report", "needs one of ID, --ids and --group");
+    RefuseWords("report", "needs one of ID, --ids and --group");
   }
   const ui::OffscreenPainting painting;
   if (options.Id.empty()) {
@@ -125,18 +124,18 @@ void RunReport(Context& context, const ReportOptions& options) {
 
 }  // namespace
 
-void AddReportCommands(CLI::App& app, Context& context) {
+void AddReportCommands(Command app, Context& context) {
   auto options = std::make_shared<ReportOptions>();
-  CLI::App* command = AddCommand(app, "report", "write the HTML report of a client or of many",
-                                 [&context, options] { RunReport(context, *options); });
-  command->add_option("ID", options->Id, "id of the client");
-  command->add_option("--ids", options->Ids, "ids of several clients, with commas between them");
-  command->add_option("--group", options->Group, "id of a group: all its clients");
-  command->add_option("--detail", options->Detail, "DB, DBA or DBAS: how deep the periods go")
-      ->check(CLI::IsMember({"DB", "DBA", "DBAS"}));
-  command->add_option("--style", options->Style, "N north, E east, S south Indian")
-      ->check(CLI::IsMember({"N", "E", "S"}));
-  command->add_flag("--pdf", options->Pdf, "also a PDF beside it");
+  Command command = AddCommand(app, "report", "write the HTML report of a client or of many",
+                               [&context, options] { RunReport(context, *options); });
+  command.add_option("ID", options->Id, "id of the client");
+  command.add_option("--ids", options->Ids, "ids of several clients, with commas between them");
+  command.add_option("--group", options->Group, "id of a group: all its clients");
+  command.add_option("--detail", options->Detail, "DB, DBA or DBAS: how deep the periods go")
+      .one_of({"DB", "DBA", "DBAS"});
+  command.add_option("--style", options->Style, "N north, E east, S south Indian")
+      .one_of({"N", "E", "S"});
+  command.add_flag("--pdf", options->Pdf, "also a PDF beside it");
 }
 
 }  // namespace orvex::cli

@@ -2,7 +2,6 @@
 
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/output.h"
 #include "core/text.h"
 #include "practice/birthdays.h"
@@ -117,7 +116,7 @@ void PrintBirthdays(Context& context) {
 
 }  // namespace
 
-void AddSearchOptions(CLI::App& command, SearchOptions& options) {
+void AddSearchOptions(Command command, SearchOptions& options) {
   command.add_flag("--remedies", options.Remedies, "find remedies, else clients");
   command.add_option("--groups", options.Groups, "ids of groups, with commas; else all groups");
   command.add_option("--gender", options.Gender, "M, F or O");
@@ -137,10 +136,10 @@ practice::SearchResult RunSearch(const core::Session& session, const SearchOptio
   return found;
 }
 
-void AddSearchCommands(CLI::App& app, Context& context) {
+void AddSearchCommands(Command app, Context& context) {
   auto options = std::make_shared<SearchOptions>();
-  AddSearchOptions(*AddCommand(app, "search", "find clients or remedies",
-                               [&context, options] { RunAndPrint(context, *options); }),
+  AddSearchOptions(AddCommand(app, "search", "find clients or remedies",
+                              [&context, options] { RunAndPrint(context, *options); }),
                    *options);
   AddCommand(app, "birthdays", "the birthdays of today", [&context] { PrintBirthdays(context); });
 }

@@ -22,7 +22,7 @@ struct SearchOptions {
   std::optional<std::string> Planet;
 };
 
-void AddSearchOptions(CLI::App& command, SearchOptions& options);
+void AddSearchOptions(Command command, SearchOptions& options);
 
 // Runs the search that the options describe. CommandFailed for a word that names no filter and with
 // the program's message where the search is refused.

@@ -1,7 +1,6 @@
 #include <functional>
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/settings.h"
@@ -70,7 +69,7 @@ std::vector<Setting> AllSettings() {
 void Apply(const std::string& assignment, SettingsForm& form) {
   const std::size_t sign = assignment.find('=');
   if (sign == std::string::npos) {
-    throw CLI::ValidationError("settings set", "takes KEY=VALUE");
+    RefuseWords("settings set", "takes KEY=VALUE");
   }
   const std::string key = core::LowerCase(core::Trim(assignment.substr(0, sign)));
   for (const Setting& setting : AllSettings()) {
@@ -79,8 +78,7 @@ void Apply(const std::string& assignment, SettingsForm& form) {
       return;
     }
   }
-  throw CLI::ValidationError("settings set",
-                             "there is no setting \"" + core::FirstCharacters(key, 40) + "\"");
+  RefuseWords("settings set", "there is no setting \"" + core::FirstCharacters(key, 40) + "\"");
 }
 
 void PrintSettings(const core::Session& session, bool json) {
@@ -110,15 +108,15 @@ void RunSet(Context& context, const std::vector<std::string>& assignments) {
 
 }  // namespace
 
-void AddSettingsCommands(CLI::App& app, Context& context) {
-  CLI::App* settings = app.add_subcommand("settings", "the settings of the practice");
-  settings->require_subcommand(1);
-  AddCommand(*settings, "show", "show the settings row",
+void AddSettingsCommands(Command app, Context& context) {
+  Command settings = app.add_subcommand("settings", "the settings of the practice");
+  settings.require_subcommand(1);
+  AddCommand(settings, "show", "show the settings row",
              [&context] { PrintSettings(context.Reading(), context.Json); });
   auto assignments = std::make_shared<std::vector<std::string>>();
-  CLI::App* set = AddCommand(*settings, "set", "change settings; the rest stays",
-                             [&context, assignments] { RunSet(context, *assignments); });
-  set->add_option("KEY=VALUE", *assignments, "columns of the settings row")->required();
+  Command set = AddCommand(settings, "set", "change settings; the rest stays",
+                           [&context, assignments] { RunSet(context, *assignments); });
+  set.add_option("KEY=VALUE", *assignments, "columns of the settings row").required();
 }
 
 }  // namespace orvex::cli

@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "panchang/hora.h"
@@ -104,13 +103,13 @@ void RunHora(Context& context, const HoraOptions& options) {
 
 }  // namespace
 
-void AddSkyCommands(CLI::App& app, Context& context) {
+void AddSkyCommands(Command app, Context& context) {
   AddCommand(app, "sky", "the sky view of the user city", [&context] { RunSky(context); });
   auto options = std::make_shared<HoraOptions>();
-  CLI::App* hora = AddCommand(app, "hora", "the horas of a day and its night",
-                              [&context, options] { RunHora(context, *options); });
-  hora->add_option("DATE", options->Date, "YYYY-MM-DD")->required();
-  hora->add_option("--city", options->City, "id of a city; else the user city");
+  Command hora = AddCommand(app, "hora", "the horas of a day and its night",
+                            [&context, options] { RunHora(context, *options); });
+  hora.add_option("DATE", options->Date, "YYYY-MM-DD").required();
+  hora.add_option("--city", options->City, "id of a city; else the user city");
 }
 
 }  // namespace orvex::cli

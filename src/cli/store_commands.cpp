@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/backup.h"
@@ -40,7 +39,7 @@ void RunRestore(Context& context, const std::string& file) {
 
 }  // namespace
 
-void AddStoreCommands(CLI::App& app, Context& context) {
+void AddStoreCommands(Command app, Context& context) {
   AddCommand(app, "init", "make the home and its store if they are missing",
              [&context] { PrintFile("store", context.Reading().Place.StoreFile(), context.Json); });
   AddCommand(app, "backup", "copy the store to the folder of its backups",
@@ -48,8 +47,8 @@ void AddStoreCommands(CLI::App& app, Context& context) {
   auto file = std::make_shared<std::string>();
   AddCommand(app, "restore", "put a backup in the place of the store",
              [&context, file] { RunRestore(context, *file); })
-      ->add_option("FILE", *file, "the backup")
-      ->required();
+      .add_option("FILE", *file, "the backup")
+      .required();
 }
 
 }  // namespace orvex::cli

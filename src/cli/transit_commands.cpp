@@ -1,7 +1,6 @@
 #include <iostream>
 
 #include "chart/chart_moment.h"
-#include "cli/call_options.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
@@ -236,49 +235,49 @@ void RunFind(Context& context, const TransitOptions& options) {
   }
 }
 
-void AddGrid(CLI::App& app, Context& context) {
+void AddGrid(Command app, Context& context) {
   auto options = std::make_shared<TransitOptions>();
-  CLI::App* command = AddCommand(app, "grid", "the planets of a month, day by day",
-                                 [&context, options] { RunGrid(context, *options); });
-  command->add_option("YEAR", options->Year, "1500 to 2500")->required();
-  command->add_option("MONTH", options->Month, "1 to 12")->required();
-  command->add_option("--city", options->City, "id of the city; else the user city");
-  command->add_option("--time", options->Time, "time of day, HH:MM; else now");
-  command->add_option("--ics", options->IcsFile, "writes stations and changes of sign as calendar");
-  command->add_option("--svg", options->SvgFile, "writes the month as lines over the signs");
+  Command command = AddCommand(app, "grid", "the planets of a month, day by day",
+                               [&context, options] { RunGrid(context, *options); });
+  command.add_option("YEAR", options->Year, "1500 to 2500").required();
+  command.add_option("MONTH", options->Month, "1 to 12").required();
+  command.add_option("--city", options->City, "id of the city; else the user city");
+  command.add_option("--time", options->Time, "time of day, HH:MM; else now");
+  command.add_option("--ics", options->IcsFile, "writes stations and changes of sign as calendar");
+  command.add_option("--svg", options->SvgFile, "writes the month as lines over the signs");
 }
 
-void AddTransit(CLI::App& app, Context& context) {
+void AddTransit(Command app, Context& context) {
   auto options = std::make_shared<TransitOptions>();
-  CLI::App* command = AddCommand(app, "transit", "a planet hour by hour",
-                                 [&context, options] { RunTransit(context, *options); });
-  command->add_option("PLANET", options->Planet, "name of the planet")->required();
-  command->add_option("DATE", options->Date, "YYYY-MM-DD")->required();
-  command->add_option("--hour", options->Hour, "0 to 23: the minutes of that hour");
+  Command command = AddCommand(app, "transit", "a planet hour by hour",
+                               [&context, options] { RunTransit(context, *options); });
+  command.add_option("PLANET", options->Planet, "name of the planet").required();
+  command.add_option("DATE", options->Date, "YYYY-MM-DD").required();
+  command.add_option("--hour", options->Hour, "0 to 23: the minutes of that hour");
 }
 
-void AddFind(CLI::App& app, Context& context) {
+void AddFind(Command app, Context& context) {
   auto options = std::make_shared<TransitOptions>();
-  CLI::App* command = AddCommand(app, "find", "when a planet passes a degree, a star or a sign",
-                                 [&context, options] { RunFind(context, *options); });
-  command->add_option("PLANET", options->Planet, "name of the planet")->required();
-  CLI::Option_group* target = command->add_option_group("target");
-  target->add_option("--degree", options->Degree, "0 to 360");
-  CLI::Option* star = target->add_option("--star", options->Star, "name of the nakshatra");
-  target->add_option("--rashi", options->Rashi, "name of the sign");
-  target->require_option(1);
-  CLI::Option* pada = command->add_option("--pada", options->Pada, "1 to 4");
-  pada->needs(star);
-  star->needs(pada);
-  command->add_option("--from", options->From, "YYYY-MM-DD; else today");
-  command->add_option("--days", options->Days, "the days to search; else without an end");
-  command->add_option("--count", options->Count, "so many passages, one after the other");
-  command->add_option("--ics", options->IcsFile, "writes what was found as calendar");
+  Command command = AddCommand(app, "find", "when a planet passes a degree, a star or a sign",
+                               [&context, options] { RunFind(context, *options); });
+  command.add_option("PLANET", options->Planet, "name of the planet").required();
+  Command target = command.add_option_group("target");
+  target.add_option("--degree", options->Degree, "0 to 360");
+  Option star = target.add_option("--star", options->Star, "name of the nakshatra");
+  target.add_option("--rashi", options->Rashi, "name of the sign");
+  target.require_option(1);
+  Option pada = command.add_option("--pada", options->Pada, "1 to 4");
+  pada.needs(star);
+  star.needs(pada);
+  command.add_option("--from", options->From, "YYYY-MM-DD; else today");
+  command.add_option("--days", options->Days, "the days to search; else without an end");
+  command.add_option("--count", options->Count, "so many passages, one after the other");
+  command.add_option("--ics", options->IcsFile, "writes what was found as calendar");
 }
 
 }  // namespace
 
-void AddTransitCommands(CLI::App& app, Context& context) {
+void AddTransitCommands(Command app, Context& context) {
   AddGrid(app, context);
   AddTransit(app, context);
   AddFind(app, context);
