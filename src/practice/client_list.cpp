@@ -110,6 +110,12 @@ ClientColumn SortedColumn(const core::Session& session) {
   return column == "cm.Email" ? ClientColumn::Email : ClientColumn::ClientName;
 }
 
+std::string DeleteClientQuestion(const core::Session& session, std::int32_t clientId) {
+  const core::Result client = session.StoreConnection.Query(
+      "Select fullname from client_master where id = " + WholeText(clientId));
+  return kDeleteClientQuestion + (client.AtEnd() ? "" : "\n\n" + client.Text("fullname"));
+}
+
 std::optional<core::Refusal> CheckEditClient(const core::Session& session, std::int32_t clientId) {
   return CheckClosed(session, clientId, "Horoscope can't be edited as it is currently open.");
 }
@@ -133,6 +139,17 @@ core::SaveResult DeleteClient(core::Session& session, std::int32_t clientId) {
     store.Execute("Delete from client_master where id = " + id);
     return clientId;
   });
+}
+
+ClientPlace PlaceOfClient(const core::Session& session, std::int32_t clientId) {
+  const core::Result row = session.StoreConnection.Query(
+      "Select cm.fullname, cm.groupid, gm.groupname from client_master cm, group_master gm where "
+      "cm.groupid = "
+      "gm.id and cm.id = " +
+      WholeText(clientId));
+  return row.AtEnd() ? ClientPlace{}
+                     : ClientPlace{static_cast<std::int32_t>(row.Integer("groupid")),
+                                   row.Text("fullname"), row.Text("groupname")};
 }
 
 core::SaveResult MoveClient(core::Session& session, std::int32_t clientId, std::int32_t groupId) {

@@ -46,6 +46,9 @@ ClientColumn SortedColumn(const core::Session& session);
 inline constexpr const char* kDeleteClientQuestion =
     "Are you sure you want to delete the selected Client?";
 
+// The question before a client is deleted, with the client's name below it.
+std::string DeleteClientQuestion(const core::Session& session, std::int32_t clientId);
+
 // Why a client may not be edited or deleted: its horoscope is open. Nothing where it may.
 std::optional<core::Refusal> CheckEditClient(const core::Session& session, std::int32_t clientId);
 std::optional<core::Refusal> CheckDeleteClient(const core::Session& session, std::int32_t clientId);
@@ -53,6 +56,14 @@ std::optional<core::Refusal> CheckDeleteClient(const core::Session& session, std
 // Deletes a client with its planets and remedies in one batch, after the store is backed up.
 // Refused where its horoscope is open, it is gone, or the backup fails.
 core::SaveResult DeleteClient(core::Session& session, std::int32_t clientId);
+
+// The names of a client and of its group; "" and 0 where the client is gone.
+struct ClientPlace {
+  std::int32_t GroupId = 0;
+  std::string ClientName;
+  std::string GroupName;
+};
+ClientPlace PlaceOfClient(const core::Session& session, std::int32_t clientId);
 
 // Moves a client to another group. Refused for its own group and one that is gone.
 core::SaveResult MoveClient(core::Session& session, std::int32_t clientId, std::int32_t groupId);

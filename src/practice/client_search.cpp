@@ -1,5 +1,7 @@
 #include "practice/client_search.h"
 
+#include <unordered_map>
+
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
@@ -73,29 +75,58 @@ std::string DateClause(const SearchFilter& filter, const std::string& column) {
   }
 }
 
-std::string ClientStatement(const SearchFilter& filter, const Clauses& clauses) {
+constexpr const char* kClientFields =
+    "cm.id, cm.fullname, cm.gender, cm.email, cm.mobile, cm.birthdate, cm.comments, cm.horary, "
+    "cm.horaryno, cm.latitude, cm.longitude, cm.offset, gm.groupname, ctm.cityname";
+constexpr const char* kRemedyFields =
+    "cm.id, cm.fullname, cm.gender, cm.email, cm.mobile, gm.groupname, cr.remedydate, cr.problem, "
+    "cr.remedy";
+constexpr const char* kByName = " order by cm.fullname";
+
+std::string ClientsThatFit(const SearchFilter& filter, const Clauses& clauses) {
   const std::string text = core::Trim(filter.Text);
-  return "Select cm.id, cm.fullname, cm.gender, cm.email, cm.mobile, cm.birthdate, cm.comments, "
-         "cm.horary, cm.horaryno, cm.latitude, cm.longitude, cm.offset, gm.groupname, "
-         "ctm.cityname from client_master cm, group_master gm, city_master ctm" +
-         clauses.Tables + " where cm.cityid = ctm.id and cm.groupid = gm.id and" +
+  return " from client_master cm, group_master gm, city_master ctm" + clauses.Tables +
+         " where cm.cityid = ctm.id and cm.groupid = gm.id and" +
          DateClause(filter, "cm.birthdate") +
          (text.empty() ? "" : " and cm.comments like '%" + text + "%'") + clauses.Retrograde +
-         clauses.Groups + clauses.Gender + clauses.Ascendant + " order by cm.fullname";
+         clauses.Groups + clauses.Gender + clauses.Ascendant;
 }
 
-std::string RemedyStatement(const SearchFilter& filter, const Clauses& clauses) {
+std::string RemediesThatFit(const SearchFilter& filter, const Clauses& clauses) {
   const std::string text = core::Trim(filter.Text);
-  return "Select cm.id, cm.fullname, cm.gender, cm.email, cm.mobile, gm.groupname, cr.remedydate, "
-         "cr.problem, cr.remedy from client_master cm, group_master gm, client_remedy cr" +
-         clauses.Tables + " where cm.id = cr.clientid and cm.groupid = gm.id and" +
+  return " from client_master cm, group_master gm, client_remedy cr" + clauses.Tables +
+         " where cm.id = cr.clientid and cm.groupid = gm.id and" +
          DateClause(filter, "cr.remedydate") +
          (text.empty()
               ? ""
               : " and (cr.problem like '%" + text + "%' or cr.remedy like '%" + text + "%')") +
          clauses.Retrograde +
          (filter.ForPlanetId ? " and cr.forplanetid = " + WholeText(*filter.ForPlanetId) : "") +
-         clauses.Groups + clauses.Gender + clauses.Ascendant + " order by cm.fullname";
+         clauses.Groups + clauses.Gender + clauses.Ascendant;
+}
+
+bool OfClients(const SearchFilter& filter) { return filter.Mode == SearchMode::Clients; }
+
+// The field of a row's own id.
+const char* KeyOf(const SearchFilter& filter) { return OfClients(filter) ? "cm.id" : "cr.id"; }
+
+// "Select ... from ... where ...", with the row's own id as rowkey.
+std::string SelectThatFit(const SearchFilter& filter, const char* fields) {
+  const Clauses clauses = ClausesOf(filter);
+  return std::string("Select ") + KeyOf(filter) + " as rowkey, " + fields +
+         (OfClients(filter) ? ClientsThatFit(filter, clauses) : RemediesThatFit(filter, clauses));
+}
+
+std::string SelectCells(const SearchFilter& filter) {
+  return SelectThatFit(filter, OfClients(filter) ? kClientFields : kRemedyFields);
+}
+
+std::optional<core::Refusal> CheckGroups(const SearchFilter& filter) {
+  if (!filter.GroupIds || !filter.GroupIds->empty()) {
+    return std::nullopt;
+  }
+  return core::Refusal{"You need to select at least one Group from the list.",
+                       core::MessageIcon::Information, "groups"};
 }
 
 std::string GenderText(const std::string& letter) {
@@ -162,20 +193,61 @@ core::Table ResultTable(SearchMode mode) {
   return table;
 }
 
+FoundRows FindRows(const core::Session& session, const SearchFilter& filter) {
+  FoundRows found;
+  if ((found.Refused = CheckGroups(filter))) {
+    return found;
+  }
+  const bool done = core::Attempt([&] {
+    const std::string statement = SelectThatFit(filter, "cm.id") + kByName;
+    for (core::Result row = session.StoreConnection.Query(statement); !row.AtEnd(); row.Next()) {
+      found.Rows.push_back({static_cast<std::int32_t>(row.Integer("rowkey")),
+                            static_cast<std::int32_t>(row.Integer("id"))});
+    }
+  });
+  if (!done) {
+    found.Rows.clear();
+  }
+  found.ResultLine = ResultLine(found.Rows.size());
+  return found;
+}
+
+std::vector<core::Row> ReadFoundRows(const core::Session& session, const SearchFilter& filter,
+                                     const std::vector<FoundRow>& rows) {
+  std::vector<std::string> ids;
+  std::unordered_map<std::int64_t, std::size_t> places;
+  for (const FoundRow& row : rows) {
+    places.emplace(row.Id, ids.size());
+    ids.push_back(WholeText(row.Id));
+  }
+  std::vector<core::Row> read(rows.size());
+  core::Attempt([&] {
+    core::Table one = ResultTable(filter.Mode);
+    const std::string statement =
+        SelectCells(filter) + " and " + KeyOf(filter) + " in (" + core::Join(ids, ",") + ")";
+    for (core::Result row = session.StoreConnection.Query(statement); !row.AtEnd(); row.Next()) {
+      one.Rows.clear();
+      OfClients(filter) ? AddClientRow(row, one) : AddRemedyRow(row, one);
+      read[places.at(row.Integer("rowkey"))] = std::move(one.Rows.front());
+    }
+  });
+  for (std::size_t at = 0; at < rows.size(); ++at) {
+    if (const std::size_t first = places.at(rows[at].Id); first != at) {
+      read[at] = read[first];
+    }
+  }
+  return read;
+}
+
 SearchResult SearchClients(const core::Session& session, const SearchFilter& filter) {
   SearchResult result{ResultTable(filter.Mode)};
-  if (filter.GroupIds && filter.GroupIds->empty()) {
-    result.Refused = core::Refusal{"You need to select at least one Group from the list.",
-                                   core::MessageIcon::Information, "groups"};
+  if ((result.Refused = CheckGroups(filter))) {
     return result;
   }
-  const bool clients = filter.Mode == SearchMode::Clients;
-  const Clauses clauses = ClausesOf(filter);
   const bool done = core::Attempt([&] {
-    const std::string statement =
-        clients ? ClientStatement(filter, clauses) : RemedyStatement(filter, clauses);
+    const std::string statement = SelectCells(filter) + kByName;
     for (core::Result row = session.StoreConnection.Query(statement); !row.AtEnd(); row.Next()) {
-      clients ? AddClientRow(row, result.Results) : AddRemedyRow(row, result.Results);
+      OfClients(filter) ? AddClientRow(row, result.Results) : AddRemedyRow(row, result.Results);
     }
   });
   if (!done) {

@@ -55,6 +55,27 @@ struct SearchResult {
 // The empty result table of a mode.
 core::Table ResultTable(SearchMode mode);
 
+// A row that was found: the client's or the remedy's own id, and the client's.
+struct FoundRow {
+  std::int32_t Id = 0;
+  std::int32_t ClientId = 0;
+};
+
+// What was found, without its cells: of 100,000 rows a screen shows forty.
+struct FoundRows {
+  std::vector<FoundRow> Rows;
+  std::string ResultLine = kEmptyResultLine;
+  std::optional<core::Refusal> Refused;  // no search was run
+};
+
+// Runs the search as SearchClients does and finds the same rows in the same order.
+FoundRows FindRows(const core::Session& session, const SearchFilter& filter);
+
+// The cells of some of the rows that a search found, in the order asked for. A row that fits the
+// filter no more has none.
+std::vector<core::Row> ReadFoundRows(const core::Session& session, const SearchFilter& filter,
+                                     const std::vector<FoundRow>& rows);
+
 // Runs the search. The tag of a row is the client's id; dates and numbers carry sort keys. The text
 // goes into the statement as typed, so one with a quote makes it fail: a statement that fails gives
 // an empty list. Refused where groups are to be selected and none is.

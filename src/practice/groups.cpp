@@ -135,6 +135,23 @@ std::optional<core::Refusal> CheckDeleteGroup(const core::Session& session) {
                        core::MessageIcon::Information, "groupList"};
 }
 
+std::string DeleteGroupQuestion(const core::Session& session, std::int32_t groupId) {
+  const std::string id = WholeText(groupId);
+  const auto read = [&session](const std::string& statement) -> std::string {
+    const core::Result row = session.StoreConnection.Query(statement);
+    return row.AtEnd() ? "" : row.Text("shown");
+  };
+  const std::string name = read("Select groupname as shown from group_master where id = " + id);
+  const std::string clients =
+      read("Select count(id) as shown from client_master where groupid = " + id);
+  const std::string remedies = read(
+      "Select count(cr.id) as shown from client_remedy cr, client_master cm where "
+      "cr.clientid = cm.id and cm.groupid = " +
+      id);
+  return std::string(kDeleteGroupQuestion) + "\n\n" + name + " (clients: " + clients +
+         ", remedies: " + remedies + ")";
+}
+
 std::optional<std::string> OpenEditGroup(core::Session& session, std::int32_t groupId) {
   const core::Result group = session.StoreConnection.Query(
       "Select groupname from group_master where id = " + WholeText(groupId));

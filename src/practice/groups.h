@@ -14,6 +14,10 @@ namespace orvex::practice {
 inline constexpr const char* kDeleteGroupQuestion =
     "Are you sure you want to delete the selected Group and all Clients under it?";
 
+// The question before a group is deleted; below it the group's name and how many clients and
+// remedies go with it.
+std::string DeleteGroupQuestion(const core::Session& session, std::int32_t groupId);
+
 // What the lists and the status panel show without groups.
 inline constexpr const char* kNoGroups = "No Groups Found";
 inline constexpr const char* kNoGroupsStatus =

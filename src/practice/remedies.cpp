@@ -142,6 +142,14 @@ core::SaveResult SaveRemedyChanges(core::Session& session, const RemedyForm& for
   });
 }
 
+std::string DeleteRemedyQuestion(const core::Session& session, std::int32_t remedyId) {
+  const core::Result client = session.StoreConnection.Query(
+      "Select cm.fullname from client_master cm, client_remedy cr where cm.id = cr.clientid and "
+      "cr.id = " +
+      WholeText(remedyId));
+  return kDeleteRemedyQuestion + (client.AtEnd() ? "" : "\n\n" + client.Text("fullname"));
+}
+
 core::SaveResult DeleteRemedy(core::Session& session, std::int32_t remedyId) {
   if (!Exists(session, "client_remedy", remedyId)) {
     return {0, core::Refusal{kNoRecord, core::MessageIcon::Stop, ""}};

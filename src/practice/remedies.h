@@ -15,6 +15,9 @@ namespace orvex::practice {
 inline constexpr const char* kDeleteRemedyQuestion =
     "Are you sure you want to delete the selected Remedy?";
 
+// The question before a remedy is deleted, with the name of its client below it.
+std::string DeleteRemedyQuestion(const core::Session& session, std::int32_t remedyId);
+
 enum class RemedyColumn { Problem, Solution, ForPlanet, RemedyDate };
 
 // The caption of the manager's remedy list: for a client, for a list without clients, and while a

@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <functional>
@@ -10,12 +11,14 @@
 #include "chart/chart_moment.h"
 #include "chart/client_saving.h"
 #include "chart/instant_chart.h"
+#include "core/exact_numbers.h"
 #include "practice/birthdays.h"
 #include "practice/cities.h"
 #include "practice/client_csv.h"
 #include "practice/client_import.h"
 #include "practice/client_list.h"
 #include "practice/client_search.h"
+#include "practice/deleted_client.h"
 #include "practice/export_list.h"
 #include "practice/groups.h"
 #include "practice/remedies.h"
@@ -23,6 +26,8 @@
 
 namespace orvex::practice {
 namespace {
+
+using Strings = std::vector<std::string>;
 
 class Records : public testing::Test {
  protected:
@@ -52,6 +57,19 @@ class Records : public testing::Test {
     return names;
   }
 
+  // The same, with the cells read afterwards and the last row first.
+  Strings NamesReadLate(const SearchFilter& filter) const {
+    std::vector<FoundRow> found = FindRows(*session_, filter).Rows;
+    std::reverse(found.begin(), found.end());
+    Strings names;
+    for (const core::Row& row : ReadFoundRows(*session_, filter, found)) {
+      EXPECT_EQ(row.Tag, core::PaddedWhole(found.at(names.size()).ClientId, 1));
+      names.push_back(row.Cells.at(0).Text);
+    }
+    std::reverse(names.begin(), names.end());
+    return names;
+  }
+
   ImportReport Import(const std::string& text, bool dryRun = false) {
     return ImportClients(*session_, {text, 1, dryRun}, [](std::size_t, std::size_t) {});
   }
@@ -59,8 +77,6 @@ class Records : public testing::Test {
   test::TestHome home_;
   std::unique_ptr<core::Session> session_ = home_.Start();
 };
-
-using Strings = std::vector<std::string>;
 
 TEST_F(Records, EachFilterOfTheSearchNarrowsTheList) {
   Add("B", "1990-07-05 14:30", [](auto& f) { f.Comments = "knee; 50% better"; });
@@ -98,6 +114,7 @@ TEST_F(Records, EachFilterOfTheSearchNarrowsTheList) {
       {{}, {.GroupIds = std::vector<std::int32_t>{2}}}};
   for (const auto& [names, filter] : cases) {
     EXPECT_EQ(Names(filter), names) << filter.Text << filter.Gender << filter.AscendantRashi;
+    EXPECT_EQ(NamesReadLate(filter), names) << filter.Text << filter.Gender;
   }
   EXPECT_EQ(Count("client_master"), 3);
   const SearchResult all = SearchClients(*session_, {});
@@ -109,6 +126,31 @@ TEST_F(Records, EachFilterOfTheSearchNarrowsTheList) {
   const SearchResult refused = SearchClients(*session_, {.GroupIds = std::vector<std::int32_t>{}});
   EXPECT_EQ(refused.Refused->Text, "You need to select at least one Group from the list.");
   EXPECT_EQ(refused.ResultLine, "Search Result(s):");
+}
+
+TEST_F(Records, ADeletedClientComesBackWithItsGroupOrToTheOneOfThatName) {
+  const auto group = [this](std::int32_t client) {
+    return PlaceOfClient(*session_, client).GroupName;
+  };
+  const std::int32_t id = Add("A");
+  const std::int32_t family = AddGroup(*session_, "Family").Id;
+  MoveClient(*session_, id, family);
+  const std::optional<KeptClient> kept = KeepClient(*session_, id);
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(BringBack(*session_, *kept).Refused->Text, "This client is stored already.");
+  DeleteClient(*session_, id);
+  DeleteGroup(*session_, family);
+  EXPECT_EQ(BringBack(*session_, *kept).Id, id);
+  EXPECT_EQ(group(id), "Family");
+  EXPECT_EQ(PlaceOfClient(*session_, id).GroupId, family);
+
+  DeleteGroup(*session_, family);
+  EXPECT_FALSE(KeepClient(*session_, id));
+  const std::int32_t again = AddGroup(*session_, "family").Id;
+  EXPECT_EQ(BringBack(*session_, *kept).Id, id);
+  EXPECT_EQ(PlaceOfClient(*session_, id).GroupId, again);
+  EXPECT_EQ(Count("group_master"), 2);
+  EXPECT_EQ(Count("client_planets"), 9);
 }
 
 TEST_F(Records, RemediesAreFoundByTheirOwnFilters) {
