@@ -2,6 +2,7 @@
 
 #include <swephexp.h>
 
+#include "astro/sidereal.h"
 #include "core/text.h"
 
 namespace orvex::astro {
@@ -9,6 +10,8 @@ namespace orvex::astro {
 namespace {
 
 constexpr int kHouseSystem = 'P';
+// Its first cusp is the Ascendant too, and it needs no search for the others.
+constexpr int kEqualHouses = 'E';
 constexpr std::size_t kLongestName = 10;
 
 // What the library writes for a position: longitude, latitude, distance and their speeds.
@@ -35,6 +38,8 @@ EphemerisMoment EphemerisGateway::PrepareMoment(core::DateTime momentUt) {
   moment.JulianDayET.Days = moment.JulianDayUT.Days + swe_deltat(moment.JulianDayUT.Days);
   return moment;
 }
+
+void SetSiderealMode(int ayanamsa) { swe_set_sid_mode(ayanamsa, 0, 0); }
 
 Position EphemerisGateway::CalcUt(JulianDayUt day, int planet, int flags) {
   SixNumbers numbers{};
@@ -69,6 +74,21 @@ Cusps EphemerisGateway::SiderealHouses(JulianDayUt day, double latitude, double 
   swe_houses_ex(day.Days, SEFLG_SIDEREAL, latitude, longitude, kHouseSystem, cusps.data(),
                 angles.data());
   return cusps;
+}
+
+double SiderealAscendant(JulianDayUt day, double latitude, double longitude) {
+  Cusps cusps{};
+  std::array<double, 10> angles{};
+  swe_houses_ex(day.Days, SEFLG_SIDEREAL, latitude, longitude, kEqualHouses, cusps.data(),
+                angles.data());
+  return cusps[1];
+}
+
+double Ayanamsa(JulianDayUt day) {
+  double ayanamsa = 0;
+  char error[AS_MAXCH];
+  swe_get_ayanamsa_ex_ut(day.Days, SEFLG_SWIEPH, &ayanamsa, error);
+  return ayanamsa;
 }
 
 Cusps EphemerisGateway::TropicalHouses(double armc, double latitude, double obliquity) const {

@@ -8,6 +8,7 @@
 #include "chart/house_placement.h"
 #include "chart/zodiac_lookups.h"
 #include "core/exact_numbers.h"
+#include "core/settings.h"
 #include "core/text.h"
 
 namespace orvex::chart {
@@ -136,8 +137,8 @@ std::vector<PlanetRow> PlanetsAt(core::Session& session, astro::JulianDayUt day,
 }
 
 ChartResult ComputeChart(core::Session& session, const ChartInput& input) {
-  const core::DateTime momentUt =
-      ChartMomentUt(input.Birth, input.Offset, input.Longitude, input.CityOffset);
+  const core::DateTime momentUt = ChosenMomentUt(core::BirthMomentOf(session), input.Birth,
+                                                 input.Offset, input.Longitude, input.CityOffset);
   const astro::EphemerisMoment moment = session.Ephemeris.PrepareMoment(momentUt);
   std::vector<PlanetRow> planets = ComputePlanets(session, moment);
   return Assemble(session, moment, CuspDegrees(session, moment, input), std::move(planets));

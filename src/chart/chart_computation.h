@@ -51,9 +51,9 @@ struct ChartInput {
   std::string AscendantDegree;  // 0 to 360, for ByHand
 };
 
-// The chart of a birth or query. Nothing inside is checked: std::invalid_argument for texts that
-// are no numbers, LookupError for a horary number or a degree without a row, core::DateRangeError
-// for a moment outside the years 100 to 9999.
+// The chart of a birth or query, its moment by the choice of the settings. Nothing inside is
+// checked: std::invalid_argument for texts that are no numbers, LookupError for a horary number or
+// a degree without a row, core::DateRangeError for a moment outside the years 100 to 9999.
 ChartResult ComputeChart(core::Session& session, const ChartInput& input);
 
 // The same for a moment in UT that is known already, with computed Ascendant.

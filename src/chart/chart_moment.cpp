@@ -35,6 +35,12 @@ core::DateTime ChartMomentUt(core::DateTime local, const std::string& offset,
   return AddMinutes(local, HasMinus(longitude) ? m - k : m + k);
 }
 
+core::DateTime ChosenMomentUt(char birthMoment, core::DateTime local, const std::string& offset,
+                              const std::string& longitude, double cityOffset) {
+  return birthMoment == 'C' ? PlainMomentUt(local, core::ToSingle(offset))
+                            : ChartMomentUt(local, offset, longitude, cityOffset);
+}
+
 core::DateTime InstantMomentUt(core::DateTime local, float offset, float longitude) {
   const float m = offset * kMinutesOfHour;
   if (m == 0) {

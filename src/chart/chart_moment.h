@@ -15,6 +15,11 @@ namespace orvex::chart {
 core::DateTime ChartMomentUt(core::DateTime local, const std::string& offset,
                              const std::string& longitude, double cityOffset);
 
+// The same by the choice of the settings: 'C' takes the clock's offset on both sides of Greenwich,
+// anything else is as above.
+core::DateTime ChosenMomentUt(char birthMoment, core::DateTime local, const std::string& offset,
+                              const std::string& longitude, double cityOffset);
+
 // The UT moment of an instant chart. It differs from a birth's on the negative side: the minutes
 // are added without their sign.
 core::DateTime InstantMomentUt(core::DateTime local, float offset, float longitude);

@@ -3,6 +3,7 @@
 #include "chart/chart_moment.h"
 #include "chart/client_saving.h"
 #include "core/exact_numbers.h"
+#include "core/settings.h"
 
 namespace orvex::chart {
 
@@ -30,9 +31,13 @@ core::SaveResult CreateInstantChart(core::Session& session) {
   }
   try {
     const core::DateTime now = session.Time.Now();
-    const ChartResult chart = ComputeChartAt(
-        session, InstantMomentUt(now, state.UserCityOffset, state.UserCityLongitude),
-        static_cast<double>(state.UserCityLatitude), static_cast<double>(state.UserCityLongitude));
+    const core::DateTime momentUt =
+        core::BirthMomentOf(session) == 'C'
+            ? PlainMomentUt(now, state.UserCityOffset)
+            : InstantMomentUt(now, state.UserCityOffset, state.UserCityLongitude);
+    const ChartResult chart =
+        ComputeChartAt(session, momentUt, static_cast<double>(state.UserCityLatitude),
+                       static_cast<double>(state.UserCityLongitude));
     return {InsertClient(session, {InstantForm(state, now), state.InstantChartGroupId, chart}),
             std::nullopt};
   } catch (const std::exception&) {

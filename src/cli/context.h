@@ -99,6 +99,7 @@ void AddSettingsCommands(Command app, Context& context);    // settings
 void AddSkyCommands(Command app, Context& context);         // sky, hora
 void AddReportCommands(Command app, Context& context);      // report
 void AddDivisionalCommands(Command app, Context& context);  // divisional
+void AddExactCommands(Command app, Context& context);       // exact, crossings
 void AddTransitCommands(Command app, Context& context);     // grid, transit, find
 
 }  // namespace orvex::cli

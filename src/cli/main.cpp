@@ -63,6 +63,7 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddReportCommands(commands, context);
   orvex::cli::AddPlanetCommands(commands, context);
   orvex::cli::AddRemedyCommands(commands, context);
+  orvex::cli::AddExactCommands(commands, context);
   orvex::cli::AddTransitCommands(commands, context);
   orvex::cli::AddSearchCommands(commands, context);
   orvex::cli::AddExportCommands(commands, context);

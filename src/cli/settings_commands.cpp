@@ -50,6 +50,8 @@ std::vector<Setting> AllSettings() {
       Choice("RahuKetuCalculation", &SettingsForm::RahuKetuCalculation, core::kNodeChoices),
       Choice("DefaultChartType", &SettingsForm::DefaultChartType, core::kChartTypeChoices),
       Choice("StatusBarDegreeCalc", &SettingsForm::StatusBarDegreeCalc, core::kDegreeChoices),
+      Choice("ExactAyanamsa", &SettingsForm::ExactAyanamsa, core::kAyanamsaChoices),
+      Choice("BirthMoment", &SettingsForm::BirthMoment, core::kBirthMomentChoices),
       Text("chartpath", &SettingsForm::ChartPath),
       Text("AstrologerName", &SettingsForm::AstrologerName),
       Text("AstrologerOrganization", &SettingsForm::AstrologerOrganization),

@@ -6,6 +6,7 @@
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "practice/cities.h"
+#include "transit/changes.h"
 #include "transit/find_transit.h"
 #include "transit/monthly_grid.h"
 #include "transit/transit_calendar.h"
@@ -95,17 +96,20 @@ void RunGrid(Context& context, const TransitOptions& options) {
   if (!options.SvgFile.empty()) {
     WriteGraph(session, options.SvgFile, grid);
   }
+  const core::Table changes = transit::ChangesOfMonth(session, month, year, view.ZoneHours);
   if (context.Json) {
     PrintJson({{"captions",
                 {{"Title", grid.Title},
                  {"Next", grid.Next.Caption},
                  {"Previous", grid.Previous.Caption},
                  {"Month", grid.MonthLabel}}},
-               {"tables", {{"Grid", TableJson(grid.Grid)}}}});
+               {"tables", {{"Grid", TableJson(grid.Grid)}, {"Changes", TableJson(changes)}}}});
     return;
   }
   std::cout << grid.Title << "\n" << grid.MonthLabel << "\n";
   PrintTable(grid.Grid);
+  std::cout << "\n";
+  PrintTable(changes);
 }
 
 void RunMinutes(Context& context, transit::Planet planet, const transit::TransitDetails& details,
@@ -138,11 +142,14 @@ void RunTransit(Context& context, const TransitOptions& options) {
                 {{"Title", details.Title},
                  {"Previous", details.PreviousDay.Caption},
                  {"Next", details.NextDay.Caption}}},
-               {"tables", {{"Hours", TableJson(details.Hours)}}}});
+               {"tables",
+                {{"Hours", TableJson(details.Hours)}, {"Changes", TableJson(details.Changes)}}}});
     return;
   }
   std::cout << details.Title << "\n";
   PrintTable(details.Hours);
+  std::cout << "\n";
+  PrintTable(details.Changes);
 }
 
 // The name as the reference tables write it; the text itself where they have none of that name.

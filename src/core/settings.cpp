@@ -98,6 +98,8 @@ std::string UpdateStatement(const SettingsForm& form, std::int32_t cityId) {
   }
   values.emplace_back("SortByField", StoredCode(kSortChoices, form.SortBy, "CLN"));
   values.emplace_back("ICGroupID", WholeText(form.InstantChartGroupId));
+  values.emplace_back("ExactAyanamsa", StoredCode(kAyanamsaChoices, form.ExactAyanamsa, "kp"));
+  values.emplace_back("BirthMoment", StoredCode(kBirthMomentChoices, form.BirthMoment, "S"));
   std::string changes;
   for (const auto& [column, value] : values) {
     changes += (changes.empty() ? "" : ", ") + column + " = " + value;
@@ -111,7 +113,7 @@ const SettingChoice* FindChoice(std::span<const SettingChoice> choices,
                                 std::string_view codeOrText) {
   const std::string wanted = UpperCase(codeOrText);
   const auto found = std::find_if(choices.begin(), choices.end(), [&](const SettingChoice& choice) {
-    return wanted == choice.Code || wanted == UpperCase(choice.Text);
+    return wanted == UpperCase(choice.Code) || wanted == UpperCase(choice.Text);
   });
   return found == choices.end() ? nullptr : &*found;
 }
@@ -125,6 +127,8 @@ SettingsForm OpenSettings(const Session& session) {
   form.StatusBarDegreeCalc = ShownText(kDegreeChoices, row.Text("StatusBarDegreeCalc"));
   const SettingChoice* sort = FindChoice(kSortChoices, row.Text("SortByField"));
   form.SortBy = sort == nullptr ? ShownText(kSortChoices, "CLN") : sort->Text;
+  form.ExactAyanamsa = ShownText(kAyanamsaChoices, row.Text("ExactAyanamsa"));
+  form.BirthMoment = ShownText(kBirthMomentChoices, row.Text("BirthMoment"));
   form.ChartPath = row.Text("chartpath");
   form.UserCityId = state.UserCityId;
   form.UserCityName = state.UserCityName;
@@ -164,6 +168,34 @@ std::array<std::string, kAspectCount> DefaultOrbs() {
   std::transform(kAspects.begin(), kAspects.end(), orbs.begin(),
                  [](const AspectBand& band) { return WholeText(band.DefaultOrb); });
   return orbs;
+}
+
+namespace {
+
+// A column of the settings row; "" also where a store of an old release, opened only to read, has
+// none of that name.
+std::string SettingText(const Session& session, const std::string& column) {
+  const Result row = session.StoreConnection.Query("Select Top 1 * from settings");
+  const std::vector<std::string> fields = row.FieldNames();
+  return std::find(fields.begin(), fields.end(), column) == fields.end() ? "" : row.Text(column);
+}
+
+}  // namespace
+
+std::string ExactAyanamsaOf(const Session& session) {
+  return SettingText(session, "ExactAyanamsa") == "kp-new" ? "kp-new" : "kp";
+}
+
+char BirthMomentOf(const Session& session) {
+  return SettingText(session, "BirthMoment") == "C" ? 'C' : 'S';
+}
+
+SaveResult SaveExactAyanamsa(Session& session, const std::string& code) {
+  return WriteBatch(session, [&code](Store& store) {
+    store.Execute("Update settings set ExactAyanamsa = " +
+                  StoredCode(kAyanamsaChoices, code, "kp"));
+    return 0;
+  });
 }
 
 SaveResult SaveSettings(Session& session, const SettingsForm& form) {

@@ -31,6 +31,10 @@ inline constexpr std::array<SettingChoice, 2> kNodeChoices = {{{"M", "Mean"}, {"
 inline constexpr std::array<SettingChoice, 3> kChartTypeChoices = {{
     {"N", "North Indian"}, {"E", "East Indian"}, {"S", "South Indian"}}};
 inline constexpr std::array<SettingChoice, 2> kDegreeChoices = {{{"A", "Actual"}, {"R", "Rashi"}}};
+inline constexpr std::array<SettingChoice, 2> kAyanamsaChoices = {{
+    {"kp", "KP"}, {"kp-new", "KP new"}}};
+inline constexpr std::array<SettingChoice, 2> kBirthMomentChoices = {{
+    {"S", "Local mean time"}, {"C", "Clock time"}}};
 inline constexpr std::array<SettingChoice, 6> kSortChoices = {{
     {"BHD", "Birth/Horary Date"}, {"CTY", "City"},  {"CLN", "Client Name"},
     {"CRD", "Created Date"},      {"EML", "Email"}, {"MBL", "Mobile No."}}};
@@ -46,6 +50,8 @@ struct SettingsForm {
   std::string DefaultChartType;
   std::string StatusBarDegreeCalc;
   std::string SortBy;
+  std::string ExactAyanamsa;
+  std::string BirthMoment;
   std::string ChartPath;                       // empty: the default folder
   std::int32_t UserCityId = 0;                 // 0: the present city is kept
   std::string UserCityName;                    // shown beside the field
@@ -67,6 +73,15 @@ std::string OrbCaption(std::size_t aspect, const std::string& typed);
 
 // The default orbs, as the reset writes them into the fields.
 std::array<std::string, kAspectCount> DefaultOrbs();
+
+// The ayanamsa of the reading to the second, "kp" or "kp-new".
+std::string ExactAyanamsaOf(const Session& session);
+
+// What a chart west of Greenwich takes: 'S' local mean time, 'C' the clock's time.
+char BirthMomentOf(const Session& session);
+
+// Keeps the ayanamsa of the reading to the second, "kp" or "kp-new".
+SaveResult SaveExactAyanamsa(Session& session, const std::string& code);
 
 // Saves the form and takes it into the state. The first failed check is refused with its page and
 // field; fields are named after their columns. An unknown sort text is stored as "CLN".

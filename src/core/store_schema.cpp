@@ -26,7 +26,7 @@ struct NewColumn {
 };
 
 // clang-format off
-constexpr std::array<NewColumn, 16> kNewColumns = {{
+constexpr std::array<NewColumn, 18> kNewColumns = {{
     {"settings",      "StatusBarDegreeCalc",      "text(1)"},
     {"settings",      "AstrologerName",           "text(50)"},
     {"settings",      "AstrologerOrganization",   "text(50)"},
@@ -41,6 +41,8 @@ constexpr std::array<NewColumn, 16> kNewColumns = {{
     {"settings",      "Orbit_135",                "integer"},
     {"settings",      "Orbit_150",                "integer"},
     {"settings",      "Orbit_180",                "integer"},
+    {"settings",      "ExactAyanamsa",            "text(6)"},
+    {"settings",      "BirthMoment",              "text(1)"},
     {"client_master", "HoraryQuestion",           "text(100)"},
     {"client_master", "AscDegreeType",            "text(1)"},
 }};

@@ -87,8 +87,10 @@ std::string ClientText(const chart::HoroscopeModel& model, const std::string& co
   return "";
 }
 
-chart::ChartInput InputOf(const core::Session& session, const chart::HoroscopeModel& model,
-                          const RecalculationForm& form) {
+}  // namespace
+
+chart::ChartInput ChartInputOf(const core::Session& session, const chart::HoroscopeModel& model,
+                               const RecalculationForm& form) {
   chart::ChartInput input{ShiftedBirth(model.Birth, form.Shift), form.Offset, form.Latitude,
                           form.Longitude};
   const auto cityId = core::ParseWhole(ClientText(model, "cityid")).value_or(0);
@@ -103,8 +105,6 @@ chart::ChartInput InputOf(const core::Session& session, const chart::HoroscopeMo
   }
   return input;
 }
-
-}  // namespace
 
 RecalculationForm OpenRecalculation(const chart::HoroscopeModel& model) {
   return {model.Offset, model.Latitude, model.Longitude, {}};
@@ -125,7 +125,7 @@ Recalculation Recalculate(core::Session& session, const chart::HoroscopeModel& m
     return result;
   }
   try {
-    const chart::ChartInput input = InputOf(session, model, form);
+    const chart::ChartInput input = ChartInputOf(session, model, form);
     const chart::ChartResult chart = chart::ComputeChart(session, input);
     result.Birth = input.Birth;
     result.Cusps = CuspTable(session.Reference, chart);

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "chart/chart_computation.h"
 #include "chart/horoscope_model.h"
 #include "core/save_result.h"
 #include "core/session.h"
@@ -52,6 +53,11 @@ RecalculationForm OpenRecalculation(const chart::HoroscopeModel& model);
 
 // A birth time moved by a shift. core::DateRangeError outside the years 100 to 9999.
 core::DateTime ShiftedBirth(core::DateTime birth, const BirthShift& shift);
+
+// The client's chart as it would be computed and stored for a form: kind of Ascendant, city's
+// offset. std::invalid_argument for a horary chart without a number.
+chart::ChartInput ChartInputOf(const core::Session& session, const chart::HoroscopeModel& model,
+                               const RecalculationForm& form);
 
 // Computes the chart with the client's kind of Ascendant. Seconds of the moved time are dropped in
 // the computation, so a step of seconds shows when the minute changes.

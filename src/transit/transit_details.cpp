@@ -2,6 +2,7 @@
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "transit/changes.h"
 #include "transit/hour_table.h"
 #include "transit/monthly_grid.h"
 
@@ -22,6 +23,8 @@ TransitDetails GetTransitForPlanet(core::Session& session, Planet planet, core::
   TransitDetails view;
   view.Hours = BuildHourTable(session, planet, date, session.State.UserCityOffset, "Hour");
   const std::string name = PlanetName(planet);
+  view.Changes = BuildChanges(session, {exact::PointOfName(name).value()}, date,
+                              date + std::chrono::days(1), session.State.UserCityOffset);
   view.Title = "Transit Details for " + name + " (" + core::LongDateText(date, false) + ", " +
                core::WeekdayName(date) + ")";
   view.Tag = core::PaddedWhole(static_cast<int>(planet), 1) + "*" + name + "*" +

@@ -15,6 +15,7 @@ struct TransitDetails {
   std::string Title;
   std::string Tag;  // number "*" name "*" date in the stored form
   core::Table Hours;
+  core::Table Changes;  // of that planet on that date, columns of ChangeColumn
   DayButton PreviousDay;
   DayButton NextDay;
   bool TodayLink = false;  // the way back to today is shown
