@@ -23,6 +23,43 @@ std::string HalfText(const std::string& degrees, const char* positive, const cha
   return core::TwoDecimals(value < 0 ? -value : value) + " " + (value < 0 ? negative : positive);
 }
 
+constexpr const char* kCities =
+    "Select cm.*, tm.countrycode from city_master cm, timezone_master tm "
+    "where cm.timezone = tm.timezone";
+
+FoundCity CityOfRow(const core::Result& row) {
+  FoundCity city;
+  city.Id = static_cast<std::int32_t>(row.Integer("id"));
+  city.Name = row.Text("cityname");
+  city.Country = row.Text("countrycode");
+  city.Zone = row.Text("timezone");
+  city.Latitude = row.Text("latitude");
+  city.Longitude = row.Text("longitude");
+  city.Offset = row.Text("offset");
+  return city;
+}
+
+// Regions and other names. A row of the gazetteer is the city whose id is its number, unless that
+// was renamed.
+void ReadGazetteer(const std::filesystem::path& shippedData, std::vector<FoundCity>& cities,
+                   std::vector<std::string>& otherNames) {
+  try {
+    core::TsvTable table = core::ReadTsv(shippedData / "city_master.tsv");
+    const std::size_t name = table.ColumnOf("cityname");
+    const std::size_t region = table.ColumnOf("region");
+    const std::size_t others = table.ColumnOf("othernames");
+    for (std::size_t city = 0; city < cities.size(); ++city) {
+      const auto row = static_cast<std::size_t>(cities[city].Id) - 1;
+      if (row < table.Rows.size() && table.Rows[row][name] == cities[city].Name) {
+        cities[city].Region = std::move(table.Rows[row][region]);
+        otherNames[city] = std::move(table.Rows[row][others]);
+      }
+    }
+  } catch (const std::runtime_error&) {
+    return;  // cities are found by their own names then
+  }
+}
+
 }  // namespace
 
 // How well a city fits: the smaller the better.
@@ -45,10 +82,30 @@ std::string CoordinatesText(const FoundCity& city) {
   return HalfText(city.Latitude, "N", "S") + " " + HalfText(city.Longitude, "E", "W");
 }
 
+FoundCity CityOf(const core::Session& session, const std::filesystem::path& shippedData,
+                 std::int32_t id) {
+  const core::Result row = session.StoreConnection.Query(
+      std::string(kCities) + " and cm.id = " + core::PaddedWhole(id, 1));
+  if (row.AtEnd()) {
+    return {};
+  }
+  std::vector<FoundCity> city = {CityOfRow(row)};
+  const core::Result same = session.StoreConnection.Query(
+      "Select count(cm.id) as cnt from city_master cm, timezone_master tm "
+      "where cm.timezone = tm.timezone and cm.cityname = " +
+      core::Quoted(city.front().Name) +
+      " and tm.countrycode = " + core::Quoted(city.front().Country));
+  if (same.Integer("cnt") > 1) {
+    std::vector<std::string> otherNames(1);
+    ReadGazetteer(shippedData, city, otherNames);
+  }
+  return city.front();
+}
+
 CitySearch::CitySearch(const core::Session& session, const std::filesystem::path& shippedData) {
   ReadCities(session);
   CountClients(session);
-  ReadGazetteer(shippedData);
+  ReadGazetteer(shippedData, cities_, others_);
   MarkRepeatedNames();
   for (std::size_t city = 0; city < cities_.size(); ++city) {
     AddEntry(city, cities_[city].Name, false);
@@ -63,19 +120,9 @@ CitySearch::CitySearch(const core::Session& session, const std::filesystem::path
 }
 
 void CitySearch::ReadCities(const core::Session& session) {
-  core::Result row = session.StoreConnection.Query(
-      "Select cm.*, tm.countrycode from city_master cm, timezone_master tm "
-      "where cm.timezone = tm.timezone order by cm.id");
+  core::Result row = session.StoreConnection.Query(std::string(kCities) + " order by cm.id");
   for (; !row.AtEnd(); row.Next()) {
-    FoundCity city;
-    city.Id = static_cast<std::int32_t>(row.Integer("id"));
-    city.Name = row.Text("cityname");
-    city.Country = row.Text("countrycode");
-    city.Zone = row.Text("timezone");
-    city.Latitude = row.Text("latitude");
-    city.Longitude = row.Text("longitude");
-    city.Offset = row.Text("offset");
-    cities_.push_back(std::move(city));
+    cities_.push_back(CityOfRow(row));
   }
   others_.resize(cities_.size());
 }
@@ -89,25 +136,6 @@ void CitySearch::CountClients(const core::Session& session) {
   for (FoundCity& city : cities_) {
     const auto found = clients.find(city.Id);
     city.Clients = found == clients.end() ? 0 : found->second;
-  }
-}
-
-// A row of the gazetteer is the city whose id is its number, unless that was renamed.
-void CitySearch::ReadGazetteer(const std::filesystem::path& shippedData) {
-  try {
-    core::TsvTable table = core::ReadTsv(shippedData / "city_master.tsv");
-    const std::size_t name = table.ColumnOf("cityname");
-    const std::size_t region = table.ColumnOf("region");
-    const std::size_t others = table.ColumnOf("othernames");
-    for (std::size_t city = 0; city < cities_.size(); ++city) {
-      const auto row = static_cast<std::size_t>(cities_[city].Id) - 1;
-      if (row < table.Rows.size() && table.Rows[row][name] == cities_[city].Name) {
-        cities_[city].Region = std::move(table.Rows[row][region]);
-        others_[city] = std::move(table.Rows[row][others]);
-      }
-    }
-  } catch (const std::runtime_error&) {
-    return;  // cities are found by their own names then
   }
 }
 

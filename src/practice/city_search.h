@@ -29,6 +29,11 @@ std::string CityText(const FoundCity& city);
 // "18.52 N 73.86 E", to hundredths of a degree.
 std::string CoordinatesText(const FoundCity& city);
 
+// A city by its id as the search tells it, without its clients; an empty one, with the id 0, where
+// there is none. Takes no time but where others of its country have its name.
+FoundCity CityOf(const core::Session& session, const std::filesystem::path& shippedData,
+                 std::int32_t id);
+
 class CitySearch {
  public:
   struct Result {
@@ -62,7 +67,6 @@ class CitySearch {
 
   void ReadCities(const core::Session& session);
   void CountClients(const core::Session& session);
-  void ReadGazetteer(const std::filesystem::path& shippedData);
   void MarkRepeatedNames();
   void AddEntry(std::size_t city, const std::string& name, bool isOther);
   bool FollowsIn(const Entry& entry, std::size_t from, const std::vector<std::string>& words) const;

@@ -88,10 +88,13 @@ TEST_F(CitySearchTest, NamesThatRepeatInACountryCarryTheirRegion) {
   for (const FoundCity& city : search.Find("aurangabad", 20).Best) {
     told = told || (!city.Region.empty() &&
                     CityText(city) == city.Name + ", " + city.Region + ", " + city.Country);
+    EXPECT_EQ(CityText(CityOf(*session_, test::DataFolder(), city.Id)), CityText(city));
   }
   EXPECT_TRUE(told);
   EXPECT_EQ(search.Of(19).Region, "");
   EXPECT_EQ(search.Of(0).Id, 0);
+  EXPECT_EQ(CityText(CityOf(*session_, test::DataFolder(), 19)), "Dubai, AE");
+  EXPECT_EQ(CityOf(*session_, test::DataFolder(), 0).Id, 0);
   EXPECT_EQ(search.Of(19).Name, "Dubai");
   EXPECT_EQ(CoordinatesText(search.Of(19)), "25.08 N 55.31 E");
 }

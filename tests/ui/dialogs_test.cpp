@@ -1,16 +1,15 @@
-#include <QCheckBox>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTabBar>
 #include <chrono>
+#include <functional>
 #include <memory>
 
+#include "chart/client_saving.h"
 #include "core/cell_colors.h"
 #include "practice/groups.h"
 #include "support/ui_desk.h"
@@ -18,7 +17,6 @@
 #include "ui/dialogs/cities_dialog.h"
 #include "ui/dialogs/city_dialog.h"
 #include "ui/dialogs/city_list.h"
-#include "ui/dialogs/client_dialog.h"
 #include "ui/dialogs/group_dialog.h"
 #include "ui/dialogs/move_dialog.h"
 #include "ui/dialogs/pick_city_dialog.h"
@@ -37,152 +35,7 @@ class DialogTest : public test::DeskTest {
     form.Birth = test::Moment("1990-07-05 14:30:00");
     return chart::SaveNewClient(*session_, form, 1).Id;
   }
-
-  static bool IsRed(QWidget& dialog, const char* field) {
-    return Find<QLineEdit>(dialog, field).palette().color(QPalette::Text) == Theme::Red();
-  }
-
-  static void SetMoment(QWidget& dialog, const std::string& moment) {
-    Find<QDateTimeEdit>(dialog, "birth").setDateTime(ToField(test::Moment(moment)));
-  }
 };
-
-TEST_F(DialogTest, AClientIsAddedWithKeysAloneAndItsRefusalsGoToTheirFields) {
-  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place_, 1));
-  Show(*dialog);
-  EXPECT_EQ(dialog->windowTitle(), "Add Client");
-  EXPECT_EQ(FocusName(*dialog), "fullName");
-
-  messages_.Await("Client Name is a mandatory field.");
-  QTest::keyClick(dialog.get(), Qt::Key_Return);
-  EXPECT_EQ(FocusName(*dialog), "fullName");
-
-  Type(*dialog, "fullName", "O'Brien");
-  Type(*dialog, "offset", "28");
-  messages_.Await("Incorrect Offset Value entered.");
-  QTest::keyClick(dialog.get(), Qt::Key_Return);
-  EXPECT_EQ(FocusName(*dialog), "offset");
-  EXPECT_TRUE(IsRed(*dialog, "offset"));
-
-  Type(*dialog, "offset", "4");
-  EXPECT_FALSE(IsRed(*dialog, "offset"));
-  QTest::keyClick(dialog.get(), Qt::Key_Return);
-  ASSERT_NE(dialog->SavedId(), 0);
-  EXPECT_FALSE(dialog->isVisible());
-  EXPECT_EQ(Stored("Select * from client_master", "fullname"), "O'Brien");
-  EXPECT_EQ(Stored("Select * from client_master", "cityid"), "19");
-}
-
-TEST_F(DialogTest, TheCityIsForgottenWhenTheListIsNarrowedAndClearedWithItsView) {
-  AddClient();
-  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place_, 1));
-  Show(*dialog);
-  Type(*dialog, "fullName", "Ravi");
-  Type(*dialog, "citySearch", "mumb");
-  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "0");
-  EXPECT_FALSE(Find<QLineEdit>(*dialog, "offset").isEnabled());
-  EXPECT_EQ(Find<QLineEdit>(*dialog, "latitude").text(), "");
-  messages_.Await("Please select a City from the list.");
-  Press(*dialog, "action");
-  EXPECT_EQ(FocusName(*dialog), "cityList");
-
-  ClickRow(Find<TableView>(*dialog, "cityList"), 0);
-  EXPECT_TRUE(Find<QLineEdit>(*dialog, "offset").isEnabled());
-  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "5.5");
-
-  Find<QTabBar>(*dialog, "cityViews").setCurrentIndex(CityList::AllCities);
-  Find<QTabBar>(*dialog, "cityViews").setCurrentIndex(CityList::PreviouslyUsed);
-  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "");
-  Type(*dialog, "offset", "5.5");
-  messages_.Await("No City selected. Cannot proceed.");
-  Press(*dialog, "action");
-  EXPECT_EQ(FocusName(*dialog), "citySearch");
-}
-
-TEST_F(DialogTest, AHoraryQueryTakesTheMomentOfNowAndLeavesNoChoiceOfTheAscendant) {
-  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place_, 1));
-  Show(*dialog);
-  SetMoment(*dialog, "1990-07-05 14:30:00");
-  EXPECT_FALSE(Find<QWidget>(*dialog, "horaryNumber").isEnabled());
-  Find<QRadioButton>(*dialog, "ascendantByHand").click();
-  EXPECT_TRUE(Find<QWidget>(*dialog, "ascendantDegree").isEnabled());
-
-  Find<QCheckBox>(*dialog, "horary").click();
-  EXPECT_TRUE(Find<QRadioButton>(*dialog, "ascendantComputed").isChecked());
-  EXPECT_FALSE(Find<QWidget>(*dialog, "ascendantByHand").isEnabled());
-  EXPECT_FALSE(Find<QWidget>(*dialog, "ascendantDegree").isEnabled());
-  EXPECT_EQ(FromField(Find<QDateTimeEdit>(*dialog, "birth").dateTime()), home_.Clock.Now());
-
-  auto& number = Find<QComboBox>(*dialog, "horaryNumber");
-  EXPECT_EQ(number.currentText(), "1");
-  Press(*dialog, "random");
-  EXPECT_GE(number.currentText().toInt(), 1);
-  EXPECT_LE(number.currentText().toInt(), 249);
-  messages_.Await("Only a numeric value is accepted in this field.");
-  number.lineEdit()->selectAll();
-  QTest::keyClicks(number.lineEdit(), "x");
-  QTest::keyClicks(number.lineEdit(), "250");
-  Type(*dialog, "fullName", "Ravi");
-  messages_.Await("Please enter a value between 1 to 249.");
-  Press(*dialog, "action");
-  EXPECT_EQ(FocusName(*dialog), "horaryNumber");
-  number.setEditText("249");
-  messages_.Await("Horary Question is a mandatory field.");
-  Press(*dialog, "action");
-  Type(*dialog, "horaryQuestion", "When?");
-  Press(*dialog, "action");
-  EXPECT_EQ(Stored("Select * from client_master", "horaryno"), "249");
-}
-
-TEST_F(DialogTest, AnEditShowsInRedWhatDiffersFromTheCityAndKeepsIt) {
-  const std::int32_t id = AddClient();
-  session_->StoreConnection.Execute("Update client_master set latitude = 19.5");
-  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, id));
-  Show(*dialog);
-  EXPECT_EQ(dialog->windowTitle(), "Edit Client");
-  EXPECT_EQ(Find<QPushButton>(*dialog, "action").text(), "&Save");
-  EXPECT_TRUE(IsRed(*dialog, "latitude"));
-  EXPECT_FALSE(IsRed(*dialog, "longitude"));
-  Type(*dialog, "comments", "Moved house.");
-  Press(*dialog, "action");
-  EXPECT_EQ(Stored("Select * from client_master", "latitude"), "19.5");
-  EXPECT_EQ(Stored("Select * from client_master", "comments"), "Moved house.");
-
-  messages_.Await("The record you are trying to edit could not be retrieved.");
-  EXPECT_EQ(ClientDialog::ForEdit(place_, 99), nullptr);
-}
-
-TEST_F(DialogTest, TheOffsetOfTheClocksIsOfferedWithAWarningWhereAnHourCameTwice) {
-  const std::int32_t id = AddClient();
-  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, id));
-  Show(*dialog);
-  EXPECT_FALSE(Find<QPushButton>(*dialog, "takeOffset").isVisible());
-  SetMoment(*dialog, "1943-05-05 10:00:00");
-  auto& take = Find<QPushButton>(*dialog, "takeOffset");
-  EXPECT_TRUE(take.isVisible());
-  EXPECT_EQ(take.text(), "Use 6.5");
-  QTest::mouseClick(&take, Qt::LeftButton);
-  EXPECT_EQ(Find<QLineEdit>(*dialog, "offset").text(), "6.5");
-  EXPECT_TRUE(IsRed(*dialog, "offset"));
-  EXPECT_EQ(Find<QLabel>(*dialog, "zoneWarning").text(), "");
-  SetMoment(*dialog, "1945-10-14 23:30:00");
-  EXPECT_TRUE(Find<QLabel>(*dialog, "zoneWarning").text().startsWith("This time came twice"));
-}
-
-TEST_F(DialogTest, EscapeAndCancelWriteNothing) {
-  for (const char* how : {"escape", "cancel"}) {
-    const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place_, 1));
-    Show(*dialog);
-    Type(*dialog, "fullName", "Nobody");
-    if (std::string(how) == "escape") {
-      QTest::keyClick(dialog.get(), Qt::Key_Escape);
-    } else {
-      Press(*dialog, "cancel");
-    }
-    EXPECT_FALSE(dialog->isVisible());
-  }
-  EXPECT_EQ(Stored("Select count(id) as cnt from client_master", "cnt"), "0");
-}
 
 TEST_F(DialogTest, FiftyThousandCitiesAreNarrowedAtOnce) {
   CitiesDialog dialog(place_);
@@ -277,6 +130,68 @@ TEST_F(DialogTest, ARemedyKeepsItsTextsPlanetAndDate) {
   EXPECT_EQ(Stored("Select * from client_remedy", "problem"), "Can't sleep");
   EXPECT_EQ(Stored("Select * from client_remedy", "forplanetid"), "1");
   EXPECT_EQ(Stored("Select * from client_remedy", "remedydate"), "2026-11-24 00:00:00");
+}
+
+TEST_F(DialogTest, AnUnreadDateOfARemedyIsNotSaved) {
+  const std::unique_ptr<RemedyDialog> dialog(RemedyDialog::ForNew(place_, AddClient()));
+  Show(*dialog);
+  Type(*dialog, "problem", "Headache");
+  Type(*dialog, "remedy", "Rest");
+  Type(*dialog, "remedyDate", "31.2.2026");
+  EXPECT_EQ(Find<QLabel>(*dialog, "remedyDateEcho").text(), "There is no day 31 in February 2026.");
+  messages_.Await("There is no day 31 in February 2026.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "remedyDate");
+  EXPECT_EQ(Stored("Select count(id) as cnt from client_remedy", "cnt"), "0");
+  QTest::keyClicks(dialog->focusWidget(), "3 feb 2026");
+  Press(*dialog, "action");
+  EXPECT_EQ(Stored("Select * from client_remedy", "remedydate"), "2026-02-03 00:00:00");
+}
+
+// Escape and the window's close button ask where something was typed; Cancel never does.
+TEST_F(DialogTest, WhatWasTypedIsNotThrownAwayUnasked) {
+  const char* question = "What was typed here is not saved. Do you want to throw it away?";
+  const std::int32_t client = AddClient();
+  struct Case {
+    const char* Field;
+    std::function<QDialog*()> Make;
+  };
+  const std::vector<Case> cases = {
+      {"groupName", [this] { return new GroupDialog(place_); }},
+      {"cityName", [this] { return CityDialog::ForNew(place_); }},
+      {"problem", [this, client] { return RemedyDialog::ForNew(place_, client); }},
+      {"AstrologerName", [this] { return new SettingsDialog(place_); }},
+  };
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.Field);
+    const std::unique_ptr<QDialog> dialog(one.Make());
+    Show(*dialog);
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+
+    const std::unique_ptr<QDialog> typed(one.Make());
+    Show(*typed);
+    Type(*typed, one.Field, "Something");
+    messages_.Await(question, core::MessageAnswer::No);
+    QTest::keyClick(typed.get(), Qt::Key_Escape);
+    EXPECT_TRUE(typed->isVisible());
+    messages_.Await(question, core::MessageAnswer::No);
+    EXPECT_FALSE(typed->close());
+    messages_.Await(question, core::MessageAnswer::Yes);
+    EXPECT_TRUE(typed->close());
+    EXPECT_EQ(typed->result(), QDialog::Rejected);
+
+    const std::unique_ptr<QDialog> canceled(one.Make());
+    Show(*canceled);
+    Type(*canceled, one.Field, "Something");
+    Press(*canceled, "cancel");
+    EXPECT_FALSE(canceled->isVisible());
+  }
+  PickCityDialog pick(place_);
+  Show(pick);
+  Type(pick, "citySearch", "mumbai");
+  QTest::keyClick(&pick, Qt::Key_Escape);
+  EXPECT_FALSE(pick.isVisible());
 }
 
 TEST_F(DialogTest, SettingsAreCheckedFieldByFieldAndTakenAtOnce) {

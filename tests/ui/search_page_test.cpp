@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +15,7 @@
 #include "practice/groups.h"
 #include "practice/remedies.h"
 #include "support/ui_desk.h"
+#include "ui/base/moment_edit.h"
 #include "ui/base/open_windows.h"
 #include "ui/main/main_window.h"
 
@@ -66,7 +66,7 @@ class SearchPageTest : public test::DeskTest {
     widget.setCurrentIndex(widget.findText(text));
   }
   void SetDate(const char* field, int year, int month, int day) {
-    Find<QDateTimeEdit>(Page(), field).setDate({year, month, day});
+    Find<DateEdit>(Page(), field).SetDate(core::MakeDateTime({year, month, day}).value());
   }
   void Press(const char* button) { DeskTest::Press(Page(), button); }
   // A radio button is hit on its mark, at the left.
@@ -105,6 +105,20 @@ TEST_F(SearchPageTest, TheKeyLeadsToTheTextAndEnterSearches) {
   QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
   EXPECT_EQ(Caption("resultCaption"), "Found 0 record(s).");
   EXPECT_FALSE(IsEnabled("exportResults"));
+}
+
+TEST_F(SearchPageTest, ADateThatIsNotReadIsNotSearchedFor) {
+  Choose("dateRange", "Between");
+  Type(Page(), "dateFrom", "1.1.1900");
+  Type(Page(), "dateTo", "13/13/2000");
+  EXPECT_TRUE(IsShown("dateToEcho"));
+  messages_.Await("There is no month 13: the day comes first.");
+  Press("search");
+  EXPECT_EQ(FocusName(*window_), "dateTo");
+  EXPECT_EQ(Caption("resultCaption"), "Search Result(s):");
+  QTest::keyClicks(window_->focusWidget(), "31122000");
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(Caption("resultCaption").startsWith("Found "));
 }
 
 TEST_F(SearchPageTest, EachFilterOfTheFormReachesTheSearch) {

@@ -1,7 +1,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QDateTimeEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QTabWidget>
@@ -9,6 +8,7 @@
 #include "chart/client_saving.h"
 #include "core/cell_colors.h"
 #include "support/transit_windows.h"
+#include "ui/base/moment_edit.h"
 #include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/horoscope_window.h"
@@ -73,8 +73,8 @@ TEST_F(TransitWindowTest, ACityInAnotherZoneAndAnotherTimeStayForThePage) {
   const QString inMumbai = CellText(*page, "grid", 0, kMoonColumn);
   EXPECT_NE(inMumbai, inDubai);
   // Ten in Dubai is half past eleven in Mumbai.
-  auto& time = Find<QDateTimeEdit>(*page, "transitTime");
-  EXPECT_EQ(time.text(), "10:00 AM");
+  auto& time = Find<TimeEdit>(*page, "transitTime");
+  EXPECT_EQ(time.text(), "10:00");
   page->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
   time.setFocus(Qt::TabFocusReason);
@@ -147,14 +147,20 @@ TEST_F(TransitWindowTest, TheSkyOfTheDetailsIsThatOfThePickedInstant) {
   EXPECT_EQ(CellText(details, "panchang", 3, 0), "Hora");
   EXPECT_EQ(details.findChild<QWidget*>("skyRulingPlanets"), nullptr);
   EXPECT_EQ(CellText(details, "skyDayHoras", 0, 0), "Venus");
-  auto& picker = Find<QDateTimeEdit>(details, "picker");
-  EXPECT_EQ(picker.text(), "10:00 AM");
+  auto& picker = Find<TimeEdit>(details, "picker");
+  EXPECT_EQ(picker.text(), "10:00");
   picker.setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&picker, "0915");
   EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 10:00:00 AM");
   QTest::keyClick(&picker, Qt::Key_Return);
   EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 09:15:00 AM");
   EXPECT_TRUE(details.isVisible());
+  Type(details, "picker", "25:00");
+  QTest::keyClick(&picker, Qt::Key_Return);
+  EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 09:15:00 AM");
+  Type(details, "picker", "9.15 pm");
+  Press(details, "go");
+  EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 09:15:00 PM");
 }
 
 TEST_F(TransitWindowTest, TheHoursGoOutAsASpreadsheet) {
@@ -204,16 +210,20 @@ TEST_F(TransitWindowTest, TheHorasFollowTheDateAndTheCity) {
   QTest::keyClick(view.get(), Qt::Key_Left, Qt::AltModifier);
   Press(*view, "previousDay");
   EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Moon");
-  auto& date = Find<QDateTimeEdit>(*view, "horaDate");
+  auto& date = Find<DateEdit>(*view, "horaDate");
   date.setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&date, "05072026");
+  EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Sun");
+  Type(*view, "horaDate", "5.7");
+  EXPECT_EQ(Text(*view, "horaDateEcho"),
+            "Not a date: write it as 5.7.1990, 5 jul 1990 or 1990-07-05.");
   EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Sun");
   const QString inDubai = Text(*view, "sunrise");
   WhenAskedTakeMumbai();
   Press(*view, "changeCity");
   EXPECT_EQ(view->windowTitle(), "Hora for Mumbai");
   EXPECT_NE(Text(*view, "sunrise"), inDubai);
-  Find<QDateTimeEdit>(*view, "horaDate").setDate(QDate(9999, 12, 31));
+  Type(*view, "horaDate", "31.12.9999");
   EXPECT_FALSE(Enabled(*view, "nextDay"));
   EXPECT_EQ(Find<TableView>(*view, "dayHoras").Model().rowCount(), 12);
 }
@@ -223,7 +233,7 @@ TEST_F(TransitWindowTest, WhereTheSunStaysUpThereAreNoHoras) {
   session_->StoreConnection.Execute("Update city_master set latitude = 78.2 where id = 1");
   auto view = std::make_unique<HoraView>(place_);
   Show(*view);
-  Find<QDateTimeEdit>(*view, "horaDate").setDate(QDate(2026, 6, 21));
+  Type(*view, "horaDate", "21-06-2026");
   EXPECT_EQ(Find<TableView>(*view, "dayHoras").Model().rowCount(), 0);
   EXPECT_EQ(Text(*view, "sunrise"), "");
 }

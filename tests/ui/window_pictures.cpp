@@ -3,12 +3,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 #include <memory>
 
 #include "chart/client_saving.h"
@@ -16,6 +16,7 @@
 #include "practice/remedies.h"
 #include "support/picture_program.h"
 #include "support/test_home.h"
+#include "ui/base/moment_edit.h"
 #include "ui/base/picture.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/about_box.h"
@@ -62,7 +63,7 @@ void WriteSearch(Workplace& place, const std::filesystem::path& folder) {
   window.findChild<QAction*>("searchClients")->trigger();
   WritePicture(window, folder / "search-empty.png");
   window.findChild<QComboBox*>("dateRange")->setCurrentText("Between");
-  window.findChild<QDateTimeEdit*>("dateFrom")->setDate({1940, 1, 1});
+  window.findChild<DateEdit*>("dateFrom")->SetDate(core::MakeDateTime({1940, 1, 1}).value());
   window.findChild<QRadioButton*>("selectedGroups")->setChecked(true);
   window.findChild<QPushButton*>("search")->click();
   WritePicture(window, folder / "search-clients.png");
@@ -80,6 +81,32 @@ void WriteSettings(Workplace& place, const std::filesystem::path& folder) {
   }
 }
 
+// A birth in war time while its city is typed.
+void WriteCityChoices(Workplace& place, const std::filesystem::path& file) {
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place, 1));
+  dialog->Begin("Vasant Kelkar", false);
+  dialog->show();
+  dialog->findChild<QLineEdit*>("birth")->setText("5 may 1943");
+  dialog->findChild<QLineEdit*>("birthTime")->setText("2:30p");
+  auto* city = dialog->findChild<QLineEdit*>("city");
+  city->setFocus();
+  city->selectAll();
+  QTest::keyClicks(city, "pun");
+  WritePicture(*dialog, file);
+}
+
+// A query whose number is refused.
+void WriteQuery(Workplace& place, const std::filesystem::path& file) {
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForNew(place, 1));
+  dialog->Begin("Query: the school", true);
+  dialog->findChild<QComboBox*>("horaryNumber")->setEditText("250");
+  dialog->findChild<QLineEdit*>("horaryQuestion")
+      ->setText("Will my daughter be taken into the school of her choice?");
+  dialog->show();
+  dialog->findChild<QPushButton*>("action")->click();
+  WritePicture(*dialog, file);
+}
+
 void WriteDialogs(Workplace& place, std::int32_t client, const std::filesystem::path& folder) {
   const auto write = [&folder](QDialog* made, const char* name) {
     const std::unique_ptr<QDialog> dialog(made);
@@ -87,6 +114,8 @@ void WriteDialogs(Workplace& place, std::int32_t client, const std::filesystem::
   };
   write(ClientDialog::ForNew(place, 1), "client-add.png");
   write(ClientDialog::ForEdit(place, client), "client-edit.png");
+  WriteCityChoices(place, folder / "client-city.png");
+  WriteQuery(place, folder / "client-query.png");
   write(CityDialog::ForNew(place), "city-add.png");
   write(CityDialog::ForEdit(place, 1), "city-edit.png");
   write(new CitiesDialog(place), "cities.png");

@@ -1,12 +1,51 @@
 #include "ui/base/form_dialog.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "ui/base/message_boxes.h"
+#include "ui/base/moment_edit.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
 namespace orvex::ui {
+
+namespace {
+
+constexpr const char* kThrowAwayQuestion =
+    "What was typed here is not saved. Do you want to throw it away?";
+
+// What a field holds; nothing for a widget that is no field.
+QVariant ValueOf(const QWidget& widget) {
+  if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) {
+    return line->text();
+  }
+  if (const auto* text = qobject_cast<const QPlainTextEdit*>(&widget)) {
+    return text->toPlainText();
+  }
+  if (const auto* choice = qobject_cast<const QComboBox*>(&widget)) {
+    return choice->currentText();
+  }
+  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+  return button != nullptr && button->isCheckable() ? QVariant(button->isChecked()) : QVariant();
+}
+
+std::vector<QVariant> ValuesOf(const QWidget& dialog) {
+  std::vector<QVariant> values;
+  for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+    const bool isInside = widget->window() == &dialog;  // not in what drops down
+    if (QVariant value = ValueOf(*widget); isInside && value.isValid()) {
+      values.push_back(std::move(value));
+    }
+  }
+  return values;
+}
+
+}  // namespace
 
 FormDialog::FormDialog(Workplace& place, const QString& objectName, QWidget* parent)
     : QDialog(parent), place_(place) {
@@ -24,7 +63,8 @@ QHBoxLayout* FormDialog::MakeButtons(const QString& action) {
   // Turning back asks nothing of the field that had the focus.
   cancel->setFocusPolicy(Qt::TabFocus);
   connect(action_, &QPushButton::clicked, this, [this] { Save(); });
-  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  // A press on Cancel says itself what it does.
+  connect(cancel, &QPushButton::clicked, this, [this] { QDialog::reject(); });
   auto* row = new QHBoxLayout;
   row->setContentsMargins(0, kGrid, 0, 0);
   row->addStretch();
@@ -33,15 +73,43 @@ QHBoxLayout* FormDialog::MakeButtons(const QString& action) {
   return row;
 }
 
+void FormDialog::NoteFields() { fields_ = ValuesOf(*this); }
+
+void FormDialog::showEvent(QShowEvent* event) {
+  if (!fields_) {
+    NoteFields();
+  }
+  QDialog::showEvent(event);
+}
+
+void FormDialog::reject() {
+  const bool typed = HoldsData() && fields_ && *fields_ != ValuesOf(*this);
+  if (!typed || Ask(Session().Shown, kThrowAwayQuestion)) {
+    QDialog::reject();
+  }
+}
+
 void FormDialog::FocusField(const QString& name) {
   if (auto* field = findChild<QWidget*>(name)) {
     field->setFocus(Qt::OtherFocusReason);
+    auto* box = qobject_cast<QComboBox*>(field);
+    auto* line = box != nullptr ? box->lineEdit() : qobject_cast<QLineEdit*>(field);
+    if (line != nullptr) {
+      line->selectAll();
+    }
   }
 }
 
 void FormDialog::ShowRefusal(const core::Refusal& refusal) {
   Session().Shown.ShowMessage(refusal.Text, core::MessageButtons::Ok, refusal.Icon);
   FocusField(Shown(refusal.Field));
+}
+
+bool FormDialog::IsRead(const MomentEdit& field) {
+  if (!field.IsUnderstood()) {
+    ShowRefusal({Typed(field.Words()), core::MessageIcon::Information, Typed(field.objectName())});
+  }
+  return field.IsUnderstood();
 }
 
 void FormDialog::Finish(const core::SaveResult& result) {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QDialog>
+#include <QVariant>
 #include <optional>
+#include <vector>
 
 #include "core/save_result.h"
 #include "ui/base/workplace.h"
@@ -10,8 +12,11 @@
 class QHBoxLayout;
 class QPushButton;
 class QLabel;
+class QShowEvent;
 
 namespace orvex::ui {
+
+class MomentEdit;
 
 class FormDialog : public QDialog {
   Q_OBJECT
@@ -19,6 +24,9 @@ class FormDialog : public QDialog {
  public:
   // The id that was saved; 0 while nothing was.
   std::int32_t SavedId() const { return savedId_; }
+
+  // Escape and the window's close button: asks first where typed data would be lost.
+  void reject() override;
 
  protected:
   FormDialog(Workplace& place, const QString& objectName, QWidget* parent);
@@ -30,12 +38,24 @@ class FormDialog : public QDialog {
   // Reads the fields and hands them to the save routine.
   virtual void Save() = 0;
 
+  // Whether what is typed here is data that closing loses. Filters and choices for a look are none.
+  virtual bool HoldsData() const { return true; }
+
+  // Notes what the fields hold now as nothing that was typed.
+  void NoteFields();
+
+  // Takes the fields as they stand when the dialog is first shown for what was there before.
+  void showEvent(QShowEvent* event) override;
+
   // Brings the field of that object name into sight and gives it the focus.
   virtual void FocusField(const QString& name);
 
+  // Whether the field's text was understood; where it was not, that is refused with its words.
+  bool IsRead(const MomentEdit& field);
+
   // Closes the dialog over what was saved, or shows why it was not and goes to the field.
   void Finish(const core::SaveResult& result);
-  void ShowRefusal(const core::Refusal& refusal);
+  virtual void ShowRefusal(const core::Refusal& refusal);
 
   core::Session& Session() { return place_.Session; }
   Workplace& Place() { return place_; }
@@ -44,6 +64,7 @@ class FormDialog : public QDialog {
   Workplace& place_;
   QPushButton* action_ = nullptr;
   std::int32_t savedId_ = 0;
+  std::optional<std::vector<QVariant>> fields_;  // as they were before anything was typed
 };
 
 }  // namespace orvex::ui

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "ui/base/qt_text.h"
 
@@ -43,6 +44,22 @@ core::MessageAnswer MessageBoxes::ShowMessage(const std::string& text, core::Mes
   box.setDefaultButton(QMessageBox::No);
   box.setEscapeButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes ? core::MessageAnswer::Yes : core::MessageAnswer::No;
+}
+
+bool MessageBoxes::ChooseFirst(const std::string& question, const std::string& first,
+                               const std::string& second) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setObjectName("messageBox");
+  box.setWindowTitle(core::kMessageTitle);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(Shown(question));
+  box.setIcon(QMessageBox::Question);
+  QPushButton* chosen = box.addButton(Shown(first), QMessageBox::YesRole);
+  QPushButton* other = box.addButton(Shown(second), QMessageBox::NoRole);
+  box.setDefaultButton(chosen);
+  box.setEscapeButton(other);
+  box.exec();
+  return box.clickedButton() == chosen;
 }
 
 void Inform(core::Messages& messages, const std::string& text) {

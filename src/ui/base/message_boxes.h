@@ -9,6 +9,8 @@ class MessageBoxes final : public core::Messages {
  public:
   core::MessageAnswer ShowMessage(const std::string& text, core::MessageButtons buttons,
                                   core::MessageIcon icon) override;
+  bool ChooseFirst(const std::string& question, const std::string& first,
+                   const std::string& second) override;
 };
 
 // The shown forms that windows use most.

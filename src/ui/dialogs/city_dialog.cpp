@@ -5,6 +5,8 @@
 #include <QLineEdit>
 
 #include "core/text.h"
+#include "core/typed_coordinate.h"
+#include "ui/base/angle_field.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -29,6 +31,8 @@ CityDialog::CityDialog(Workplace& place, std::int32_t cityId, QWidget* parent)
       latitude_(Field("latitude")),
       longitude_(Field("longitude")),
       offset_(Field("offset")) {
+  AcceptAngle(*latitude_, core::ReadTypedLatitude);
+  AcceptAngle(*longitude_, core::ReadTypedLongitude);
   zones_->setObjectName("timeZone");
   zones_->setSelectionMode(QAbstractItemView::SingleSelection);
   zones_->setMinimumSize(56 * kGrid, 24 * kGrid);

@@ -1,22 +1,31 @@
 #include "ui/dialogs/client_dialog.h"
 
 #include <QButtonGroup>
-#include <QDateTimeEdit>
-#include <QFormLayout>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
+#include <QScrollArea>
 
+#include "chart/client_checks.h"
+#include "practice/groups.h"
+#include "practice/offset_offer.h"
 #include "ui/base/moment_edit.h"
+#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
+#include "ui/dialogs/ascendant_fields.h"
 #include "ui/dialogs/city_dialog.h"
-#include "ui/dialogs/city_list.h"
+#include "ui/dialogs/city_field.h"
+#include "ui/dialogs/form_rows.h"
+#include "ui/dialogs/moment_fields.h"
+#include "ui/dialogs/pick_city_dialog.h"
 #include "ui/dialogs/place_fields.h"
 #include "ui/dialogs/query_fields.h"
+#include "ui/dialogs/refusal_line.h"
+#include "ui/dialogs/switch_buttons.h"
 
 namespace orvex::ui {
 
@@ -24,40 +33,31 @@ namespace {
 
 constexpr const char* kGenderLetters = "MFO";
 
-QLineEdit* Field(const char* name) {
-  auto* field = new QLineEdit;
-  field->setObjectName(name);
-  return field;
-}
-
-QLabel* Link(const QString& text, const char* name) {
-  auto* link = new QLabel("<a href=\"#\">" + text + "</a>");
-  link->setObjectName(name);
-  link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-  return link;
-}
-
 }  // namespace
 
 ClientDialog::ClientDialog(Workplace& place, QWidget* parent)
     : FormDialog(place, "clientDialog", parent),
-      name_(Field("fullName")),
-      email_(Field("email")),
-      mobile_(Field("mobile")),
-      comments_(new QPlainTextEdit),
-      genders_(new QButtonGroup(this)),
-      birth_(MakeMomentEdit("birth")),
-      weekday_(new QLabel),
-      now_(Link(tr("now"), "now")),
-      addCity_(Link(tr("Add a city"), "addCity")),
-      query_(new QueryFields(place)),
-      cities_(new CityList(place)),
-      place_(new PlaceFields(place)) {}
+      kinds_(MakeSwitch(this, {{"birthKind", tr("&Birth")}, {"horary", tr("&Query (horary)")}})),
+      group_(Named(new QComboBox, "group")),
+      name_(Named(new QLineEdit, "fullName")),
+      genders_(MakeSwitch(
+          this, {{"genderM", tr("Male")}, {"genderF", tr("Female")}, {"genderO", tr("Other")}})),
+      query_(new QueryFields(place, this)),
+      moment_(new MomentFields(place.Session.Time, this)),
+      city_(new CityField(place)),
+      place_(new PlaceFields(place)),
+      mobile_(Named(new QLineEdit, "mobile")),
+      email_(Named(new QLineEdit, "email")),
+      comments_(Named(new QPlainTextEdit, "comments")),
+      ascendant_(new AscendantFields),
+      refusal_(new RefusalLine(this)) {}
+
+ClientDialog::~ClientDialog() = default;
 
 ClientDialog* ClientDialog::ForNew(Workplace& place, std::int32_t groupId, QWidget* parent) {
   auto* dialog = new ClientDialog(place, parent);
-  dialog->groupId_ = groupId;
   dialog->Build(tr("Add Client"), tr("&Add"));
+  dialog->FillGroups(groupId);
   dialog->Fill(chart::OpenAddClient(place.Session));
   dialog->Connect();
   return dialog;
@@ -71,118 +71,127 @@ ClientDialog* ClientDialog::ForEdit(Workplace& place, std::int32_t clientId, QWi
   auto* dialog = new ClientDialog(place, parent);
   dialog->clientId_ = clientId;
   dialog->Build(tr("Edit Client"), tr("&Save"));
+  dialog->FillGroups(practice::GroupOfClient(place.Session, clientId));
   dialog->Fill(*form);
   dialog->Connect();
   return dialog;
 }
 
+void ClientDialog::Begin(const QString& name, bool query) {
+  name_->setText(name);
+  kinds_->button(query ? 1 : 0)->setChecked(true);
+}
+
 void ClientDialog::Build(const QString& title, const QString& action) {
   setWindowTitle(title);
-  auto* left = new QVBoxLayout;
-  left->addLayout(BuildPerson());
-  left->addWidget(query_);
-  left->addStretch();
-  auto* columns = new QHBoxLayout;
-  columns->setSpacing(kMargin);
-  columns->addLayout(left, 1);
-  columns->addLayout(BuildPlace(), 1);
+  auto* foot = new QHBoxLayout;
+  foot->addWidget(MakeHint(tr("Enter takes the marked city, Tab goes on")));
+  foot->addLayout(MakeButtons(action), 1);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  layout->addLayout(columns, 1);
-  layout->addLayout(MakeButtons(action));
-  resize(116 * kGrid, 68 * kGrid);
+  layout->addLayout(BuildHead());
+  layout->addWidget(BuildBody(), 1);
+  layout->addLayout(foot);
+  resize(79 * kGrid, 80 * kGrid);
 }
 
-QLayout* ClientDialog::BuildPerson() {
-  comments_->setObjectName("comments");
+QLayout* ClientDialog::BuildHead() {
+  auto* head = new QHBoxLayout;
+  head->addLayout(SwitchLayout(*kinds_));
+  head->addStretch();
+  head->addWidget(MakeFieldCaption(tr("Grou&p"), group_));
+  head->addWidget(group_);
+  return head;
+}
+
+QWidget* ClientDialog::BuildBody() {
+  auto* page = new QWidget;
+  rows_ = std::make_unique<FormRows>(*page);
+  AddPersonRows();
+  AddQueryRows();
+  moment_->AddTo(*rows_);
+  AddPlaceRows();
+  AddContactRows();
+  auto* scroll = new QScrollArea;
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidget(page);
+  return scroll;
+}
+
+void ClientDialog::AddPersonRows() {
+  rows_->Add(tr("Client &Name"), name_, {name_});
+  auto* genders = new QWidget;
+  genders->setLayout(SwitchLayout(*genders_));
+  rows_->Add(tr("Gender"), genders_->button(0), {genders});
+}
+
+void ClientDialog::AddQueryRows() {
+  rows_->Add(tr("Horary N&umber"), query_->Number(), {query_->NumberRow()});
+  rows_->Add(tr("Ques&tion"), query_->Question(), {query_->Question()}, query_->Count());
+}
+
+void ClientDialog::AddPlaceRows() {
+  rows_->Add(tr("Cit&y"), city_, {city_});
+  rows_->Add(tr("&Latitude"), place_->Latitude(), {place_});
+}
+
+void ClientDialog::AddContactRows() {
+  constexpr int kLines = 3;
   comments_->setTabChangesFocus(true);
-  comments_->setMinimumHeight(8 * kGrid);
-  auto* form = new QFormLayout;
-  form->addRow(tr("Client &Name:"), name_);
-  auto* moment = new QLabel(tr("&Date and time:"));
-  moment->setBuddy(birth_);
-  form->addRow(moment, BuildMoment());
-  form->addRow(tr("Gender:"), BuildGenders());
-  form->addRow(tr("&E-mail:"), email_);
-  form->addRow(tr("Mob&ile:"), mobile_);
-  form->addRow(tr("&Comments:"), comments_);
-  return form;
+  comments_->setFixedHeight(kLines * comments_->fontMetrics().lineSpacing() + kMargin);
+  rows_->Add(tr("Mob&ile"), mobile_, {mobile_, MakeFieldCaption(tr("&E-mail"), email_), email_});
+  rows_->Add(tr("&Comments"), comments_, {comments_});
+  rows_->Add(tr("Ascendant"), ascendant_->Computed(), {ascendant_});
 }
 
-QLayout* ClientDialog::BuildGenders() {
-  auto* row = new QHBoxLayout;
-  int id = 0;
-  for (const QString& text : {tr("Male"), tr("Female"), tr("Other")}) {
-    auto* button = new QRadioButton(text);
-    button->setObjectName(QString("gender") + kGenderLetters[id]);
-    genders_->addButton(button, id++);
-    row->addWidget(button);
+void ClientDialog::FillGroups(std::int32_t groupId) {
+  for (const core::Row& group : practice::LoadGroups(Session()).Rows) {
+    group_->addItem(Shown(group.Cells.front().Text), IdOfTag(group.Tag).value_or(0));
   }
-  row->addStretch();
-  return row;
+  group_->setCurrentIndex(group_->findData(groupId));
+  // A stored client changes its group by the move alone.
+  group_->setEnabled(clientId_ == 0);
 }
 
-QLayout* ClientDialog::BuildMoment() {
-  weekday_->setObjectName("weekday");
-  auto* row = new QHBoxLayout;
-  row->addWidget(birth_);
-  row->addWidget(now_);
-  row->addStretch();
-  auto* rows = new QVBoxLayout;
-  rows->addLayout(row);
-  rows->addWidget(weekday_);
-  return rows;
-}
-
-QLayout* ClientDialog::BuildPlace() {
-  auto* column = new QVBoxLayout;
-  column->addWidget(cities_, 1);
-  column->addWidget(addCity_);
-  column->addWidget(place_);
-  return column;
-}
+std::int32_t ClientDialog::GroupId() const { return group_->currentData().toInt(); }
 
 void ClientDialog::Connect() {
-  connect(birth_, &QDateTimeEdit::dateTimeChanged, this, [this] { ShowMoment(); });
-  connect(now_, &QLabel::linkActivated, this, [this] { SetNow(); });
-  connect(addCity_, &QLabel::linkActivated, this, [this] { AddCity(); });
-  connect(query_, &QueryFields::HoraryStarted, this, [this] { SetNow(); });
-  connect(cities_, &CityList::ViewChanged, place_, &PlaceFields::Clear);
-  connect(cities_, &CityList::FilterTyped, this, [this] {
-    cityId_ = 0;
-    place_->Forget();
+  connect(moment_, &MomentFields::Changed, this, &ClientDialog::ShowMoment);
+  connect(kinds_->button(1), &QAbstractButton::toggled, this, [this](bool query) {
+    FollowKind();
+    if (query) {
+      moment_->ShowNow();
+    }
   });
-  connect(cities_, &CityList::CityChosen, this, [this](std::int32_t id) {
-    cityId_ = id;
-    place_->TakeCity(id);
-  });
-  connect(cities_, &CityList::CityActivated, this, [this] { Save(); });
+  connect(query_, &QueryFields::Refused, this, &ClientDialog::ShowRefusal);
+  connect(city_, &CityField::CityForgotten, place_, &PlaceFields::Forget);
+  connect(city_, &CityField::CityTaken, place_, &PlaceFields::TakeCity);
+  connect(city_, &CityField::AddWanted, this, &ClientDialog::AddCity);
+  connect(city_, &CityField::AllWanted, this, &ClientDialog::PickFromAll);
+  connect(place_, &PlaceFields::Changed, this, &ClientDialog::ShowCast);
 }
 
 void ClientDialog::Fill(const chart::ClientForm& form) {
+  opened_ = form;
   name_->setText(Shown(form.FullName));
   email_->setText(Shown(form.Email));
   mobile_->setText(Shown(form.Mobile));
   comments_->setPlainText(Shown(form.Comments));
-  birth_->setDateTime(ToField(form.Birth));
+  moment_->ShowMoment(form.Birth);
   const qsizetype gender = QString(kGenderLetters).indexOf(Shown(form.Gender));
   genders_->button(static_cast<int>(std::max<qsizetype>(gender, 0)))->setChecked(true);
+  kinds_->button(form.Horary ? 1 : 0)->setChecked(true);
   query_->Fill(form);
-  FillPlace(form);
-  ShowMoment();
-  name_->setFocus();
-}
-
-// The list opens with the cities in use; where the client's city is not among them, as in a new
-// practice, with all cities.
-void ClientDialog::FillPlace(const chart::ClientForm& form) {
-  cityId_ = form.CityId;
-  if (!cities_->SelectCity(form.CityId)) {
-    cities_->ShowView(CityList::AllCities);
-    cities_->SelectCity(form.CityId);
-  }
+  ascendant_->Fill(form);
+  city_->ShowCity(form.CityId);
   place_->TakeCity(form.CityId);
   place_->ShowStored(form);
+  FollowKind();
+  ShowMoment();
+  name_->setFocus();
 }
 
 chart::ClientForm ClientDialog::Form() const {
@@ -191,40 +200,93 @@ chart::ClientForm ClientDialog::Form() const {
   form.Email = Typed(email_->text());
   form.Mobile = Typed(mobile_->text());
   form.Comments = Typed(comments_->toPlainText());
-  form.Birth = FromField(birth_->dateTime());
+  form.Birth = moment_->Moment().value_or(form.Birth);
   form.Gender = std::string(1, kGenderLetters[genders_->checkedId()]);
+  form.Horary = kinds_->checkedId() == 1;
   query_->CopyInto(form);
-  form.CityId = cityId_;
-  form.CityInSight = cities_->SelectedCity() != 0;
+  ascendant_->CopyInto(form);
+  form.CityId = city_->CityId();
   place_->CopyInto(form);
   return form;
 }
 
-void ClientDialog::ShowMoment() {
-  const core::DateTime moment = FromField(birth_->dateTime());
-  weekday_->setText(Shown(core::WeekdayName(moment) + ", " + core::LongDateText(moment, false) +
-                          " " + core::TimeAmPm(moment)));
-  place_->ShowClocks(moment);
+// A query has a number and a question and no Ascendant by hand.
+void ClientDialog::FollowKind() {
+  const bool query = kinds_->checkedId() == 1;
+  rows_->SetVisible(*query_->Number(), query);
+  rows_->SetVisible(*query_->Question(), query);
+  rows_->SetVisible(*ascendant_, !query);
+  ascendant_->ChooseComputed();
+  refusal_->Clear();
 }
 
-void ClientDialog::SetNow() { birth_->setDateTime(ToField(Session().Time.Now())); }
+void ClientDialog::ShowMoment() {
+  if (const std::optional<core::DateTime> moment = moment_->Moment()) {
+    city_->SetMoment(*moment);
+    place_->ShowClocks(*moment);
+  }
+  ShowCast();
+}
+
+void ClientDialog::ShowCast() {
+  place_->ShowCast(moment_->Moment() ? Shown(practice::CastForText(Session(), Form())) : "");
+}
 
 void ClientDialog::AddCity() {
   const std::unique_ptr<CityDialog> dialog(CityDialog::ForNew(Place(), this));
   if (dialog && dialog->exec() == Accepted) {
-    cities_->SearchFor(dialog->SavedName());
+    city_->SearchAnew(dialog->SavedName());
+  }
+}
+
+void ClientDialog::PickFromAll() {
+  if (const std::optional<PickedCity> picked = PickCity(Place(), this)) {
+    city_->TakeCity(picked->Id);
+  }
+}
+
+// Stands under the field, the first one of those that the checks find.
+void ClientDialog::ShowRefusal(const core::Refusal& refusal) {
+  const bool isCity = refusal.Field == "cityList" || refusal.Field == "citySearch";
+  const QString field = isCity ? city_->objectName() : Shown(refusal.Field);
+  auto* widget = field.isEmpty() ? nullptr : findChild<QWidget*>(field);
+  if (widget == nullptr) {
+    FormDialog::ShowRefusal(refusal);
+    return;
+  }
+  refusal_->ShowUnder(*widget, Shown(refusal.Text));
+  FocusField(field);
+}
+
+// Asks once where the clocks showed another offset than the form has. What an edit leaves as it was
+// has been answered before.
+void ClientDialog::SettleOffset(chart::ClientForm& form) {
+  const bool asBefore = form.Birth == opened_.Birth && form.CityId == opened_.CityId &&
+                        form.Offset == opened_.Offset && form.Longitude == opened_.Longitude;
+  if (clientId_ != 0 && asBefore) {
+    return;
+  }
+  const std::optional<practice::OffsetOffer> offer = practice::OfferOffset(Session(), form);
+  if (offer && Session().Shown.ChooseFirst(offer->Question, offer->Use, offer->Keep)) {
+    place_->TakeOffset(Shown(offer->Offset));
+    form = Form();
   }
 }
 
 void ClientDialog::Save() {
-  const chart::ClientForm form = Form();
-  const core::SaveResult result = clientId_ == 0
-                                      ? chart::SaveNewClient(Session(), form, groupId_)
-                                      : chart::SaveClientChanges(Session(), form, clientId_);
-  if (result.Refused && result.Refused->Field == "citySearch") {
-    cityId_ = 0;
+  refusal_->Clear();
+  if (const MomentEdit* unread = moment_->Unread()) {
+    FocusField(unread->objectName());
+    return;
   }
-  Finish(result);
+  chart::ClientForm form = Form();
+  if (const std::optional<core::Refusal> refused = chart::CheckClient(Session(), form)) {
+    ShowRefusal(*refused);
+    return;
+  }
+  SettleOffset(form);
+  Finish(clientId_ == 0 ? chart::SaveNewClient(Session(), form, GroupId())
+                        : chart::SaveClientChanges(Session(), form, clientId_));
 }
 
 }  // namespace orvex::ui

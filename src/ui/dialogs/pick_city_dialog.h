@@ -26,6 +26,7 @@ class PickCityDialog final : public FormDialog {
 
  private:
   void Save() override;
+  bool HoldsData() const override { return false; }
 
   CityList* cities_;
   PickedCity picked_;

@@ -1,13 +1,15 @@
 #include "ui/dialogs/place_fields.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include "core/exact_numbers.h"
+#include "core/typed_coordinate.h"
 #include "practice/cities.h"
 #include "practice/zone_clock.h"
+#include "ui/base/angle_field.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -15,10 +17,11 @@ namespace orvex::ui {
 
 namespace {
 
+// Small, but as wide as a coordinate of five decimals.
 QLineEdit* Field(const char* name) {
   auto* field = new QLineEdit;
   field->setObjectName(name);
-  field->setMaximumWidth(16 * kGrid);
+  field->setMaximumWidth(field->fontMetrics().horizontalAdvance("-180.00000") + 2 * kMargin);
   return field;
 }
 
@@ -60,11 +63,14 @@ PlaceFields::PlaceFields(Workplace& place, QWidget* parent)
     connect(field, &QLineEdit::textChanged, this, [this] {
       Compare();
       OfferClocks();
+      emit Changed();
     });
   }
+  AcceptAngle(*latitude_, core::ReadTypedLatitude);
+  AcceptAngle(*longitude_, core::ReadTypedLongitude);
   for (QPushButton* button : {takeFirst_, takeSecond_}) {
     connect(button, &QPushButton::clicked, this,
-            [this, button] { offset_->setText(button->property("offset").toString()); });
+            [this, button] { TakeOffset(button->property("offset").toString()); });
   }
 }
 
@@ -75,19 +81,22 @@ void PlaceFields::Build() {
   warning_->setObjectName("zoneWarning");
   warning_->setTextFormat(Qt::PlainText);
   warning_->setWordWrap(true);
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->addWidget(Caption(tr("La&titude:"), latitude_), 0, 0);
-  grid->addWidget(latitude_, 0, 1);
-  grid->addWidget(Caption(tr("Lon&gitude:"), longitude_), 0, 2);
-  grid->addWidget(longitude_, 0, 3);
-  grid->addWidget(Caption(tr("O&ffset:"), offset_), 1, 0);
-  grid->addWidget(offset_, 1, 1);
-  grid->addWidget(takeFirst_, 1, 2);
-  grid->addWidget(takeSecond_, 1, 3);
-  grid->addWidget(clocks_, 2, 0, 1, 4);
-  grid->addWidget(warning_, 3, 0, 1, 4);
-  grid->setColumnStretch(4, 1);
+  auto* fields = new QHBoxLayout;
+  fields->addWidget(latitude_);
+  fields->addWidget(Caption(tr("Lon&gitude"), longitude_));
+  fields->addWidget(longitude_);
+  fields->addWidget(Caption(tr("O&ffset"), offset_));
+  fields->addWidget(offset_);
+  fields->addWidget(takeFirst_);
+  fields->addWidget(takeSecond_);
+  fields->addStretch();
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGrid / 2);
+  column->addLayout(fields);
+  column->addWidget(clocks_);
+  column->addWidget(warning_);
+  warning_->hide();
   HideOffers();
 }
 
@@ -102,12 +111,6 @@ void PlaceFields::TakeCity(std::int32_t cityId) {
 
 void PlaceFields::ShowStored(const chart::ClientForm& form) {
   Fill({form.Latitude, form.Longitude, form.Offset});
-}
-
-void PlaceFields::Clear() {
-  city_.reset();
-  zone_.clear();
-  Fill({});
 }
 
 void PlaceFields::Forget() {
@@ -127,7 +130,9 @@ void PlaceFields::Fill(const chart::CityPlace& place) {
 
 void PlaceFields::CopyInto(chart::ClientForm& form) const {
   form.Latitude = Typed(latitude_->text());
+  form.Latitude = core::ReadTypedLatitude(form.Latitude).value_or(form.Latitude);
   form.Longitude = Typed(longitude_->text());
+  form.Longitude = core::ReadTypedLongitude(form.Longitude).value_or(form.Longitude);
   form.Offset = Typed(offset_->text());
 }
 
@@ -142,9 +147,22 @@ void PlaceFields::ShowClocks(core::DateTime local) {
   OfferClocks();
 }
 
+void PlaceFields::TakeOffset(const QString& offset) { offset_->setText(offset); }
+
+void PlaceFields::ShowCast(const QString& sentence) {
+  cast_ = sentence;
+  ShowSentences();
+}
+
+void PlaceFields::ShowSentences() {
+  clocks_->setText(QStringList{showed_, cast_}.join(' ').trimmed());
+}
+
 void PlaceFields::HideOffers() {
-  clocks_->clear();
+  showed_.clear();
+  ShowSentences();
   warning_->clear();
+  warning_->hide();
   takeFirst_->hide();
   takeSecond_->hide();
 }
@@ -164,9 +182,9 @@ void PlaceFields::OfferClocks() {
   }
   try {
     const practice::ZoneClock clock = practice::ClocksOf(zone_, local_, *longitude);
-    clocks_->setText(tr("Clocks in %1 showed %2 (%3) then.")
-                         .arg(Shown(zone_), Shown(practice::OffsetText(clock.OffsetInForce)),
-                              Shown(clock.Abbreviation)));
+    showed_ = tr("Clocks in %1 showed %2 (%3) then.")
+                  .arg(Shown(zone_), Shown(practice::OffsetText(clock.OffsetInForce)),
+                       Shown(clock.Abbreviation));
     Offer(*takeFirst_, clock.OffsetInForce);
     if (clock.SecondOffset) {
       Offer(*takeSecond_, *clock.SecondOffset);
@@ -175,10 +193,11 @@ void PlaceFields::OfferClocks() {
     red.setColor(QPalette::WindowText, Theme::Red());
     warning_->setPalette(red);
     warning_->setText(Shown(practice::ReadingText(clock)));
+    warning_->setHidden(warning_->text().isEmpty());
   } catch (const practice::ZoneError&) {
-    clocks_->setText(
-        tr("The zone %1 is not in the zone database of this machine.").arg(Shown(zone_)));
+    showed_ = tr("The zone %1 is not in the zone database of this machine.").arg(Shown(zone_));
   }
+  ShowSentences();
 }
 
 }  // namespace orvex::ui

@@ -1,5 +1,6 @@
 // Latitude, longitude and offset of a client: the city's numbers to begin with, in red where they
-// were changed; beside the offset what the clocks of the city showed at the moment of birth.
+// were changed; below them what the clocks of the city showed at the moment of birth, and the
+// moment in UT for which the chart will be cast.
 #pragma once
 
 #include <QWidget>
@@ -26,21 +27,29 @@ class PlaceFields final : public QWidget {
   void TakeCity(std::int32_t cityId);
   // Other numbers for the same city, compared with the city's.
   void ShowStored(const chart::ClientForm& form);
-  // Another view of the list: the fields are empty and compare with nothing.
-  void Clear();
-  // A typed filter: as Clear, with the offset "0" and out of reach.
+  // No city: latitude and longitude are empty, the offset is "0" and out of reach.
   void Forget();
+  void TakeOffset(const QString& offset);
 
   void CopyInto(chart::ClientForm& form) const;
 
   // Asks the zone's clocks again, for another moment.
   void ShowClocks(core::DateTime local);
 
+  // The sentence that tells the moment in UT.
+  void ShowCast(const QString& sentence);
+
+  QLineEdit* Latitude() const { return latitude_; }
+
+ signals:
+  void Changed();
+
  private:
   void Build();
   void Fill(const chart::CityPlace& place);
   void Compare();
   void OfferClocks();
+  void ShowSentences();
   void Offer(QPushButton& button, double hours);
   void HideOffers();
 
@@ -49,6 +58,8 @@ class PlaceFields final : public QWidget {
   QLineEdit* longitude_;
   QLineEdit* offset_;
   QLabel* clocks_;
+  QString showed_;  // the sentences about the clocks and the moment in UT
+  QString cast_;
   QLabel* warning_;
   QPushButton* takeFirst_;
   QPushButton* takeSecond_;

@@ -1,48 +1,50 @@
-// The horary query and the choice of the Ascendant: one excludes the other.
+// The number and the question of a horary query.
 #pragma once
 
-#include <QGroupBox>
+#include <QObject>
 #include <QRandomGenerator>
 
 #include "chart/client_saving.h"
 #include "ui/base/workplace.h"
 
-class QCheckBox;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
-class QRadioButton;
+class QWidget;
 
 namespace orvex::ui {
 
-class QueryFields final : public QWidget {
+class QueryFields final : public QObject {
   Q_OBJECT
 
  public:
-  QueryFields(Workplace& place, QWidget* parent = nullptr);
+  QueryFields(Workplace& place, QObject* owner);
+
+  // To be laid out by the dialog.
+  QComboBox* Number() const { return number_; }
+  QWidget* NumberRow() const { return numberRow_; }
+  QLineEdit* Question() const { return question_; }
+  QLabel* Count() const { return count_; }
 
   void Fill(const chart::ClientForm& form);
   void CopyInto(chart::ClientForm& form) const;
 
  signals:
-  // The flag was switched on by hand: the moment of the query is now.
-  void HoraryStarted();
+  // A letter was typed into the number.
+  void Refused(const core::Refusal& refusal);
 
  private:
   void Build();
-  void Connect();
-  void FollowHorary(bool horary);
   void RefuseLetters(const QString& text);
+  void CountQuestion();
 
-  Workplace& place_;
   QRandomGenerator numbers_;
-  QCheckBox* horary_;
   QComboBox* number_;
   QPushButton* random_;
+  QWidget* numberRow_;
   QLineEdit* question_;
-  QRadioButton* computed_;
-  QRadioButton* byHand_;
-  QLineEdit* degree_;
+  QLabel* count_;
 };
 
 }  // namespace orvex::ui

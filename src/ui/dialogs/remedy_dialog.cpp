@@ -1,9 +1,9 @@
 #include "ui/dialogs/remedy_dialog.h"
 
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <algorithm>
 
@@ -50,14 +50,14 @@ RemedyDialog::RemedyDialog(Workplace& place, const practice::RemedyForm& form, Q
       planet_(new QComboBox),
       problem_(TextBox("problem")),
       remedy_(TextBox("remedy")),
-      date_(MakeDateEdit("remedyDate")) {
+      date_(new DateEdit("remedyDate")) {
   planet_->setObjectName("forPlanet");
   planet_->addItem(tr("None"), 0);
   AddPlanetsByName(*planet_, Session().Reference);
   planet_->setCurrentIndex(std::max(0, planet_->findData(form.PlanetId)));
   problem_->setPlainText(Shown(form.Problem));
   remedy_->setPlainText(Shown(form.Remedy));
-  date_->setDateTime(ToField(form.Date));
+  date_->SetDate(form.Date);
 }
 
 void RemedyDialog::Build(const QString& title, const QString& action) {
@@ -67,6 +67,7 @@ void RemedyDialog::Build(const QString& title, const QString& action) {
   fields->addRow(tr("Remedy/S&olution:"), remedy_);
   fields->addRow(tr("For P&lanet:"), planet_);
   fields->addRow(tr("Remedy &Date:"), date_);
+  fields->addRow(QString(), date_->MakeEcho());
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->addLayout(fields);
@@ -74,8 +75,11 @@ void RemedyDialog::Build(const QString& title, const QString& action) {
 }
 
 void RemedyDialog::Save() {
+  if (!IsRead(*date_)) {
+    return;
+  }
   const practice::RemedyForm form{planet_->currentData().toInt(), Typed(problem_->toPlainText()),
-                                  Typed(remedy_->toPlainText()), FromField(date_->dateTime())};
+                                  Typed(remedy_->toPlainText()), *date_->Date()};
   Finish(remedyId_ == 0 ? practice::SaveNewRemedy(Session(), form, clientId_)
                         : practice::SaveRemedyChanges(Session(), form, remedyId_));
 }

@@ -5,10 +5,11 @@
 #include "ui/base/form_dialog.h"
 
 class QComboBox;
-class QDateTimeEdit;
 class QPlainTextEdit;
 
 namespace orvex::ui {
+
+class DateEdit;
 
 class RemedyDialog final : public FormDialog {
   Q_OBJECT
@@ -30,7 +31,7 @@ class RemedyDialog final : public FormDialog {
   QComboBox* planet_;
   QPlainTextEdit* problem_;
   QPlainTextEdit* remedy_;
-  QDateTimeEdit* date_;
+  DateEdit* date_;
 };
 
 }  // namespace orvex::ui

@@ -85,7 +85,11 @@ void ClientCommands::RunAddClient() {
   const std::unique_ptr<ClientDialog> dialog(
       ClientDialog::ForNew(place_, lists_.Group(), &window_));
   if (dialog->exec() == QDialog::Accepted) {
-    lists_.ReloadClients();
+    if (dialog->GroupId() == lists_.Group()) {
+      lists_.ReloadClients();
+    } else {
+      lists_.ShowGroup(dialog->GroupId());
+    }
     ShowNewClient(dialog->SavedId());
   }
 }

@@ -2,7 +2,6 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -70,9 +69,9 @@ SearchForm::SearchForm(const core::Session& session, QWidget* parent)
       text_(Named(new QLineEdit, "searchText")),
       dateCaption_(Named(new QLabel, "dateCaption")),
       dateRange_(Named(new QComboBox, "dateRange")),
-      from_(MakeDateEdit("dateFrom")),
+      from_(new DateEdit("dateFrom")),
       toCaption_(new QLabel(tr("to"))),
-      to_(MakeDateEdit("dateTo")),
+      to_(new DateEdit("dateTo")),
       ageCaption_(new QLabel(tr("&Age:"))),
       ages_(nullptr),
       ageRange_(Named(new QComboBox, "ageRange")),
@@ -105,8 +104,8 @@ void SearchForm::FillChoices() {
   AddPlanetsByName(*forPlanet_, session_.Reference);
   dateRange_->addItems({tr("Any"), tr("After"), tr("Before"), tr("Between")});
   ageRange_->addItems({tr("Above"), tr("Below"), tr("Between")});
-  for (QDateTimeEdit* date : {from_, to_}) {
-    date->setDateTime(ToField(session_.Time.Today()));
+  for (DateEdit* date : {from_, to_}) {
+    date->SetDate(session_.Time.Today());
   }
 }
 
@@ -192,7 +191,27 @@ QWidget* SearchForm::BuildDates() {
   }
   from_->setAccessibleName(tr("From date"));
   to_->setAccessibleName(tr("To date"));
-  return SideBySide({dateRange_, from_, toCaption_, to_});
+  // Below the dates, so that a field keeps its place while it is typed into.
+  auto* dates = new QWidget;
+  auto* grid = new QGridLayout(dates);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->addWidget(SideBySide({dateRange_, from_, toCaption_, to_}), 0, 0);
+  grid->addWidget(BuildDateWords(), 1, 0);
+  return dates;
+}
+
+QWidget* SearchForm::BuildDateWords() {
+  QLabel* from = from_->MakeEcho();
+  QLabel* to = to_->MakeEcho();
+  connect(dateRange_, &QComboBox::currentIndexChanged, from, [this, from, to] {
+    from->setVisible(dateRange_->currentIndex() != static_cast<int>(DateRange::Any));
+    to->setVisible(IsBetween(*dateRange_));
+  });
+  for (QLabel* words : {from, to}) {
+    words->setWordWrap(false);
+    words->hide();
+  }
+  return SideBySide({from, to});
 }
 
 QWidget* SearchForm::BuildAges() {
@@ -286,12 +305,21 @@ practice::SearchFilter SearchForm::Filter() const {
   filter.AscendantRashi = ascendant_->currentData().toInt();
   filter.Text = Typed(text_->text());
   filter.Dates = static_cast<DateRange>(dateRange_->currentIndex());
-  filter.From = FromField(from_->dateTime());
-  filter.To = FromField(to_->dateTime());
+  filter.From = from_->Date().value_or(filter.From);
+  filter.To = to_->Date().value_or(filter.To);
   if (forPlanet_->currentData().isValid()) {
     filter.ForPlanetId = forPlanet_->currentData().toInt();
   }
   return filter;
+}
+
+DateEdit* SearchForm::UnreadDate() const {
+  for (DateEdit* date : {from_, to_}) {
+    if (date->isVisibleTo(this) && date->isEnabled() && !date->IsUnderstood()) {
+      return date;
+    }
+  }
+  return nullptr;
 }
 
 void SearchForm::FocusText() {

@@ -6,7 +6,6 @@
 #include "practice/client_search.h"
 
 class QComboBox;
-class QDateTimeEdit;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -15,6 +14,8 @@ class QRadioButton;
 class QSpinBox;
 
 namespace orvex::ui {
+
+class DateEdit;
 
 class SearchForm final : public QWidget {
   Q_OBJECT
@@ -27,6 +28,9 @@ class SearchForm final : public QWidget {
 
   practice::SearchMode Mode() const;
   practice::SearchFilter Filter() const;
+
+  // The date in use whose text could not be read; null where all were.
+  DateEdit* UnreadDate() const;
 
   void FocusText();
   void FocusGroups();
@@ -45,6 +49,7 @@ class SearchForm final : public QWidget {
   QWidget* BuildGroups();
   void BuildFields(QGridLayout& grid);
   QWidget* BuildDates();
+  QWidget* BuildDateWords();
   QWidget* BuildAges();
   void FillChoices();
   void Connect();
@@ -68,9 +73,9 @@ class SearchForm final : public QWidget {
   QLineEdit* text_;
   QLabel* dateCaption_;
   QComboBox* dateRange_;
-  QDateTimeEdit* from_;
+  DateEdit* from_;
   QLabel* toCaption_;
-  QDateTimeEdit* to_;
+  DateEdit* to_;
   QLabel* ageCaption_;
   QWidget* ages_;
   QComboBox* ageRange_;

@@ -8,6 +8,8 @@
 
 #include "practice/client_search.h"
 #include "ui/base/export_table.h"
+#include "ui/base/message_boxes.h"
+#include "ui/base/moment_edit.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -70,6 +72,12 @@ void SearchPage::Clear() {
 }
 
 void SearchPage::Search() {
+  if (DateEdit* unread = form_->UnreadDate()) {
+    Inform(place_.Session.Shown, Typed(unread->Words()));
+    unread->setFocus();
+    unread->selectAll();
+    return;
+  }
   const practice::SearchFilter filter = form_->Filter();
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   practice::SearchResult found = practice::SearchClients(place_.Session, filter);

@@ -3,7 +3,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QDateTimeEdit>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -39,7 +38,7 @@ void Fill(QComboBox& list, const std::vector<std::string>& entries) {
 FindTransitDialog::FindTransitDialog(Workplace& place, QWidget* parent)
     : FormDialog(place, "findTransitDialog", parent),
       planet_(Named(new QComboBox, "planet")),
-      from_(MakeDateEdit("from")),
+      from_(new DateEdit("from")),
       byDegree_(Named(new QRadioButton(tr("&Degree")), "byDegree")),
       byNakshatra_(Named(new QRadioButton(tr("&Nakshatra")), "byNakshatra")),
       byRashi_(Named(new QRadioButton(tr("&Rashi")), "byRashi")),
@@ -73,7 +72,7 @@ void FindTransitDialog::FillLists() {
   for (int pada = 1; pada <= kPadas; ++pada) {
     pada_->addItem("Pada " + WholeText(pada));
   }
-  from_->setDateTime(ToField(Session().Time.Today()));
+  from_->SetDate(Session().Time.Today());
   byDegree_->setChecked(true);
 }
 
@@ -119,6 +118,7 @@ QGridLayout* FindTransitDialog::BuildTarget() {
   grid->addWidget(planet_, 0, 1);
   grid->addWidget(label(tr("Fr&om"), from_), 1, 0);
   grid->addWidget(from_, 1, 1);
+  grid->addWidget(from_->MakeEcho(), 1, 2, 1, 2);
   grid->addWidget(byDegree_, 2, 0);
   grid->addWidget(degree_, 2, 1);
   grid->addWidget(byNakshatra_, 3, 0);
@@ -165,11 +165,11 @@ void FindTransitDialog::FollowKind() {
   rashi_->setEnabled(byRashi_->isChecked());
 }
 
-transit::FindForm FindTransitDialog::ReadForm() const {
+transit::FindForm FindTransitDialog::ReadForm() {
   using transit::TargetKind;
   transit::FindForm form;
   form.Body = transit::PlanetOfName(Typed(planet_->currentText())).value_or(transit::Planet::Sun);
-  form.From = FromField(from_->dateTime());
+  form.From = from_->Date().value_or(Session().Time.Today());
   form.Kind = byDegree_->isChecked()      ? TargetKind::Degree
               : byNakshatra_->isChecked() ? TargetKind::Nakshatra
                                           : TargetKind::Rashi;
@@ -181,6 +181,9 @@ transit::FindForm FindTransitDialog::ReadForm() const {
 }
 
 void FindTransitDialog::Save() {
+  if (!IsRead(*from_)) {
+    return;
+  }
   const transit::FindForm form = ReadForm();
   const transit::TargetResult target = transit::TargetOf(Session().Reference, form);
   if (target.Refused) {

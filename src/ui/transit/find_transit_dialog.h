@@ -7,7 +7,6 @@
 #include "ui/base/form_dialog.h"
 
 class QComboBox;
-class QDateTimeEdit;
 class QGridLayout;
 class QHBoxLayout;
 class QLineEdit;
@@ -16,6 +15,7 @@ class QRadioButton;
 
 namespace orvex::ui {
 
+class DateEdit;
 class TableView;
 
 // Accepted where the grid is to show what was found.
@@ -42,8 +42,9 @@ class FindTransitDialog final : public FormDialog {
   void FillLists();
   void Connect();
   void FollowKind();
-  transit::FindForm ReadForm() const;
+  transit::FindForm ReadForm();
   void Save() override;
+  bool HoldsData() const override { return false; }
   void Begin();
   bool GoOn(core::DateTime date);
   void End(const transit::FindResult& result);
@@ -57,7 +58,7 @@ class FindTransitDialog final : public FormDialog {
   transit::GridMark mark_;
   std::string tag_;
   QComboBox* planet_;
-  QDateTimeEdit* from_;
+  DateEdit* from_;
   QRadioButton* byDegree_;
   QRadioButton* byNakshatra_;
   QRadioButton* byRashi_;

@@ -1,6 +1,5 @@
 #include "ui/transit/hora_view.h"
 
-#include <QDateTimeEdit>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QShortcut>
@@ -18,6 +17,15 @@
 namespace orvex::ui {
 
 namespace {
+
+// The day that many days away; nothing beyond the calendar.
+std::optional<core::DateTime> DayBeside(core::DateTime date, int days) {
+  try {
+    return core::DateAdd(core::DateInterval::Days, days, date);
+  } catch (const core::DateRangeError&) {
+    return std::nullopt;
+  }
+}
 
 TableView* HoraList(Workplace& place, const char* name, const QString& title) {
   auto* table = new TableView;
@@ -37,9 +45,10 @@ HoraView::HoraView(Workplace& place, QWidget* parent)
     : QDialog(parent),
       place_(place),
       cityId_(place.Session.State.UserCityId),
+      shown_(place.Session.Time.Today()),
       caption_(MakeCaptionLabel("horaCaption")),
       previous_(MakeButton("previousDay", tr("&Previous day"))),
-      date_(MakeDateEdit("horaDate")),
+      date_(new DateEdit("horaDate")),
       next_(MakeButton("nextDay", tr("&Next day"))),
       city_(MakeButton("changeCity", tr("Change &city…"))),
       sunrise_(MakeCaptionLabel("sunrise")),
@@ -49,7 +58,7 @@ HoraView::HoraView(Workplace& place, QWidget* parent)
   setObjectName("horaView");
   setAttribute(Qt::WA_DeleteOnClose);
   LayOut();
-  date_->setDateTime(ToField(place.Session.Time.Today()));
+  date_->SetDate(shown_);
   Connect();
   CalcHora();
   if (!place_.Layout.RestoreWindow(*this)) {
@@ -72,7 +81,7 @@ QHBoxLayout* HoraView::BuildDates() {
   for (QWidget* widget : std::initializer_list<QWidget*>{previous_, date_, next_}) {
     row->addWidget(widget);
   }
-  row->addStretch();
+  row->addWidget(date_->MakeEcho(), 1);
   row->addWidget(city_);
   return row;
 }
@@ -98,7 +107,7 @@ QWidget* HoraView::BuildHalf(const QString& title, QLabel* sun, TableView* table
 }
 
 void HoraView::Connect() {
-  connect(date_, &QDateTimeEdit::dateChanged, this, &HoraView::CalcHora);
+  connect(date_, &DateEdit::Changed, this, &HoraView::CalcHora);
   connect(previous_, &QPushButton::clicked, this, [this] { Move(-1); });
   connect(next_, &QPushButton::clicked, this, [this] { Move(1); });
   connect(city_, &QPushButton::clicked, this, &HoraView::ChangeCity);
@@ -109,9 +118,11 @@ void HoraView::Connect() {
   next_->setToolTip(tr("Alt+Right"));
 }
 
-// A city that is gone leaves its caption and nothing else.
+// The horas of a date stay while another one is typed. A city that is gone leaves its caption and
+// nothing else.
 void HoraView::CalcHora() {
-  const auto view = panchang::CalcHora(place_.Session, FromField(date_->dateTime()), cityId_)
+  shown_ = date_->Date().value_or(shown_);
+  const auto view = panchang::CalcHora(place_.Session, shown_, cityId_)
                         .value_or(panchang::HoraView{Typed(windowTitle()), "", "", {}, {}});
   setWindowTitle(Shown(view.Title));
   caption_->setText(Shown(view.Title));
@@ -119,11 +130,15 @@ void HoraView::CalcHora() {
   sunset_->setText(view.Sunset.empty() ? "" : tr("Sunset: %1").arg(Shown(view.Sunset)));
   day_->SetTable(view.DayHoras);
   night_->SetTable(view.NightHoras);
-  previous_->setEnabled(date_->date() > date_->minimumDate());
-  next_->setEnabled(date_->date() < date_->maximumDate());
+  previous_->setEnabled(DayBeside(shown_, -1).has_value());
+  next_->setEnabled(DayBeside(shown_, 1).has_value());
 }
 
-void HoraView::Move(int days) { date_->setDate(date_->date().addDays(days)); }
+void HoraView::Move(int days) {
+  if (const std::optional<core::DateTime> day = DayBeside(shown_, days)) {
+    date_->SetDate(*day);
+  }
+}
 
 void HoraView::ChangeCity() {
   if (const std::optional<PickedCity> city = PickCity(place_, this)) {

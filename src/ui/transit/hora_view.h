@@ -5,13 +5,13 @@
 
 #include "ui/base/workplace.h"
 
-class QDateTimeEdit;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
 namespace orvex::ui {
 
+class DateEdit;
 class TableView;
 
 // Opens for the user city and today.
@@ -36,9 +36,10 @@ class HoraView final : public QDialog {
 
   Workplace& place_;
   std::int32_t cityId_;
+  core::DateTime shown_;
   QLabel* caption_;
   QPushButton* previous_;
-  QDateTimeEdit* date_;
+  DateEdit* date_;
   QPushButton* next_;
   QPushButton* city_;
   QLabel* sunrise_;

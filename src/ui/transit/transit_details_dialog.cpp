@@ -1,6 +1,5 @@
 #include "ui/transit/transit_details_dialog.h"
 
-#include <QDateTimeEdit>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QShortcut>
@@ -45,15 +44,14 @@ TransitDetailsDialog::TransitDetailsDialog(Workplace& place, transit::Planet pla
       tables_(new QStackedWidget),
       hours_(TimeTable(place, "hours")),
       minutes_(TimeTable(place, "minutes")),
-      picker_(MakeTimeEdit("picker")),
+      picker_(new TimeEdit("picker", TimeEdit::Shows::Minutes)),
       go_(MakeButton("go", tr("&Go"))),
       sky_(new SkyBoard(place, SkyBoard::Side::Horas)) {
   setObjectName("transitDetails");
   setModal(true);
   LayOut();
   Connect();
-  const QDateTime now = ToField(place.Session.Time.Now());
-  picker_->setDateTime(now.addSecs(-now.time().second()));
+  picker_->SetTime(core::TimeOfDayOf(place.Session.Time.Now()));
   ShowDay(planet, date);
   hours_->setFocus();
   if (!place_.Layout.RestoreWindow(*this)) {
@@ -109,7 +107,7 @@ QWidget* TransitDetailsDialog::BuildSky() {
   instant->addWidget(label);
   instant->addWidget(picker_);
   instant->addWidget(go_);
-  instant->addStretch();
+  instant->addWidget(picker_->MakeEcho(), 1);
   auto* half = new QWidget;
   auto* column = new QVBoxLayout(half);
   column->setContentsMargins(0, 0, 0, 0);
@@ -152,9 +150,6 @@ void TransitDetailsDialog::ShowDay(transit::Planet planet, core::DateTime date) 
   next_->setText(Shown(details.NextDay.Caption));
   next_->setEnabled(details.NextDay.Enabled);
   today_->setVisible(details.TodayLink);
-  QDateTime instant = ToField(date);
-  instant.setTime(picker_->time());
-  picker_->setDateTime(instant);
   ShowHours();
   ShowSky();
 }
@@ -183,7 +178,12 @@ void TransitDetailsDialog::ShowMinutes(const QString& hourTag) {
 }
 
 void TransitDetailsDialog::ShowSky() {
-  panchang::GetHeaderDetails(place_.Session, view_, FromField(picker_->dateTime()));
+  if (!picker_->Time()) {
+    picker_->setFocus();
+    return;
+  }
+  panchang::GetHeaderDetails(place_.Session, view_,
+                             core::DateOnly(Subject().Date) + *picker_->Time());
   sky_->ShowView(view_);
 }
 

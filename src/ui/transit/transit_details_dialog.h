@@ -6,7 +6,6 @@
 #include "transit/transit_details.h"
 #include "ui/transit/sky_board.h"
 
-class QDateTimeEdit;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -15,6 +14,7 @@ class QStackedWidget;
 namespace orvex::ui {
 
 class LinkButton;
+class TimeEdit;
 
 class TransitDetailsDialog final : public QDialog {
   Q_OBJECT
@@ -51,7 +51,7 @@ class TransitDetailsDialog final : public QDialog {
   QStackedWidget* tables_;
   TableView* hours_;
   TableView* minutes_;
-  QDateTimeEdit* picker_;
+  TimeEdit* picker_;
   QPushButton* go_;
   SkyBoard* sky_;
 };

@@ -1,7 +1,6 @@
 #include "ui/transit/transit_grid_page.h"
 
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QShowEvent>
@@ -68,7 +67,7 @@ TransitGridPage::TransitGridPage(Workplace& place)
       months_(List("months", tr("Month"))),
       years_(List("years", tr("Year"))),
       go_(MakeButton("goToMonth", tr("G&o"))),
-      time_(MakeTimeEdit("transitTime")),
+      time_(new TimeEdit("transitTime", TimeEdit::Shows::Minutes)),
       city_(MakeButton("changeCity", tr("Change c&ity…"))),
       title_(MakeCaptionLabel("gridTitle")),
       showGraph_(MakeButton("showGraph", tr("Gra&ph"))),
@@ -78,7 +77,7 @@ TransitGridPage::TransitGridPage(Workplace& place)
   setObjectName("transitGrid");
   FillLists();
   LayOut();
-  time_->setDateTime(ToField(view_.TransitTime));
+  time_->SetTime(core::TimeOfDayOf(view_.TransitTime));
   Connect();
 }
 
@@ -142,7 +141,8 @@ QHBoxLayout* TransitGridPage::BuildChoices() {
   at->setBuddy(time_);
   time_->setAccessibleName(tr("Time of day"));
   auto* row = new QHBoxLayout;
-  for (QWidget* widget : std::initializer_list<QWidget*>{months_, years_, go_, at, time_, city_}) {
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{months_, years_, go_, at, time_, time_->MakeEcho(), city_}) {
     row->addWidget(widget);
   }
   row->addStretch();
@@ -163,9 +163,11 @@ void TransitGridPage::Connect() {
   connect(previous_, &QPushButton::clicked, this, [this] { GoToTag(previousTag_); });
   connect(thisMonth_, &QPushButton::clicked, this, [this] { GoToTag(thisMonthTag_); });
   // Digits that are typed one after the other build the month once.
-  connect(time_, &QDateTimeEdit::dateTimeChanged, this, [this](const QDateTime& time) {
-    view_.TransitTime = FromField(time);
-    build_.start();
+  connect(time_, &TimeEdit::Changed, this, [this] {
+    if (const std::optional<core::TimeOfDay> time = time_->Time()) {
+      view_.TransitTime = core::DateOnly(view_.TransitTime) + *time;
+      build_.start();
+    }
   });
   connect(city_, &QPushButton::clicked, this, &TransitGridPage::ChangeCity);
   connect(find_, &QPushButton::clicked, this, &TransitGridPage::FindTransit);

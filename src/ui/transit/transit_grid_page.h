@@ -9,7 +9,6 @@
 #include "ui/base/workplace.h"
 
 class QComboBox;
-class QDateTimeEdit;
 class QHBoxLayout;
 class QLabel;
 class QModelIndex;
@@ -21,6 +20,7 @@ namespace orvex::ui {
 class LinkButton;
 class MonthGraphView;
 class TableView;
+class TimeEdit;
 
 // Follows the user city until another one is chosen here. The city and the time of day chosen stay
 // for as long as the page lives. The month is computed anew whenever the page comes into sight.
@@ -80,7 +80,7 @@ class TransitGridPage final : public QWidget {
   QComboBox* months_;
   QComboBox* years_;
   QPushButton* go_;
-  QDateTimeEdit* time_;
+  TimeEdit* time_;
   QPushButton* city_;
   QLabel* title_;
   QPushButton* showGraph_;
