@@ -2,7 +2,7 @@
 #include <swephexp.h>
 
 #include "bench_home.h"
-#include "transit/find_transit.h"
+#include "transit/find_transit_tool.h"
 #include "transit/monthly_grid.h"
 
 namespace orvex::bench {

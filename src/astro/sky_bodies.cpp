@@ -22,7 +22,7 @@ std::vector<SkyBody> SkyBodies(EphemerisGateway& ephemeris, const std::string& n
     rahu = DegreeToTheMinute(positionOf(node).Longitude);
     bodies.push_back({"Rahu", rahu, true});
   }
-  bodies.push_back({"Ketu", KetuDegree(rahu), true});
+  bodies.push_back({"Ketu", KetuOfSky(rahu), true});
   return bodies;
 }
 
@@ -47,7 +47,7 @@ int NodeNumber(const std::string& nodeMode) {
   return nodeMode == "T" ? kTrueNode : 0;
 }
 
-float KetuDegree(float rahu) {
+float KetuOfSky(float rahu) {
   const float opposite = rahu + 180;
   return opposite > 360 ? opposite - 360 : opposite;
 }

@@ -27,7 +27,8 @@ std::vector<SkyBody> SkyBodiesAt(EphemerisGateway& ephemeris, JulianDayEt day,
 // The library's number of the node in use; 0 for a mode that is neither "M" nor "T".
 int NodeNumber(const std::string& nodeMode);
 
-// The longitude of Ketu: opposite Rahu, less 360 when above 360.
-float KetuDegree(float rahu);
+// The longitude of Ketu in the sky and in the transit tables: opposite Rahu, less 360 when above
+// 360. Where Rahu stands at exactly 180 that is 360.00; a stored chart has 0.00 there.
+float KetuOfSky(float rahu);
 
 }  // namespace orvex::astro

@@ -206,7 +206,7 @@ void ComputeSunTimes(core::ApplicationState& state, core::DateTime date, float z
         CalcSunriseLocal(latitude, longitude, day.Year, day.Month, day.Day, zoneHours, 0));
   });
   const ClockTime rise = ClockTimeOf(sunrise);
-  state.SunriseText = core::PaddedWhole(rise.Hour, 1) + ":" + rise.MinuteText + " AM";
+  state.SunriseText = core::WholeText(rise.Hour) + ":" + rise.MinuteText + " AM";
 
   std::int64_t sunset = 0;
   core::Attempt([&] {
@@ -214,7 +214,7 @@ void ComputeSunTimes(core::ApplicationState& state, core::DateTime date, float z
         CalcSunsetLocal(latitude, longitude, day.Year, day.Month, day.Day, zoneHours, 0));
   });
   const ClockTime set = ClockTimeOf(sunset);
-  state.SunsetText = core::PaddedWhole(set.Hour - 12, 1) + ":" + set.MinuteText + " PM";
+  state.SunsetText = core::WholeText(set.Hour - 12) + ":" + set.MinuteText + " PM";
 }
 
 }  // namespace orvex::astro

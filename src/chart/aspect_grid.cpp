@@ -46,14 +46,14 @@ void FillSign(HoroscopeModel& model, std::size_t sign) {
   GridCell(model, GridRow::Element, sign).Text = kElements.at((sign - 1) % kElements.size());
   GridCell(model, GridRow::Modality, sign).Text = kModalities.at((sign - 1) % kModalities.size());
   core::Cell& number = GridCell(model, GridRow::RashiNo, sign);
-  number.Tag = core::PaddedWhole(rashi, 1);
+  number.Tag = core::WholeText(rashi);
   number.Text = number.Tag + (sign % 2 == 1 ? " (M)" : " (F)");
 }
 
 // A sign without a house keeps its own number and no tag.
 void FillHouse(HoroscopeModel& model, std::size_t sign) {
   core::Cell& cell = GridCell(model, GridRow::House, sign);
-  cell.Text = core::PaddedWhole(static_cast<int>(sign), 1);
+  cell.Text = core::WholeText(static_cast<int>(sign));
   cell.Bold = true;
   for (std::size_t row = 0; row < model.HouseTable.Rows.size(); ++row) {
     if (HouseText(model, row, HouseColumn::Rashi) == GridCell(model, GridRow::RashiNo, sign).Tag) {

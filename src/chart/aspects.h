@@ -4,7 +4,7 @@
 #include <string>
 
 #include "chart/horoscope_model.h"
-#include "core/application_state.h"
+#include "core/aspect_bands.h"
 
 namespace orvex::chart {
 

@@ -17,7 +17,10 @@ namespace {
 
 constexpr int kCusps = 12;
 
-std::string KetuDegree(const std::string& rahuDegree) {
+// Opposite Rahu, as a stored chart has it: 0.00, not 360.00, where Rahu stands at exactly 180,
+// because a sign and a star begin at 0 and none is found at 360. The sky and the transit tables
+// write 360.00 there (astro::KetuOfSky).
+std::string KetuOfChart(const std::string& rahuDegree) {
   const double rahu = core::ToDouble(rahuDegree);
   if (rahu == 180) {
     return "0.00";
@@ -97,15 +100,6 @@ std::vector<PlanetRow> ComputePlanets(core::Session& session,
   return PlanetsAt(session, {moment.JulianDayET.Days}, astro::kChartFlags);
 }
 
-// The house of Aries, from the sign of cusp 1.
-int FirstRashiHouse(const CuspRow& first) {
-  const int rashi = RashiOfDegree(core::ToDouble(first.DegStart));
-  if (rashi == 1) {
-    return 1;
-  }
-  return rashi == 12 ? 2 : 14 - rashi;
-}
-
 ChartResult Assemble(core::Session& session, const astro::EphemerisMoment& moment,
                      const std::vector<std::string>& cuspDegrees, std::vector<PlanetRow> planets) {
   ChartResult chart;
@@ -114,7 +108,7 @@ ChartResult Assemble(core::Session& session, const astro::EphemerisMoment& momen
   chart.Cusps = ComputeCusps(cuspDegrees);
   PlacePlanets(session.Reference, chart.Cusps, chart.Planets);
   session.Ephemeris.Close();
-  chart.FirstRashiHouse = FirstRashiHouse(chart.Cusps.front());
+  chart.FirstRashiHouse = HouseOfAries(RashiOfDegree(core::ToDouble(chart.Cusps.front().DegStart)));
   return chart;
 }
 
@@ -130,7 +124,7 @@ std::vector<PlanetRow> PlanetsAt(core::Session& session, astro::JulianDayUt day,
       rows.push_back(RowOf(session.Ephemeris.PlanetName(number), degree, position.Speed < 0));
     } else if (number == node) {
       rows.push_back(RowOf("Rahu", degree, false));
-      rows.push_back(RowOf("Ketu", KetuDegree(degree), false));
+      rows.push_back(RowOf("Ketu", KetuOfChart(degree), false));
     }
   }
   return rows;

@@ -43,7 +43,7 @@ std::optional<Refusal> CheckQuery(const ClientForm& form) {
 
 std::optional<Refusal> CheckPlace(const core::Session& session, const ClientForm& form) {
   if (form.CityId == 0) {
-    return Refuse("Please select a City from the list.", "cityList");
+    return Refuse(core::kNoCityChosen, "cityList");
   }
   if (std::optional<Refusal> refused = CheckOffset(form.Offset)) {
     return refused;

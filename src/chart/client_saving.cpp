@@ -20,12 +20,9 @@ using core::Quoted;
 
 constexpr std::size_t kLongestName = 100;
 constexpr std::size_t kLongestQuestion = 100;
-constexpr const char* kNoRecord = "The record you are trying to edit could not be retrieved.";
 
 // The columns of a statement with their values as they stand in it.
 using ColumnValues = std::vector<std::pair<std::string, std::string>>;
-
-std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
 
 AscendantChoice ChoiceOf(const ClientForm& form) {
   if (form.Horary) {
@@ -38,7 +35,7 @@ AscendantChoice ChoiceOf(const ClientForm& form) {
 std::string NumberValue(const std::string& text) { return core::Trim(text); }
 
 std::string HoraryNumberValue(const ClientForm& form) {
-  return form.Horary ? WholeText(core::ParseWhole(form.HoraryNumber).value()) : "0";
+  return form.Horary ? core::WholeText(core::ParseWhole(form.HoraryNumber).value()) : "0";
 }
 
 std::string QuestionValue(const ClientForm& form) {
@@ -52,7 +49,7 @@ std::string NameValue(const ClientForm& form) {
 
 void AppendCusps(const ChartResult& chart, ColumnValues& values) {
   for (const CuspRow& cusp : chart.Cusps) {
-    values.emplace_back("CuspDegree" + WholeText(cusp.Cusp), cusp.DegStart);
+    values.emplace_back("CuspDegree" + core::WholeText(cusp.Cusp), cusp.DegStart);
   }
 }
 
@@ -72,13 +69,13 @@ void AppendPersonAndQuery(const ClientForm& form, ColumnValues& values) {
 ColumnValues InsertValues(const ClientRecord& record, const std::string& created) {
   const ClientForm& form = record.Form;
   ColumnValues values = {{"fullname", NameValue(form)},
-                         {"cityid", WholeText(form.CityId)},
-                         {"groupid", WholeText(record.GroupId)},
+                         {"cityid", core::WholeText(form.CityId)},
+                         {"groupid", core::WholeText(record.GroupId)},
                          {"birthdate", DateLiteral(form.Birth)},
                          {"latitude", NumberValue(form.Latitude)},
                          {"longitude", NumberValue(form.Longitude)},
                          {"offset", NumberValue(form.Offset)},
-                         {"firstrashihouse", WholeText(record.Chart.FirstRashiHouse)}};
+                         {"firstrashihouse", core::WholeText(record.Chart.FirstRashiHouse)}};
   AppendPersonAndQuery(form, values);
   values.emplace_back("createddate", created);
   AppendCusps(record.Chart, values);
@@ -87,12 +84,12 @@ ColumnValues InsertValues(const ClientRecord& record, const std::string& created
 
 ColumnValues UpdateValues(const ClientForm& form, const ChartResult& chart) {
   ColumnValues values = {{"fullname", NameValue(form)},
-                         {"cityid", WholeText(form.CityId)},
+                         {"cityid", core::WholeText(form.CityId)},
                          {"birthdate", DateLiteral(form.Birth)},
                          {"offset", NumberValue(form.Offset)},
                          {"latitude", NumberValue(form.Latitude)},
                          {"longitude", NumberValue(form.Longitude)},
-                         {"firstrashihouse", WholeText(chart.FirstRashiHouse)}};
+                         {"firstrashihouse", core::WholeText(chart.FirstRashiHouse)}};
   AppendPersonAndQuery(form, values);
   AppendCusps(chart, values);
   return values;
@@ -102,7 +99,7 @@ ColumnValues UpdateValues(const ClientForm& form, const ChartResult& chart) {
 // refuses the statement.
 ColumnValues PlanetValues(const PlanetRow& planet) {
   const auto house = [](const std::optional<int>& number) {
-    return number ? WholeText(*number) : std::string();
+    return number ? core::WholeText(*number) : std::string();
   };
   return {{"rashihouse", house(planet.RashiHouse)},
           {"chalithouse", house(planet.ChalitHouse)},
@@ -137,8 +134,8 @@ int PlanetId(const core::Session& session, const PlanetRow& planet) {
 
 void InsertPlanets(core::Session& session, std::int32_t clientId, const ChartResult& chart) {
   for (const PlanetRow& planet : chart.Planets) {
-    ColumnValues values = {{"clientid", WholeText(clientId)},
-                           {"planetid", WholeText(PlanetId(session, planet))}};
+    ColumnValues values = {{"clientid", core::WholeText(clientId)},
+                           {"planetid", core::WholeText(PlanetId(session, planet))}};
     const ColumnValues rest = PlanetValues(planet);
     values.insert(values.end(), rest.begin(), rest.end());
     session.StoreConnection.Execute(InsertStatement("client_planets", values));
@@ -148,7 +145,7 @@ void InsertPlanets(core::Session& session, std::int32_t clientId, const ChartRes
 void UpdateClient(core::Session& session, const ClientForm& form, const ChartResult& chart,
                   std::int32_t clientId) {
   core::Store& store = session.StoreConnection;
-  const std::string id = WholeText(clientId);
+  const std::string id = core::WholeText(clientId);
   core::Batch batch(store);
   store.Execute(UpdateStatement("client_master", UpdateValues(form, chart), "id = " + id));
   SyncStore(store);
@@ -157,7 +154,7 @@ void UpdateClient(core::Session& session, const ClientForm& form, const ChartRes
   for (const PlanetRow& planet : chart.Planets) {
     store.Execute(UpdateStatement(
         "client_planets", PlanetValues(planet),
-        "planetid = " + WholeText(PlanetId(session, planet)) + " and clientid = " + id));
+        "planetid = " + core::WholeText(PlanetId(session, planet)) + " and clientid = " + id));
   }
   SyncStore(store);
   batch.Commit();
@@ -196,7 +193,7 @@ std::optional<CityPlace> PlaceOfCity(const core::Session& session, std::int32_t 
   const core::Result city = session.StoreConnection.Query(
       "Select cm.*, tm.countrycode from city_master cm, timezone_master tm "
       "where cm.timezone = tm.timezone and cm.id = " +
-      WholeText(cityId));
+      core::WholeText(cityId));
   if (city.AtEnd()) {
     return std::nullopt;
   }
@@ -221,10 +218,9 @@ ClientForm OpenAddClient(const core::Session& session) {
 
 std::optional<ClientForm> OpenEditClient(core::Session& session, std::int32_t clientId) {
   const core::Result row = session.StoreConnection.Query("Select * from client_master where id = " +
-                                                         WholeText(clientId));
+                                                         core::WholeText(clientId));
   if (row.AtEnd()) {
-    session.Shown.ShowMessage(kNoRecord, core::MessageButtons::Ok, core::MessageIcon::Stop);
-    return std::nullopt;
+    return core::TellRecordGone(session);
   }
   ClientForm form;
   form.Horary = row.Flag("horary");

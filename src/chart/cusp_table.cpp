@@ -22,7 +22,7 @@ void FillStar(const core::ReferenceData& reference, double degree, core::Table& 
               std::size_t row) {
   const StarAndPada star = StarOfDegree(reference, degree);
   table.At(row, CuspColumn::Nakshatra).Text = star.Star->StarName;
-  table.At(row, CuspColumn::Pada).Text = core::PaddedWhole(star.Pada->Pada, 1);
+  table.At(row, CuspColumn::Pada).Text = core::WholeText(star.Pada->Pada);
 }
 
 }  // namespace

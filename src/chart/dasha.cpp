@@ -12,8 +12,6 @@ namespace {
 
 constexpr const char* kFirstDashaTint = "FEF9D1";
 
-std::string WholeText(int number) { return core::PaddedWhole(number, 1); }
-
 std::string DateText(core::DateTime date) { return core::LongDateText(date, true); }
 
 std::string SpanTag(const Period& period) {
@@ -99,9 +97,9 @@ core::Table EmptyDashaList() {
 void AddDasha(const Period& period, core::Table& table) {
   table.AddRow();
   const std::size_t row = table.Rows.size() - 1;
-  table.At(row, DashaColumn::Sequence).Text = WholeText(period.Planet.Sequence);
+  table.At(row, DashaColumn::Sequence).Text = core::WholeText(period.Planet.Sequence);
   table.At(row, DashaColumn::Planet).Text = period.Planet.Name;
-  table.At(row, DashaColumn::DashaYears).Text = WholeText(period.Planet.Years);
+  table.At(row, DashaColumn::DashaYears).Text = core::WholeText(period.Planet.Years);
   WriteEnd(table.At(row, DashaColumn::EndDate), period);
 }
 
@@ -131,9 +129,7 @@ void FillDashaList(const DashaCycle& cycle, HoroscopeModel& model) {
       core::ToDouble(stars.At(quarter, StarColumn::StartDegree).Text),
       static_cast<int>(core::ParseWhole(stars.At(quarter, StarColumn::Pada).Text).value()),
       first->Years);
-  model.Captions.DashaBalance =
-      first->Name + " Dasha balance at birth: " + WholeText(balance.Years) + " Year(s), " +
-      WholeText(balance.Months) + " Month(s), " + WholeText(balance.Days) + " Day(s)";
+  model.Captions.DashaBalance = BalanceText(first->Name, balance);
   for (const Period& period : DashaPeriods(cycle, *first, model.Birth, balance)) {
     AddDasha(period, model.Periods.DashaList);
   }
@@ -288,7 +284,7 @@ void WriteCurrentDba(HoroscopeModel& model) {
       "Current DBA: " + selected(model.Periods.DashaList, DashaColumn::Planet) + "/" +
       selected(model.Periods.BhuktiList, PeriodColumn::Planet) + "/" +
       selected(model.Periods.AntaraList, PeriodColumn::Planet) +
-      "  |  Current BCP House: " + WholeText(house);
+      "  |  Current BCP House: " + core::WholeText(house);
 }
 
 void AppendDashaTooltips(HoroscopeModel& model) {

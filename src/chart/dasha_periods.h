@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "chart/dasha_balance.h"
 #include "chart/dasha_cycle.h"
 #include "core/date_text.h"
 
@@ -16,18 +17,6 @@ struct Period {
   core::DateTime Start;
   core::DateTime End;
 };
-
-// Years, months and days of the first period that are left at birth.
-struct DashaBalance {
-  int Years = 0;
-  int Months = 0;
-  int Days = 0;
-};
-
-// The balance of the first period for a Moon that stands `moonDegree` in a quarter (1 to 4) that
-// begins at `quarterBegin`, both in degrees of two decimals; the lord of the star rules `years`.
-// Every step is rounded, and of the years only two digits of the fraction count.
-DashaBalance BalanceAtBirth(double moonDegree, double quarterBegin, int quarter, int years);
 
 // The nine periods from that of `first`, which ends at birth plus the balance. The first one begins
 // before birth. core::DateRangeError outside the years 100 to 9999, also below.

@@ -139,7 +139,7 @@ int CountOf(const core::Cell& cell) {
 }
 
 void AddToCount(core::Cell& cell, int more) {
-  cell.Text = core::PaddedWhole(CountOf(cell) + more, 1);
+  cell.Text = core::WholeText(CountOf(cell) + more);
   cell.Background = kCountColor;
 }
 
@@ -181,7 +181,7 @@ void FillHouseCount(HoroscopeModel& model) {
   core::Table& table = model.DBAHouseCount;
   table = {{{"House", 100}}, {}};
   for (int house = 1; house <= static_cast<int>(kHouses); ++house) {
-    table.Columns.push_back({core::PaddedWhole(house, 1), 50});
+    table.Columns.push_back({core::WholeText(house), 50});
   }
   for (std::size_t row = 0; row < kCountRows.size(); ++row) {
     table.AddRow().Cells.front().Text = kCountRows.at(row);

@@ -42,24 +42,6 @@ std::string CuspMark(const HoroscopeModel& model, std::size_t planetRow) {
   return mark;
 }
 
-// A degree below 30 stands as it is.
-std::string DegreeInSign(const std::string& degree) {
-  constexpr double kSignDegrees = 30;
-  const double longitude = core::ToDouble(degree);
-  if (longitude < kSignDegrees) {
-    return degree;
-  }
-  return core::TwoDecimals(longitude - (RashiOfDegree(longitude) - 1) * kSignDegrees);
-}
-
-std::string PositionText(const HoroscopeModel& model, std::size_t row, char degreeCalc) {
-  const std::string& degree = PlanetText(model, row, PlanetColumn::Degree);
-  std::string marks = PlanetText(model, row, PlanetColumn::C) == "C" ? "*" : "";
-  marks += PlanetText(model, row, PlanetColumn::R) == "R" ? "~" : "";
-  return CodeOfRow(model, row) + marks + " (" + PlanetText(model, row, PlanetColumn::In) +
-         ") = " + (degreeCalc == 'R' ? DegreeInSign(degree) : degree) + "    ";
-}
-
 void AddSignification(HoroscopeModel& model, std::size_t row) {
   core::Table& table = model.FourStepTable;
   table.At(row, SignificationColumn::Planet).Text = CodeOfRow(model, row);
@@ -92,21 +74,9 @@ bool GivesItself(const HoroscopeModel& model, std::size_t row) {
   return tenancy == "Untenanted" || tenancy == "Self";
 }
 
-void WriteStatusBar(HoroscopeModel& model, char degreeCalc) {
-  std::string ascendant = model.CuspTable.At(0, CuspColumn::Degree).Text;
-  if (degreeCalc == 'R') {
-    const std::string sign = RashiName(RashiOfDegree(core::ToDouble(ascendant)));
-    ascendant = core::FirstCharacters(sign, 3) + " " + DegreeInSign(ascendant);
-  }
-  model.Captions.StatusBar = "Asc = " + ascendant + "  |  " +
-                             core::Trim(model.Captions.PlanetPositions) +
-                             "  |  * = Combust, ~ = Retro";
-}
-
 }  // namespace
 
-void BuildFourStep(HoroscopeModel& model, char statusBarDegreeCalc) {
-  model.Captions.PlanetPositions.clear();
+void BuildFourStep(HoroscopeModel& model) {
   model.FourStepTable = {{{"PL", 40}, {"Deg", 40}, {"Sig", 60}}, {}};
   model.FourStepRows = {
       {{"Planet", 75}, {"Step 1", 120}, {"Step 2", 120}, {"Step 3", 120}, {"Step 4", 120}}, {}};
@@ -116,14 +86,11 @@ void BuildFourStep(HoroscopeModel& model, char statusBarDegreeCalc) {
     model.FourStepRows.At(row, FourStepColumn::Planet).Text =
         PlanetText(model, row, PlanetColumn::Planet);
     model.FourStepTable.AddRow();
-    core::Attempt(
-        [&] { model.Captions.PlanetPositions += PositionText(model, row, statusBarDegreeCalc); });
     core::Attempt([&] { AddSignification(model, row); });
   }
   for (std::size_t row = 0; row < planets; ++row) {
     core::Attempt([&] { FourStepCheck(model, PlanetText(model, row, PlanetColumn::Planet), row); });
   }
-  core::Attempt([&] { WriteStatusBar(model, statusBarDegreeCalc); });
 }
 
 void FourStepCheck(HoroscopeModel& model, const std::string& planetName, std::size_t rowIndex) {

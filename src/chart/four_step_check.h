@@ -11,9 +11,8 @@ namespace orvex::chart {
 enum class SignificationColumn { Planet, Degree, Sig };
 enum class FourStepColumn { Planet, Step1, Step2, Step3, Step4 };
 
-// Rebuilds FourStepTable, FourStepRows, the positions line and the status bar.
-// `statusBarDegreeCalc` 'A' shows degrees of the circle there, 'R' degrees within the sign.
-void BuildFourStep(HoroscopeModel& model, char statusBarDegreeCalc);
+// Rebuilds FourStepTable and FourStepRows.
+void BuildFourStep(HoroscopeModel& model);
 
 // Fills the row of a planet. A planet that is not in the table leaves its row empty.
 void FourStepCheck(HoroscopeModel& model, const std::string& planetName, std::size_t rowIndex);

@@ -89,6 +89,13 @@ void PlaceOverAries(const std::vector<CuspSpan>& spans, PlanetRow& planet) {
 
 }  // namespace
 
+int HouseOfAries(int firstRashi) { return firstRashi == 1 ? 1 : 14 - firstRashi; }
+
+int RashiOfHouse(int house, int houseOfAries) {
+  constexpr int kSigns = 12;
+  return ((house - houseOfAries) % kSigns + kSigns) % kSigns + 1;
+}
+
 void PlacePlanets(const core::ReferenceData& reference, const std::vector<CuspRow>& cusps,
                   std::vector<PlanetRow>& planets) {
   const std::vector<CuspSpan> spans = SpansOf(cusps);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "chart/house_placement.h"
 #include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
@@ -23,8 +24,6 @@ constexpr std::array<AspectHouse, 7> kAspectHouses = {{{HouseColumn::Asp3, 3},
                                                        {HouseColumn::Asp8, 8},
                                                        {HouseColumn::Asp9, 9},
                                                        {HouseColumn::Asp10, 10}}};
-
-std::string WholeText(int number) { return core::PaddedWhole(number, 1); }
 
 void AppendWord(std::string& text, const std::string& word) {
   text = core::Trim(text + " " + word);
@@ -71,9 +70,10 @@ void AddHouseRows(HoroscopeModel& model) {
   for (int house = 1; house <= static_cast<int>(kHouses); ++house) {
     model.HouseTable.AddRow();
     const auto row = static_cast<std::size_t>(house) - 1;
-    model.HouseTable.At(row, HouseColumn::House).Text = WholeText(house);
+    model.HouseTable.At(row, HouseColumn::House).Text = core::WholeText(house);
     for (const AspectHouse& aspect : kAspectHouses) {
-      model.HouseTable.At(row, aspect.Column).Text = WholeText(HouseOnFrom(house, aspect.Places));
+      model.HouseTable.At(row, aspect.Column).Text =
+          core::WholeText(HouseOnFrom(house, aspect.Places));
     }
   }
 }
@@ -83,7 +83,7 @@ void FillCusps(HoroscopeModel& model, const std::array<std::string, kHouses>& cu
     core::Attempt([&] {
       model.HouseTable.At(row, HouseColumn::CuspDegree).Text = cuspDegrees.at(row);
       const int rashi = RashiOfDegree(core::ToDouble(cuspDegrees.at(row)));
-      model.HouseTable.At(row, HouseColumn::KpChartRashi).Text = WholeText(rashi);
+      model.HouseTable.At(row, HouseColumn::KpChartRashi).Text = core::WholeText(rashi);
       model.HouseTable.At(row, HouseColumn::KpChartRashiOwner).Text = RashiLordName(rashi);
     });
   }
@@ -91,10 +91,9 @@ void FillCusps(HoroscopeModel& model, const std::array<std::string, kHouses>& cu
 
 void FillRashis(const core::ReferenceData& reference, HoroscopeModel& model) {
   for (std::size_t row = 0; row < kHouses; ++row) {
-    const int fromAries = static_cast<int>(row) + 1 - model.FirstRashiHouse;
-    const int rashi = (fromAries % 12 + 12) % 12 + 1;
+    const int rashi = RashiOfHouse(static_cast<int>(row) + 1, model.FirstRashiHouse);
     core::Cell& cell = model.HouseTable.At(row, HouseColumn::Rashi);
-    cell.Text = WholeText(rashi);
+    cell.Text = core::WholeText(rashi);
     core::Attempt(
         [&] { cell.Tag = SignFacts(reference.Signs.at(static_cast<std::size_t>(rashi) - 1)); });
   }
@@ -113,7 +112,7 @@ void FillBcPlanets(HoroscopeModel& model, const std::vector<StoredPlanet>& plane
 
 void FillRcPlanets(HoroscopeModel& model, const std::vector<StoredPlanet>& planets) {
   for (const StoredPlanet& planet : planets) {
-    const std::string rashi = WholeText(RashiOfDegree(planet.Degree));
+    const std::string rashi = core::WholeText(RashiOfDegree(planet.Degree));
     if (const std::optional<std::size_t> row = HouseOfRashi(model, rashi)) {
       AppendWord(model.HouseTable.At(*row, HouseColumn::RcPlanets).Text, planet.Code);
     }
@@ -122,7 +121,7 @@ void FillRcPlanets(HoroscopeModel& model, const std::vector<StoredPlanet>& plane
 
 void FillRashiLords(const core::ReferenceData& reference, HoroscopeModel& model) {
   for (const core::SignRow& sign : reference.Signs) {
-    if (const std::optional<std::size_t> row = HouseOfRashi(model, WholeText(sign.Rashi))) {
+    if (const std::optional<std::size_t> row = HouseOfRashi(model, core::WholeText(sign.Rashi))) {
       core::Cell& cell = model.HouseTable.At(*row, HouseColumn::RashiLord);
       cell.Text = WithHouses(model, sign.RulingPlanet);
       cell.Tag = sign.RulingPlanet;

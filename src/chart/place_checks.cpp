@@ -9,8 +9,19 @@ namespace {
 
 constexpr double kFarthestOffset = 27;
 
-core::Refusal Refuse(const char* text, const char* field) {
+core::Refusal Refuse(const std::string& text, const char* field) {
   return {text, core::MessageIcon::Information, field};
+}
+
+std::optional<core::Refusal> CheckCoordinate(const std::string& text, const std::string& name,
+                                             const char* field) {
+  if (core::Trim(text).empty()) {
+    return Refuse(name + " is a mandatory field.", field);
+  }
+  if (!core::IsNumeric(text)) {
+    return Refuse(name + " is a numeric field.", field);
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -27,23 +38,11 @@ std::optional<core::Refusal> CheckOffset(const std::string& offset) {
 }
 
 std::optional<core::Refusal> CheckLatitude(const std::string& latitude) {
-  if (core::Trim(latitude).empty()) {
-    return Refuse("Latitude is a mandatory field.", "latitude");
-  }
-  if (!core::IsNumeric(latitude)) {
-    return Refuse("Latitude is a numeric field.", "latitude");
-  }
-  return std::nullopt;
+  return CheckCoordinate(latitude, "Latitude", "latitude");
 }
 
 std::optional<core::Refusal> CheckLongitude(const std::string& longitude) {
-  if (core::Trim(longitude).empty()) {
-    return Refuse("Longitude is a mandatory field.", "longitude");
-  }
-  if (!core::IsNumeric(longitude)) {
-    return Refuse("Longitude is a numeric field.", "longitude");
-  }
-  return std::nullopt;
+  return CheckCoordinate(longitude, "Longitude", "longitude");
 }
 
 }  // namespace orvex::chart

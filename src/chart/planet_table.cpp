@@ -12,8 +12,6 @@ namespace orvex::chart {
 
 namespace {
 
-std::string WholeText(int number) { return core::PaddedWhole(number, 1); }
-
 std::string GenderText(const std::string& letter) {
   if (letter == "M") {
     return "Male";
@@ -51,7 +49,7 @@ void FillName(const PlanetFill& fill) {
   cell.Text = fill.Planet.Name;
   cell.Tooltip = "Astro Number for " + fill.Planet.Name + ": " + fill.Planet.AstroNumber +
                  " | Dasha Years: " + fill.Planet.DashaYears;
-  const std::optional<std::size_t> house = HouseOfRashi(fill.Model, WholeText(fill.Rashi()));
+  const std::optional<std::size_t> house = HouseOfRashi(fill.Model, core::WholeText(fill.Rashi()));
   cell.Tag = house ? HouseText(fill.Model, *house, HouseColumn::House) : "";
   core::Cell& tenancy = fill.Cell(PlanetColumn::Stu);
   tenancy.Tag = PlanetCode(fill.Planet.Name);
@@ -59,7 +57,7 @@ void FillName(const PlanetFill& fill) {
 
 void FillSign(const PlanetFill& fill) {
   core::Cell& cell = fill.Cell(PlanetColumn::Rashi);
-  cell.Tag = WholeText(fill.Rashi());
+  cell.Tag = core::WholeText(fill.Rashi());
   cell.Text = fill.Sign().Zodiac;
 }
 
@@ -84,7 +82,7 @@ void FillOwner(const PlanetFill& fill) {
   for (std::size_t row = 0; row < kHouses; ++row) {
     const std::string& rashi = HouseText(fill.Model, row, HouseColumn::KpChartRashi);
     for (const core::SignRow& sign : fill.Reference.Signs) {
-      if (WholeText(sign.Rashi) == rashi && sign.RulingPlanet == fill.Planet.Name) {
+      if (core::WholeText(sign.Rashi) == rashi && sign.RulingPlanet == fill.Planet.Name) {
         houses = core::Trim(houses + " " + HouseText(fill.Model, row, HouseColumn::House));
       }
     }
@@ -120,7 +118,7 @@ void FillStar(const PlanetFill& fill) {
   core::Cell& name = fill.Cell(PlanetColumn::Nakshatra);
   name.Text = star.Star->StarName;
   name.Tooltip = "Gender: " + GenderText(star.Star->Gender);
-  fill.Cell(PlanetColumn::Pada).Text = WholeText(star.Pada->Pada);
+  fill.Cell(PlanetColumn::Pada).Text = core::WholeText(star.Pada->Pada);
   fill.Cell(PlanetColumn::Gunas).Text =
       core::Join({star.Star->Guna1, star.Star->Guna2, star.Star->Guna3}, " ");
 }
@@ -231,8 +229,8 @@ void FillStarTable(const core::ReferenceData& reference, HoroscopeModel& model) 
       table.At(row, StarColumn::Guna2).Text = star.Guna2;
       table.At(row, StarColumn::Guna3).Text = star.Guna3;
       table.At(row, StarColumn::StarLord).Text = star.StarLord;
-      table.At(row, StarColumn::Rashi).Text = WholeText(pada.Rashi);
-      table.At(row, StarColumn::Pada).Text = WholeText(pada.Pada);
+      table.At(row, StarColumn::Rashi).Text = core::WholeText(pada.Rashi);
+      table.At(row, StarColumn::Pada).Text = core::WholeText(pada.Pada);
       table.At(row, StarColumn::StartDegree).Text = core::DoubleText(pada.StartCDegree);
       table.At(row, StarColumn::EndDegree).Text = core::DoubleText(pada.EndCDegree);
     }

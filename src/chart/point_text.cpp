@@ -17,7 +17,7 @@ std::string PointText(const core::ReferenceData& reference, double degree) {
   });
   core::Attempt([&] {
     const StarAndPada star = StarOfDegree(reference, degree);
-    text += "  |  " + star.Star->StarName + " - Pada " + core::PaddedWhole(star.Pada->Pada, 1);
+    text += "  |  " + star.Star->StarName + " - Pada " + core::WholeText(star.Pada->Pada);
   });
   return text;
 }

@@ -12,8 +12,6 @@ namespace orvex::chart {
 
 namespace {
 
-std::string WholeText(int number) { return core::PaddedWhole(number, 1); }
-
 // The number that a house has when counted from another one.
 int CountedFrom(int first, int house) { return (house - first + 12) % 12 + 1; }
 
@@ -26,7 +24,7 @@ std::string RotatedList(const std::string& houses, int first) {
   }
   std::string rotated;
   for (std::size_t i = 0; i < marked.size(); ++i) {
-    rotated += marked.at(i) ? WholeText(static_cast<int>(i) + 1) + " " : "";
+    rotated += marked.at(i) ? core::WholeText(static_cast<int>(i) + 1) + " " : "";
   }
   return core::Trim(rotated);
 }
@@ -52,7 +50,7 @@ void RotateHouses(const BirthTables& birth, HoroscopeModel& model, int first) {
 void RotateCusps(const BirthTables& birth, HoroscopeModel& model, int first) {
   for (std::size_t row = 0; row < kHouses; ++row) {
     model.CuspTable.Rows[row] = birth.CuspTable.Rows[SourceRow(row, first)];
-    model.CuspTable.At(row, CuspColumn::House).Text = WholeText(static_cast<int>(row) + 1);
+    model.CuspTable.At(row, CuspColumn::House).Text = core::WholeText(static_cast<int>(row) + 1);
   }
 }
 
@@ -71,11 +69,11 @@ void RotatePlanet(core::Table& planets, std::size_t row, int first) {
   }
 }
 
-std::string RotatedTitle(const std::string& title, int house) {
-  return title + " (Rotated to " + WholeText(house) + ")";
-}
-
 }  // namespace
+
+std::string RotationMark(int house) {
+  return house == 1 ? "" : " (Rotated to " + core::WholeText(house) + ")";
+}
 
 BirthTables TakeBirthTables(const HoroscopeModel& model) {
   return {model.HouseTable, model.CuspTable, model.PlanetTable, model.Captions.Title};
@@ -85,10 +83,10 @@ core::Table RotatedRows(const HoroscopeModel& model, int house) {
   core::Table table{{{"H"}, {"Rashi"}, {"KP"}, {"Cusp Deg"}, {"BC Planets"}, {"RC Planets"}}, {}};
   for (std::size_t row = 0; row < kHouses; ++row) {
     const std::string rashi = house == 1
-                                  ? WholeText(static_cast<int>(row) + 1)
+                                  ? core::WholeText(static_cast<int>(row) + 1)
                                   : HouseText(model, SourceRow(row, house), HouseColumn::Rashi);
     table.AddRow();
-    table.At(row, RotatedColumn::H).Text = WholeText(static_cast<int>(row) + 1);
+    table.At(row, RotatedColumn::H).Text = core::WholeText(static_cast<int>(row) + 1);
     table.At(row, RotatedColumn::Rashi).Text = rashi;
     if (const std::optional<std::size_t> source = HouseOfRashi(model, rashi)) {
       table.At(row, RotatedColumn::Kp).Text = HouseText(model, *source, HouseColumn::KpChartRashi);
@@ -122,7 +120,7 @@ void RotateTables(const core::ReferenceData& reference, const BirthTables& birth
   AppendOwnedHouses(model);
   FillRashiLords(reference, model);
   FillSignLords(model);
-  model.Captions.Title = RotatedTitle(birth.Title, house);
+  model.Captions.Title = birth.Title + RotationMark(house);
 }
 
 }  // namespace orvex::chart

@@ -18,6 +18,9 @@ struct BirthTables {
 
 BirthTables TakeBirthTables(const HoroscopeModel& model);
 
+// What stands behind the name in titles: " (Rotated to 5)"; "" for house 1.
+std::string RotationMark(int house);
+
 // The twelve rows from a house (1 to 12) on. From house 1 the signs stand in the plain order of the
 // zodiac, from any other house in the order of the houses.
 core::Table RotatedRows(const HoroscopeModel& model, int house);

@@ -109,7 +109,7 @@ std::string Ascending(const std::string& houses) {
   }
   std::string ascending;
   for (std::size_t i = 0; i < marked.size(); ++i) {
-    Append(ascending, marked.at(i) ? core::PaddedWhole(static_cast<int>(i) + 1, 1) : "");
+    Append(ascending, marked.at(i) ? core::WholeText(static_cast<int>(i) + 1) : "");
   }
   return ascending;
 }
@@ -138,7 +138,7 @@ void CountNadiHouses(HoroscopeModel& model) {
   core::Table& table = model.NadiHouseTimes;
   table = {{{"House", 50}}, {}};
   for (int house = 1; house <= static_cast<int>(kHouses); ++house) {
-    table.Columns.push_back({core::PaddedWhole(house, 1), 27, "", true});
+    table.Columns.push_back({core::WholeText(house), 27, "", true});
   }
   std::array<int, kHouses> times{};
   for (std::size_t row = 0; row < model.NadiTable.Rows.size(); ++row) {
@@ -150,7 +150,7 @@ void CountNadiHouses(HoroscopeModel& model) {
   core::Row& counts = table.AddRow();
   counts.Cells.front().Text = "Times";
   for (std::size_t house = 0; house < kHouses; ++house) {
-    counts.Cells.at(house + 1).Text = core::PaddedWhole(times.at(house), 1);
+    counts.Cells.at(house + 1).Text = core::WholeText(times.at(house));
   }
 }
 

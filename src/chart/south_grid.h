@@ -12,7 +12,10 @@ inline constexpr std::size_t kSouthSide = 4;
 inline constexpr std::array<std::array<int, kSouthSide>, kSouthSide> kSouthSigns = {
     {{12, 1, 2, 3}, {11, 0, 0, 4}, {10, 0, 0, 5}, {9, 8, 7, 6}}};
 
-inline constexpr const char* kAscendantTint = "FFFBB3";
+// Whether a cell lies in the empty middle.
+constexpr bool IsSouthMiddle(std::size_t row, std::size_t column) {
+  return kSouthSigns.at(row).at(column) == 0;
+}
 
 struct SouthCell {
   int Sign = 0;

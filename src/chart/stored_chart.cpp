@@ -27,7 +27,7 @@ std::vector<StoredPlanet> LoadPlanets(const core::Session& session, std::int32_t
            "Select pm.id as plid, pm.planetname, pm.planetcode, pm.astronumber, pm.dashayears, "
            "cp.degree, cp.rashihouse, cp.chalithouse, cp.starlord, cp.sublord, cp.inretro "
            "from planet_master pm, client_planets cp where cp.planetid = pm.id and cp.clientid = " +
-           core::PaddedWhole(clientId, 1) + " order by " + OrderText(order));
+           core::WholeText(clientId) + " order by " + OrderText(order));
        !row.AtEnd(); row.Next()) {
     planets.push_back({row.Text("plid"), row.Text("planetname"), row.Text("planetcode"),
                        row.Text("astronumber"), row.Text("dashayears"), row.Number("degree"),

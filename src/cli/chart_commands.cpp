@@ -84,16 +84,16 @@ Json ChartJson(const chart::ChartResult& chart) {
 }
 
 std::string HouseText(const std::optional<int>& house) {
-  return house ? core::PaddedWhole(*house, 1) : "";
+  return house ? core::WholeText(*house) : "";
 }
 
 core::Table CuspTable(const chart::ChartResult& chart) {
   core::Table table{{{"Cusp"}, {"Deg Start"}, {"Deg End"}, {"Rashi House"}}, {}};
   for (const chart::CuspRow& cusp : chart.Cusps) {
-    table.Rows.push_back({{{core::PaddedWhole(cusp.Cusp, 1)},
+    table.Rows.push_back({{{core::WholeText(cusp.Cusp)},
                            {cusp.DegStart},
                            {cusp.DegEnd},
-                           {core::PaddedWhole(cusp.RashiHouse, 1)}}});
+                           {core::WholeText(cusp.RashiHouse)}}});
   }
   return table;
 }

@@ -16,7 +16,7 @@ horoscope::OpenedHoroscope OpenHoroscope(Context& context, const std::string& id
   std::optional<horoscope::OpenedHoroscope> opened =
       horoscope::CreateHoroscope(context.Reading(), WholeOption("ID", id));
   if (!opened) {
-    throw CommandFailed("There is no client with that id.");
+    throw CommandFailed(core::kNoClientWithId);
   }
   return std::move(*opened);
 }

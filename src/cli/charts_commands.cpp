@@ -34,7 +34,7 @@ void PrintGrid(const report::SouthGrid& grid) {
 void PrintCells(const char* caption, const std::array<core::Cell, chart::kHouses>& cells) {
   core::Table table{{{caption}, {"Planets"}}, {}};
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    table.Rows.push_back({{{core::PaddedWhole(static_cast<int>(i) + 1, 1)}, cells.at(i)}});
+    table.Rows.push_back({{{core::WholeText(static_cast<int>(i) + 1)}, cells.at(i)}});
   }
   PrintTable(table);
 }
@@ -64,7 +64,7 @@ void RunCharts(Context& context, const ChartStyleOptions& options, const std::st
   const horoscope::OpenedHoroscope opened = OpenHoroscope(context, options.Id);
   const report::ChartCells cells = report::BuildChartCells(opened.Model);
   if (!pictures.empty()) {
-    WritePictures(cells, StyleOf(context, options), core::PaddedWhole(opened.Model.ClientId, 1),
+    WritePictures(cells, StyleOf(context, options), core::WholeText(opened.Model.ClientId),
                   pictures);
   }
   if (context.Json) {

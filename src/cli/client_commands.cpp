@@ -160,7 +160,7 @@ core::Result ClientRow(const core::Session& session, const std::string& id) {
       "left join group_master gm on gm.id = cm.groupid where cm.id = " +
       id);
   if (row.AtEnd()) {
-    throw CommandFailed("There is no client with that id.");
+    throw CommandFailed(core::kNoClientWithId);
   }
   return row;
 }
@@ -168,7 +168,7 @@ core::Result ClientRow(const core::Session& session, const std::string& id) {
 core::Table StoredCusps(const core::Result& client) {
   core::Table table{{{"Cusp"}, {"Degree"}}, {}};
   for (int cusp = 1; cusp <= 12; ++cusp) {
-    const std::string number = core::PaddedWhole(cusp, 1);
+    const std::string number = core::WholeText(cusp);
     const double degree = client.Number("CuspDegree" + number);
     table.Rows.push_back({{{number}, {core::TwoDecimals(degree)}}});
   }
@@ -212,7 +212,7 @@ void PrintClient(const core::Result& client) {
 
 void RunShow(Context& context, const ClientOptions& options) {
   const core::Session& session = context.Reading();
-  const std::string id = core::PaddedWhole(WholeOption("ID", options.Id), 1);
+  const std::string id = core::WholeText(WholeOption("ID", options.Id));
   const core::Result client = ClientRow(session, id);
   const core::Table cusps = StoredCusps(client);
   const core::Table planets = StoredPlanets(session, id);

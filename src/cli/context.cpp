@@ -45,11 +45,11 @@ double NumberOption(const std::string& name, const std::string& text, double low
 
 std::int32_t GroupFor(const core::Session& session, const std::optional<std::string>& option) {
   const std::string condition =
-      option ? " where id = " + core::PaddedWhole(WholeOption("--group", *option), 1) : "";
+      option ? " where id = " + core::WholeText(WholeOption("--group", *option)) : "";
   const core::Result group = session.StoreConnection.Query(
       "Select id, groupname from group_master" + condition + " order by groupname");
   if (group.AtEnd()) {
-    throw CommandFailed(option ? "There is no group with that id." : practice::kNoGroupsStatus);
+    throw CommandFailed(option ? core::kNoGroupWithId : practice::kNoGroupsStatus);
   }
   return static_cast<std::int32_t>(group.Integer("id"));
 }

@@ -41,7 +41,7 @@ void PrintDivision(const vedic::DivisionChart& chart, char style) {
   }
   core::Table table{{{style == 'E' ? "Sign" : "House"}, {"Planets"}}, {}};
   for (std::size_t place = 1; place <= chart::kHouses; ++place) {
-    table.Rows.push_back({{{core::PaddedWhole(static_cast<int>(place), 1)},
+    table.Rows.push_back({{{core::WholeText(static_cast<int>(place))},
                            {style == 'E' ? chart.East.at(place) : chart.North.at(place)}}});
   }
   PrintTable(table);

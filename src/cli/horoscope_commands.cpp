@@ -35,8 +35,8 @@ std::string AspectFilter(const std::string& option) {
 std::int32_t OptionWithin(const std::string& name, const std::string& text, int low, int high) {
   const std::int32_t number = WholeOption(name, text);
   if (number < low || number > high) {
-    throw CommandFailed(name + " takes a number from " + core::PaddedWhole(low, 1) + " to " +
-                        core::PaddedWhole(high, 1));
+    throw CommandFailed(name + " takes a number from " + core::WholeText(low) + " to " +
+                        core::WholeText(high));
   }
   return number;
 }

@@ -7,7 +7,7 @@
 #include "core/text.h"
 #include "practice/cities.h"
 #include "transit/changes.h"
-#include "transit/find_transit.h"
+#include "transit/find_transit_tool.h"
 #include "transit/monthly_grid.h"
 #include "transit/transit_calendar.h"
 #include "transit/transit_details.h"

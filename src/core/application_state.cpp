@@ -24,23 +24,6 @@ constexpr const char* kDefaultSortColumn = "cm.FullName";
 
 }  // namespace
 
-AspectBandLimits DefaultAspectBands() {
-  AspectBandLimits bands;
-  std::transform(kAspects.begin(), kAspects.end(), bands.begin(), [](const AspectBand& band) {
-    return BandLimits{static_cast<std::int16_t>(band.Aspect - band.DefaultOrb),
-                      static_cast<std::int16_t>(band.Aspect + band.DefaultOrb)};
-  });
-  return bands;
-}
-
-int AspectOfAngle(const AspectBandLimits& bands, float angle) {
-  const auto holds = [angle](const BandLimits& band) {
-    return static_cast<float>(band.Low) <= angle && angle <= static_cast<float>(band.High);
-  };
-  const auto* found = std::find_if(bands.begin(), bands.end(), holds);
-  return found == bands.end() ? -1 : static_cast<int>(found - bands.begin());
-}
-
 std::string SortColumnOfCode(std::string_view code) {
   const std::string upper = UpperCase(code);
   const auto* found = std::find_if(kSortColumns.begin(), kSortColumns.end(),

@@ -35,10 +35,10 @@ const char* AspectCellColor(const AspectBandLimits& bands, float angle) {
   return kAspects.at(static_cast<std::size_t>(aspect)).Good ? kGoodColor : kHardColor;
 }
 
-const char* ValueCellColor(float value) {
+std::string ValueCellColor(float value) {
   constexpr float kNoColor = -1;
   constexpr float kWhite = 16777215;
-  return value == kNoColor || value == kWhite ? "#FFFFFF" : "#FFFBB3";
+  return std::string("#") + (value == kNoColor || value == kWhite ? kNeutralColor : kAscendantTint);
 }
 
 }  // namespace orvex::core

@@ -68,7 +68,7 @@ class Reader {
       line_ += text_[at_] == '\n' ? 1U : 0U;
       inside += text_[at_];
     }
-    throw CsvError("The quoted field of line " + PaddedWhole(static_cast<std::int64_t>(began), 1) +
+    throw CsvError("The quoted field of line " + WholeText(static_cast<std::int64_t>(began)) +
                    " is not closed.");
   }
 

@@ -15,8 +15,6 @@ using std::chrono::local_days;
 
 constexpr int kFirstYear = 100;
 constexpr int kLastYear = 9999;
-constexpr double kDaysOfYear = 365.25;
-constexpr double kDaysOfMonth = 30.4375;
 
 constexpr std::array<std::string_view, 12> kMonths = {
     "January", "February", "March",     "April",   "May",      "June",
@@ -120,8 +118,8 @@ int MonthOfName(std::string_view name, bool abbreviated) {
 }
 
 std::string AgeWords(std::int64_t years, std::int64_t months, std::int64_t days) {
-  return PaddedWhole(years, 1) + " Year(s), " + PaddedWhole(months, 1) + " Month(s), " +
-         PaddedWhole(days, 1) + " Day(s)";
+  return WholeText(years) + " Year(s), " + WholeText(months) + " Month(s), " + WholeText(days) +
+         " Day(s)";
 }
 
 }  // namespace
@@ -187,8 +185,8 @@ std::string WeekdayName(DateTime moment) {
 std::string LongDateText(DateTime moment, bool abbreviate) {
   const DateParts parts = PartsOf(moment);
   const std::string_view month = kMonths.at(static_cast<std::size_t>(parts.Month - 1));
-  return PaddedWhole(parts.Day, 1) + " " + std::string(abbreviate ? month.substr(0, 3) : month) +
-         " " + PaddedWhole(parts.Year, 1);
+  return WholeText(parts.Day) + " " + std::string(abbreviate ? month.substr(0, 3) : month) + " " +
+         WholeText(parts.Year);
 }
 
 std::optional<DateTime> ParseLongDateText(std::string_view text) {
@@ -207,8 +205,7 @@ std::optional<DateTime> ParseLongDateText(std::string_view text) {
 
 std::string ShortDateText(DateTime moment) {
   const DateParts parts = PartsOf(moment);
-  return PaddedWhole(parts.Month, 1) + "/" + PaddedWhole(parts.Day, 1) + "/" +
-         PaddedWhole(parts.Year, 4);
+  return WholeText(parts.Month) + "/" + WholeText(parts.Day) + "/" + PaddedWhole(parts.Year, 4);
 }
 
 std::string TimeAmPm(DateTime moment) {

@@ -13,6 +13,11 @@ namespace orvex::core {
 // A calendar moment of some wall clock, to the second.
 using DateTime = std::chrono::local_seconds;
 
+// The mean lengths of the calendar year and of its month, in days. Ages and the balance of the
+// first period are measured by them.
+inline constexpr double kDaysOfYear = 365.25;
+inline constexpr double kDaysOfMonth = 30.4375;
+
 struct DateParts {
   int Year = 0;
   int Month = 0;
@@ -102,7 +107,7 @@ struct Age {
 };
 
 // The age at `to` of one born at `from`, as "Y Year(s), M Month(s), D Day(s)". Up to 30 days count
-// as 0 years. The year has 365.25 days, the month 30.4375; the years are held in single precision
+// as 0 years. The years, of kDaysOfYear, are held in single precision
 // and split at the point of their text.
 Age AgeText(DateTime from, DateTime to);
 

@@ -214,6 +214,8 @@ std::string PaddedWhole(std::int64_t value, int width) {
   return (value < 0 ? "-" : "") + digits;
 }
 
+std::string WholeText(std::int64_t value) { return PaddedWhole(value, 1); }
+
 std::string RoundTripText(double value) {
   char buffer[64];
   const auto written = std::to_chars(buffer, buffer + sizeof buffer, value);

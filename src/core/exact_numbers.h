@@ -57,6 +57,9 @@ std::optional<std::int64_t> ParseWhole(std::string_view text);
 // A whole number with leading zeros up to `width` digits, a minus before them.
 std::string PaddedWhole(std::int64_t value, int width);
 
+// A whole number as it is, a minus before it where it is negative.
+std::string WholeText(std::int64_t value);
+
 // The digits that name a double uniquely (shortest form that reads back the same), for interchange.
 std::string RoundTripText(double value);
 

@@ -24,6 +24,11 @@ struct SaveResult {
   std::optional<Refusal> Refused;
 };
 
+inline constexpr const char* kRecordGone =
+    "The record you are trying to edit could not be retrieved.";
+inline constexpr const char* kNoClientWithId = "There is no client with that id.";
+inline constexpr const char* kNoGroupWithId = "There is no group with that id.";
+inline constexpr const char* kNoCityChosen = "Please select a City from the list.";
 inline constexpr const char* kCouldNotUpdate = "Could not update database.";
 
 }  // namespace orvex::core

@@ -16,8 +16,6 @@ namespace {
 constexpr std::size_t kLongestName = 50;
 constexpr std::size_t kLongestContact = 250;
 
-std::string WholeText(std::int64_t number) { return PaddedWhole(number, 1); }
-
 std::int64_t OrbDegrees(const std::string& typed) { return RoundToWhole(ToDouble(typed)); }
 
 // The text that a stored code is shown as; an unknown one shows the first choice.
@@ -51,22 +49,17 @@ std::optional<Refusal> CheckProfile(const SettingsForm& form) {
   return std::nullopt;
 }
 
-bool IsStored(const Session& session, const std::string& table, std::int32_t id) {
-  return !session.StoreConnection.Query("Select id from " + table + " where id = " + WholeText(id))
-              .AtEnd();
-}
-
 // City and group are chosen from lists; both may have been deleted since the lists were filled.
 std::optional<Refusal> CheckChoices(const Session& session, const SettingsForm& form) {
   const auto refuse = [](const char* text, const char* field) {
     return Refusal{text, MessageIcon::Information, field, kGeneralPage};
   };
-  if (form.UserCityId != 0 && !IsStored(session, "city_master", form.UserCityId)) {
-    return refuse("Please select a City from the list.", "UserCityID");
+  if (form.UserCityId != 0 && !HasRow(session.StoreConnection, "city_master", form.UserCityId)) {
+    return refuse(kNoCityChosen, "UserCityID");
   }
   if (form.InstantChartGroupId != 0 &&
-      !IsStored(session, "group_master", form.InstantChartGroupId)) {
-    return refuse("There is no group with that id.", "ICGroupID");
+      !HasRow(session.StoreConnection, "group_master", form.InstantChartGroupId)) {
+    return refuse(kNoGroupWithId, "ICGroupID");
   }
   return std::nullopt;
 }

@@ -242,7 +242,7 @@ Store Store::Create(const std::filesystem::path& file) {
   }
   ::close(made);
   Store store(OpenConnection(file));
-  store.ExecuteScript("pragma application_id = " + PaddedWhole(kApplicationId, 1));
+  store.ExecuteScript("pragma application_id = " + WholeText(kApplicationId));
   return store;
 }
 

@@ -7,7 +7,7 @@
 #include <set>
 #include <sstream>
 
-#include "core/application_state.h"
+#include "core/aspect_bands.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "core/tsv.h"
@@ -162,7 +162,7 @@ void FillAddedColumns(Store& store, const std::set<std::string>& added) {
   for (const AspectBand& aspect : kAspects) {
     if (added.contains(aspect.OrbColumn)) {
       store.Execute(std::string("Update settings set ") + aspect.OrbColumn + " = " +
-                    PaddedWhole(aspect.DefaultOrb, 1));
+                    WholeText(aspect.DefaultOrb));
     }
   }
   if (added.contains("AscDegreeType")) {

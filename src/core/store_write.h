@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "core/exact_numbers.h"
 #include "core/save_result.h"
 #include "core/session.h"
 
@@ -24,6 +25,17 @@ SaveResult WriteBatch(Session& session, Write&& write) {
   } catch (const StoreError&) {
     return {0, Refusal{kCouldNotUpdate, MessageIcon::Stop, ""}};
   }
+}
+
+// Whether a table has the row of that id.
+inline bool HasRow(const Store& store, const std::string& table, std::int32_t id) {
+  return !store.Query("Select id from " + table + " where id = " + WholeText(id)).AtEnd();
+}
+
+// Tells that the row which a form was to be opened on is gone; gives the form that is none.
+inline std::nullopt_t TellRecordGone(Session& session) {
+  session.Shown.ShowMessage(kRecordGone, MessageButtons::Ok, MessageIcon::Stop);
+  return std::nullopt;
 }
 
 // The id of the row that was added last to a table.

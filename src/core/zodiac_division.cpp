@@ -37,8 +37,6 @@ int EndUnits(int next) { return next == kCircle ? BeginUnits(next) : BeginUnits(
 
 std::string DegreesOf(int units) { return DoubleText(units / kUnitsOfDegree); }
 
-std::string WholeText(int number) { return PaddedWhole(number, 1); }
-
 int SignAt(int seconds) { return seconds / kSign + 1; }
 
 // The begins of all subs, in order, and the end of the circle.

@@ -33,7 +33,7 @@ bool TakeClient(const core::Session& session, std::int32_t clientId, chart::Horo
   const core::Result row = session.StoreConnection.Query(
       "Select cm.*, ct.cityname from client_master cm, city_master ct where cm.cityid = ct.id "
       "and cm.id = " +
-      core::PaddedWhole(clientId, 1));
+      core::WholeText(clientId));
   if (row.AtEnd()) {
     return false;
   }
@@ -56,7 +56,7 @@ bool TakeClient(const core::Session& session, std::int32_t clientId, chart::Horo
   model.FirstRashiHouse = static_cast<int>(row.Integer("firstrashihouse"));
   for (std::size_t cusp = 0; cusp < cuspDegrees.size(); ++cusp) {
     cuspDegrees.at(cusp) =
-        row.Text("cuspdegree" + core::PaddedWhole(static_cast<std::int64_t>(cusp) + 1, 1));
+        row.Text("cuspdegree" + core::WholeText(static_cast<std::int64_t>(cusp) + 1));
   }
   return true;
 }

@@ -13,6 +13,7 @@
 #include "chart/planet_table.h"
 #include "chart/ruling_planets.h"
 #include "chart/significators.h"
+#include "chart/status_line.h"
 #include "chart/stored_chart.h"
 #include "chart/transit_now.h"
 #include "chart/zodiac_lookups.h"
@@ -108,11 +109,12 @@ void Assemble(core::Session& session, HoroscopeModel& model,
   Attempt([&] { chart::AppendDashaTooltips(model); });
   Attempt([&] { vedic::AppendBnnTooltips(model); });
   Attempt([&] { WriteNakshatra(model); });
-  Attempt([&] { chart::BuildFourStep(model, session.State.StatusBarDegreeCalc); });
+  Attempt([&] { chart::BuildFourStep(model); });
+  chart::WriteStatusLine(model, session.State.StatusBarDegreeCalc);
   Attempt([&] { chart::SelectCurrentPeriods(session, model); });
   Attempt([&] { chart::ShowDBA(session, model); });
   Attempt([&] { chart::WriteCurrentDba(model); });
-  model.Captions.RunningYear = core::PaddedWhole(model.RunningYear, 1);
+  model.Captions.RunningYear = core::WholeText(model.RunningYear);
   Attempt([&] { model.RemedyTable = practice::LoadRemedies(session, model.ClientId); });
 }
 
@@ -139,7 +141,8 @@ void RotateNow(const core::Session& session, OpenedHoroscope& horoscope, int hou
   BuildHouseAnalyses(session.State, model);
   BuildVedicTables(session, model);
   Attempt([&] { vedic::ShowLalKitabYear(model, model.RunningYear); });
-  Attempt([&] { chart::BuildFourStep(model, session.State.StatusBarDegreeCalc); });
+  Attempt([&] { chart::BuildFourStep(model); });
+  chart::WriteStatusLine(model, session.State.StatusBarDegreeCalc);
   Attempt([&] { chart::ShowDBA(session, model); });
 }
 
@@ -149,7 +152,7 @@ void ShowYear(OpenedHoroscope& horoscope, int year) {
   }
   HoroscopeModel& model = horoscope.Model;
   model.RunningYear = year;
-  model.Captions.RunningYear = core::PaddedWhole(year, 1);
+  model.Captions.RunningYear = core::WholeText(year);
   vedic::ShowLalKitabYear(model, year);
   chart::WriteCurrentDba(model);
 }

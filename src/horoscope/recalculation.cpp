@@ -12,9 +12,9 @@ namespace orvex::horoscope {
 
 namespace {
 
-std::string WholeText(int number) { return core::PaddedWhole(number, 1); }
-
-std::string HouseText(const std::optional<int>& house) { return house ? WholeText(*house) : ""; }
+std::string HouseText(const std::optional<int>& house) {
+  return house ? core::WholeText(*house) : "";
+}
 
 // The lords of a degree into four columns that stand side by side.
 template <typename ColumnName>
@@ -37,7 +37,7 @@ core::Table CuspTable(const core::ReferenceData& reference, const chart::ChartRe
   for (const chart::CuspRow& cusp : chart.Cusps) {
     table.AddRow();
     const std::size_t row = table.Rows.size() - 1;
-    table.At(row, WorkCuspColumn::Cusp).Text = WholeText(cusp.Cusp);
+    table.At(row, WorkCuspColumn::Cusp).Text = core::WholeText(cusp.Cusp);
     table.At(row, WorkCuspColumn::Degree).Text = cusp.DegStart;
     FillLords(reference, cusp.DegStart, table, row, WorkCuspColumn::SignLord);
   }

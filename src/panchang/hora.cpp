@@ -87,7 +87,7 @@ core::Table HoraTable(const std::vector<Hora>& horas) {
 
 std::optional<HoraView> CalcHora(core::Session& session, core::DateTime date, std::int32_t cityId) {
   const core::Result city = session.StoreConnection.Query("Select * from city_master where id = " +
-                                                          core::PaddedWhole(cityId, 1));
+                                                          core::WholeText(cityId));
   if (city.AtEnd()) {
     return std::nullopt;
   }

@@ -27,8 +27,8 @@ void WritePositions(core::Store& store, const std::vector<PlanetPosition>& rows)
     core::Attempt([&] {
       store.Execute(
           "Update planet_positions set inretro = " + std::string(row.InRetro ? "1" : "0") +
-          ", rashi = " + core::PaddedWhole(row.Rashi, 1) + ", degree = " +
-          core::DoubleText(row.Degree) + " where planetname = " + core::Quoted(row.PlanetName));
+          ", rashi = " + core::WholeText(row.Rashi) + ", degree = " + core::DoubleText(row.Degree) +
+          " where planetname = " + core::Quoted(row.PlanetName));
     });
   }
   batch.Commit();

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "chart/combustion.h"
+#include "chart/planet_marks.h"
 #include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
 #include "core/cell_colors.h"
@@ -50,12 +51,12 @@ void AddSkyPlanet(const core::ReferenceData& reference, core::Table& table, cons
     nameCell.Foreground = kRed;
   }
   table.At(row, SkyPlanetColumn::Rashi).Text = chart::RashiName(rashi);
-  table.At(row, SkyPlanetColumn::Rashi).Tag = core::PaddedWhole(rashi, 1);
+  table.At(row, SkyPlanetColumn::Rashi).Tag = core::WholeText(rashi);
   table.At(row, SkyPlanetColumn::Degree).Text = degree;
   if (const auto star = chart::StarInSign(reference, rashi, core::ToDouble(degree))) {
     table.At(row, SkyPlanetColumn::Nakshatra).Text = star->Star->StarName;
     table.At(row, SkyPlanetColumn::Nakshatra).Tag = star->Star->StarLord;
-    table.At(row, SkyPlanetColumn::Pada).Text = core::PaddedWhole(star->Pada->Pada, 1);
+    table.At(row, SkyPlanetColumn::Pada).Text = core::WholeText(star->Pada->Pada);
   }
 }
 
@@ -113,13 +114,14 @@ core::Table BuildSkyHouses(const std::vector<PlanetPosition>& positions, int asc
     }
     for (const PlanetPosition& planet : positions) {
       if (planet.Rashi == rashi) {
-        codes.push_back(chart::PlanetCode(planet.PlanetName) + (planet.InRetro ? "~" : ""));
+        codes.push_back(chart::PlanetCode(planet.PlanetName) +
+                        (planet.InRetro ? chart::kRetrogradeMark : ""));
       }
     }
     houses.AddRow();
     const std::size_t row = houses.Rows.size() - 1;
-    houses.At(row, SkyHouseColumn::House).Text = core::PaddedWhole(house + 1, 1);
-    houses.At(row, SkyHouseColumn::Rashi).Text = core::PaddedWhole(rashi, 1);
+    houses.At(row, SkyHouseColumn::House).Text = core::WholeText(house + 1);
+    houses.At(row, SkyHouseColumn::Rashi).Text = core::WholeText(rashi);
     houses.At(row, SkyHouseColumn::Planets).Text = core::Join(codes, " ");
   }
   return houses;
@@ -133,7 +135,7 @@ void MarkCombustInHouses(const core::Table& planets, core::Table& houses) {
     const std::string code = chart::PlanetCode(planets.At(planet, SkyPlanetColumn::Planet).Text);
     for (std::size_t house = 0; house < houses.Rows.size(); ++house) {
       core::Cell& cell = houses.At(house, SkyHouseColumn::Planets);
-      cell.Text = core::ReplaceAll(cell.Text, code, code + "*");
+      cell.Text = core::ReplaceAll(cell.Text, code, code + chart::kCombustMark);
     }
   }
 }

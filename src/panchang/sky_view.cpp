@@ -296,7 +296,7 @@ void Recompute(core::Session& session, SkyView& view, core::DateTime now, const 
   WriteWeekday(now, state, captions);
   WriteSunTimes(now, state, view);
   core::Attempt([&] { WriteTithi(reference, view); });
-  captions.VikramSamvat = "Vikram Samvat " + core::PaddedWhole(VikramSamvatYear(now), 1);
+  captions.VikramSamvat = "Vikram Samvat " + core::WholeText(VikramSamvatYear(now));
   core::Attempt([&] { WriteMoonStatus(view); });
   WriteGanapathi(captions);
 

@@ -15,8 +15,6 @@ using core::WriteBatch;
 
 constexpr std::size_t kLongestName = 100;
 
-std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
-
 core::Table CityList(const core::Session& session, const std::string& statement) {
   core::Table table{
       {{"City Name", 175}, {"Country", 70}, {"Latitude", 80}, {"Longitude", 80}, {"Offset", 0}},
@@ -83,8 +81,7 @@ core::Table SearchCities(const core::Session& session, const std::string& text) 
 }
 
 std::optional<core::Refusal> CheckPickedCity(std::int32_t cityId) {
-  return cityId == 0 ? std::optional(Refuse("Please select a City from the list.", "cityList"))
-                     : std::nullopt;
+  return cityId == 0 ? std::optional(Refuse(core::kNoCityChosen, "cityList")) : std::nullopt;
 }
 
 core::Table LoadTimeZones(const core::Session& session) {
@@ -124,12 +121,10 @@ std::optional<core::Table> OpenAddCity(core::Session& session) {
 }
 
 std::optional<CityForm> OpenEditCity(core::Session& session, std::int32_t cityId) {
-  const core::Result city =
-      session.StoreConnection.Query("Select * from city_master where id = " + WholeText(cityId));
+  const core::Result city = session.StoreConnection.Query("Select * from city_master where id = " +
+                                                          core::WholeText(cityId));
   if (city.AtEnd()) {
-    session.Shown.ShowMessage("The record you are trying to edit could not be retrieved.",
-                              core::MessageButtons::Ok, core::MessageIcon::Stop);
-    return std::nullopt;
+    return core::TellRecordGone(session);
   }
   return CityForm{city.Text("cityname"), city.Text("timezone"), city.Text("offset"),
                   city.Text("latitude"), city.Text("longitude")};
@@ -159,7 +154,7 @@ core::SaveResult SaveCityChanges(core::Session& session, const CityForm& form,
     store.Execute(
         "Update city_master set cityname = " + Quoted(core::Trim(form.CityName)) +
         ", offset = " + core::Trim(form.Offset) + ", latitude = " + core::Trim(form.Latitude) +
-        ", longitude = " + core::Trim(form.Longitude) + " where id = " + WholeText(cityId));
+        ", longitude = " + core::Trim(form.Longitude) + " where id = " + core::WholeText(cityId));
     return cityId;
   });
 }

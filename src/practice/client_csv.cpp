@@ -26,8 +26,6 @@ struct LineRefusal {
 
 std::size_t Index(CsvColumn column) { return static_cast<std::size_t>(column); }
 
-std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
-
 std::string Shown(const std::string& text) {
   constexpr std::size_t kLongest = 40;
   return "\"" + core::FirstCharacters(text, kLongest) + "\"";
@@ -88,7 +86,7 @@ core::DateTime BirthOf(const Line& line) {
 std::int32_t CityById(const core::Session& session, const Line& line, const std::string& text) {
   const std::optional<std::int64_t> id = core::ParseWhole(text);
   const core::Result city = session.StoreConnection.Query(
-      "Select id, cityname from city_master where id = " + WholeText(id.value_or(0)));
+      "Select id, cityname from city_master where id = " + core::WholeText(id.value_or(0)));
   if (city.AtEnd()) {
     throw LineRefusal{"city id: there is no city " + Shown(text)};
   }
@@ -118,7 +116,7 @@ std::int32_t CityByName(const core::Session& session, const Line& line) {
                       (country.empty() ? "" : " in " + Shown(country))};
   }
   if (found.size() > 1) {
-    throw LineRefusal{"city: " + WholeText(static_cast<std::int64_t>(found.size())) +
+    throw LineRefusal{"city: " + core::WholeText(static_cast<std::int64_t>(found.size())) +
                       " cities are named " + Shown(name) + "; please give the " +
                       (country.empty() ? "country or the city id" : "city id")};
   }
@@ -205,7 +203,7 @@ std::string ClientsAsCsv(const core::Session& session, std::optional<std::int32_
            "left join city_master ct on ct.id = cm.cityid "
            "left join timezone_master tm on tm.timezone = ct.timezone "
            "left join group_master gm on gm.id = cm.groupid" +
-           (groupId ? " where cm.groupid = " + WholeText(*groupId) : "") + " order by cm.id");
+           (groupId ? " where cm.groupid = " + core::WholeText(*groupId) : "") + " order by cm.id");
        !row.AtEnd(); row.Next()) {
     csv += core::CsvLine(LineOf(row));
   }

@@ -50,8 +50,7 @@ std::string IdentityOf(const CsvClient& client) {
   return Identity({core::FirstCharacters(core::Trim(form.FullName), kLongestName),
                    core::StoredDateTimeText(form.Birth), number(form.Latitude),
                    number(form.Longitude), number(form.Offset),
-                   form.Horary ? number(form.HoraryNumber) : "0",
-                   core::PaddedWhole(client.GroupId, 1)});
+                   form.Horary ? number(form.HoraryNumber) : "0", core::WholeText(client.GroupId)});
 }
 
 std::set<std::string> StoredIdentities(const core::Store& store) {

@@ -11,10 +11,6 @@ namespace orvex::practice {
 
 namespace {
 
-constexpr const char* kNoClient = "There is no client with that id.";
-
-std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
-
 core::Refusal Refuse(const char* text, core::MessageIcon icon = core::MessageIcon::Information) {
   return {text, icon, "clientList"};
 }
@@ -22,7 +18,7 @@ core::Refusal Refuse(const char* text, core::MessageIcon icon = core::MessageIco
 // The group of a client; nothing where the client is gone.
 std::optional<std::int32_t> GroupOf(const core::Session& session, std::int32_t clientId) {
   const core::Result row = session.StoreConnection.Query(
-      "Select groupid from client_master where id = " + WholeText(clientId));
+      "Select groupid from client_master where id = " + core::WholeText(clientId));
   return row.AtEnd() ? std::nullopt
                      : std::optional(static_cast<std::int32_t>(row.Integer("groupid")));
 }
@@ -72,7 +68,7 @@ void AddClient(const core::Result& row, core::Table& table) {
 }  // namespace
 
 core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::int32_t> groupId) {
-  const std::string ofGroup = groupId ? "cm.groupid = " + WholeText(*groupId) + " and " : "";
+  const std::string ofGroup = groupId ? "cm.groupid = " + core::WholeText(*groupId) + " and " : "";
   core::Table table = EmptyList();
   for (core::Result row = session.StoreConnection.Query(
            "Select cm.*, ct.cityname from client_master cm, city_master ct where " + ofGroup +
@@ -84,7 +80,8 @@ core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::
 }
 
 std::string ClientCountText(std::size_t count, bool filtered) {
-  return WholeText(static_cast<std::int64_t>(count)) + " client(s)" + (filtered ? " filtered" : "");
+  return core::WholeText(static_cast<std::int64_t>(count)) + " client(s)" +
+         (filtered ? " filtered" : "");
 }
 
 bool HasClients(const core::Session& session) {
@@ -130,10 +127,10 @@ core::SaveResult DeleteClient(core::Session& session, std::int32_t clientId) {
     return {0, std::move(refused)};
   }
   if (!GroupOf(session, clientId)) {
-    return {0, Refuse(kNoClient, core::MessageIcon::Stop)};
+    return {0, Refuse(core::kNoClientWithId, core::MessageIcon::Stop)};
   }
   return DeleteAfterBackup(session, [clientId](core::Store& store) {
-    const std::string id = WholeText(clientId);
+    const std::string id = core::WholeText(clientId);
     store.Execute("Delete from client_planets where clientid = " + id);
     store.Execute("Delete from client_remedy where clientid = " + id);
     store.Execute("Delete from client_master where id = " + id);
@@ -155,18 +152,17 @@ ClientPlace PlaceOfClient(const core::Session& session, std::int32_t clientId) {
 core::SaveResult MoveClient(core::Session& session, std::int32_t clientId, std::int32_t groupId) {
   const std::optional<std::int32_t> present = GroupOf(session, clientId);
   if (!present) {
-    return {0, Refuse(kNoClient, core::MessageIcon::Stop)};
+    return {0, Refuse(core::kNoClientWithId, core::MessageIcon::Stop)};
   }
   if (*present == groupId) {
     return {0, Refuse("Source and Destination Groups cannot be the same.")};
   }
-  if (session.StoreConnection.Query("Select id from group_master where id = " + WholeText(groupId))
-          .AtEnd()) {
-    return {0, Refuse("There is no group with that id.", core::MessageIcon::Stop)};
+  if (!core::HasRow(session.StoreConnection, "group_master", groupId)) {
+    return {0, Refuse(core::kNoGroupWithId, core::MessageIcon::Stop)};
   }
   return core::WriteBatch(session, [clientId, groupId](core::Store& store) {
-    store.Execute("Update client_master set groupid = " + WholeText(groupId) +
-                  " where id = " + WholeText(clientId));
+    store.Execute("Update client_master set groupid = " + core::WholeText(groupId) +
+                  " where id = " + core::WholeText(clientId));
     return clientId;
   });
 }

@@ -11,8 +11,6 @@ namespace orvex::practice {
 
 namespace {
 
-std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
-
 // The clauses that both modes share, each "" where its filter says any.
 struct Clauses {
   std::string Tables;
@@ -28,7 +26,7 @@ std::string GroupClause(const SearchFilter& filter) {
   }
   std::vector<std::string> ids;
   for (const std::int32_t id : *filter.GroupIds) {
-    ids.push_back(WholeText(id));
+    ids.push_back(core::WholeText(id));
   }
   return " and cm.groupid in (" + core::Join(ids, ",") + ")";
 }
@@ -54,7 +52,7 @@ Clauses ClausesOf(const SearchFilter& filter) {
   if (filter.RetrogradePlanetId != 0) {
     clauses.Tables = ", client_planets cp";
     clauses.Retrograde =
-        " and cp.clientid = cm.id and cp.planetid = " + WholeText(filter.RetrogradePlanetId) +
+        " and cp.clientid = cm.id and cp.planetid = " + core::WholeText(filter.RetrogradePlanetId) +
         " and cp.inretro = true ";
   }
   clauses.Ascendant = AscendantClause(filter.AscendantRashi);
@@ -101,7 +99,7 @@ std::string RemediesThatFit(const SearchFilter& filter, const Clauses& clauses) 
               ? ""
               : " and (cr.problem like '%" + text + "%' or cr.remedy like '%" + text + "%')") +
          clauses.Retrograde +
-         (filter.ForPlanetId ? " and cr.forplanetid = " + WholeText(*filter.ForPlanetId) : "") +
+         (filter.ForPlanetId ? " and cr.forplanetid = " + core::WholeText(*filter.ForPlanetId) : "") +
          clauses.Groups + clauses.Gender + clauses.Ascendant;
 }
 
@@ -170,7 +168,8 @@ void AddRemedyRow(const core::Result& row, core::Table& table) {
 }
 
 std::string ResultLine(std::size_t count) {
-  const std::string found = "Found " + WholeText(static_cast<std::int64_t>(count)) + " record(s).";
+  const std::string found =
+      "Found " + core::WholeText(static_cast<std::int64_t>(count)) + " record(s).";
   return count == 0 ? found : found + " Double click on a record to View Horoscope.";
 }
 

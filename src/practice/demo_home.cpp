@@ -26,7 +26,7 @@ std::filesystem::path FilledMark(const core::Home& home) { return home.Folder / 
                            ": " + reason);
 }
 
-std::string LineText(std::size_t line) { return core::PaddedWhole(static_cast<int>(line), 1); }
+std::string LineText(std::size_t line) { return core::WholeText(static_cast<int>(line)); }
 
 // The records below a line of captions, each value under its caption.
 class Records {

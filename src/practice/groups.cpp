@@ -9,23 +9,15 @@ namespace orvex::practice {
 
 namespace {
 
+using core::HasRow;
 using core::LastId;
 using core::Quoted;
 using core::WriteBatch;
 
 constexpr std::size_t kLongestName = 20;
-constexpr const char* kNoRecord = "The record you are trying to edit could not be retrieved.";
-
-std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
 
 core::SaveResult Refuse(const std::string& text, core::MessageIcon icon) {
   return {0, core::Refusal{text, icon, "groupName"}};
-}
-
-bool Exists(const core::Session& session, std::int32_t groupId) {
-  return !session.StoreConnection
-              .Query("Select id from group_master where id = " + WholeText(groupId))
-              .AtEnd();
 }
 
 // The refusal of a name for a group; 0 stands for a new one.
@@ -113,8 +105,8 @@ core::SaveResult AddGroup(core::Session& session, const std::string& name) {
 
 core::SaveResult RenameGroup(core::Session& session, std::int32_t groupId,
                              const std::string& name) {
-  if (!Exists(session, groupId)) {
-    return Refuse(kNoRecord, core::MessageIcon::Stop);
+  if (!HasRow(session.StoreConnection, "group_master", groupId)) {
+    return Refuse(core::kRecordGone, core::MessageIcon::Stop);
   }
   const std::string trimmed = core::Trim(name);
   if (std::optional<core::Refusal> refused = CheckName(session, trimmed, groupId)) {
@@ -122,7 +114,7 @@ core::SaveResult RenameGroup(core::Session& session, std::int32_t groupId,
   }
   return WriteBatch(session, [&trimmed, groupId](core::Store& store) {
     store.Execute("Update group_master set groupname = " + Quoted(trimmed) +
-                  " where id = " + WholeText(groupId));
+                  " where id = " + core::WholeText(groupId));
     return groupId;
   });
 }
@@ -154,10 +146,9 @@ std::string DeleteGroupQuestion(const core::Session& session, std::int32_t group
 
 std::optional<std::string> OpenEditGroup(core::Session& session, std::int32_t groupId) {
   const core::Result group = session.StoreConnection.Query(
-      "Select groupname from group_master where id = " + WholeText(groupId));
+      "Select groupname from group_master where id = " + core::WholeText(groupId));
   if (group.AtEnd()) {
-    session.Shown.ShowMessage(kNoRecord, core::MessageButtons::Ok, core::MessageIcon::Stop);
-    return std::nullopt;
+    return core::TellRecordGone(session);
   }
   return group.Text("groupname");
 }
@@ -166,12 +157,12 @@ core::SaveResult DeleteGroup(core::Session& session, std::int32_t groupId) {
   if (std::optional<core::Refusal> refused = CheckDeleteGroup(session)) {
     return {0, std::move(refused)};
   }
-  if (!Exists(session, groupId)) {
-    return Refuse(kNoRecord, core::MessageIcon::Stop);
+  if (!HasRow(session.StoreConnection, "group_master", groupId)) {
+    return Refuse(core::kRecordGone, core::MessageIcon::Stop);
   }
   return DeleteAfterBackup(session, [&session, groupId](core::Store& store) {
-    DeleteClients(store, WholeText(groupId));
-    store.Execute("Delete from group_master where id = " + WholeText(groupId));
+    DeleteClients(store, core::WholeText(groupId));
+    store.Execute("Delete from group_master where id = " + core::WholeText(groupId));
     if (session.State.InstantChartGroupId == groupId) {
       ReplaceInstantChartGroup(session);
     }

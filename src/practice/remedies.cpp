@@ -10,15 +10,13 @@ namespace orvex::practice {
 
 namespace {
 
+using core::HasRow;
 using core::LastId;
 using core::Quoted;
 using core::WriteBatch;
 
 constexpr std::size_t kLongestText = 1000;
 constexpr const char* kTooLong = "Text cannot exceed more than 1000 characters.";
-constexpr const char* kNoRecord = "The record you are trying to edit could not be retrieved.";
-
-std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
 
 core::Refusal Refuse(const char* text, const char* field) {
   return {text, core::MessageIcon::Information, field};
@@ -53,11 +51,6 @@ void NamePlanet(const core::ReferenceData& reference, std::int64_t id, std::stri
   }
 }
 
-bool Exists(const core::Session& session, const std::string& table, std::int32_t id) {
-  return !session.StoreConnection.Query("Select id from " + table + " where id = " + WholeText(id))
-              .AtEnd();
-}
-
 }  // namespace
 
 std::string RemedyCaption(const std::string& clientName) {
@@ -69,7 +62,7 @@ core::Table LoadRemedies(const core::Session& session, std::int32_t clientId) {
       {{"Problem", 250}, {"Solution", 250}, {"For Planet", 100}, {"Remedy Date", 150}}, {}};
   std::string planet;
   for (core::Result remedy = session.StoreConnection.Query(
-           "Select * from client_remedy where clientid = " + WholeText(clientId) +
+           "Select * from client_remedy where clientid = " + core::WholeText(clientId) +
            " order by remedydate");
        !remedy.AtEnd(); remedy.Next()) {
     table.AddRow().Tag = remedy.Text("id");
@@ -101,10 +94,9 @@ RemedyForm OpenAddRemedy(const core::Session& session) { return {0, "", "", sess
 
 std::optional<RemedyForm> OpenEditRemedy(core::Session& session, std::int32_t remedyId) {
   const core::Result remedy = session.StoreConnection.Query(
-      "Select * from client_remedy where id = " + WholeText(remedyId));
+      "Select * from client_remedy where id = " + core::WholeText(remedyId));
   if (remedy.AtEnd()) {
-    session.Shown.ShowMessage(kNoRecord, core::MessageButtons::Ok, core::MessageIcon::Stop);
-    return std::nullopt;
+    return core::TellRecordGone(session);
   }
   return RemedyForm{static_cast<std::int32_t>(remedy.Integer("forplanetid")),
                     remedy.Text("problem"), remedy.Text("remedy"),
@@ -116,14 +108,15 @@ core::SaveResult SaveNewRemedy(core::Session& session, const RemedyForm& form,
   if (std::optional<core::Refusal> refused = CheckRemedy(form)) {
     return {0, std::move(refused)};
   }
-  if (!Exists(session, "client_master", clientId)) {
-    return {0, core::Refusal{"There is no client with that id.", core::MessageIcon::Stop, ""}};
+  if (!HasRow(session.StoreConnection, "client_master", clientId)) {
+    return {0, core::Refusal{core::kNoClientWithId, core::MessageIcon::Stop, ""}};
   }
   return WriteBatch(session, [&form, clientId](core::Store& store) {
     store.Execute(
         "Insert into client_remedy (clientid, forplanetid, problem, remedy, remedydate) values (" +
-        WholeText(clientId) + ", " + WholeText(form.PlanetId) + ", " + Quoted(form.Problem) + ", " +
-        Quoted(form.Remedy) + ", " + core::DateLiteral(form.Date) + ")");
+        core::WholeText(clientId) + ", " + core::WholeText(form.PlanetId) + ", " +
+        Quoted(form.Problem) + ", " + Quoted(form.Remedy) + ", " + core::DateLiteral(form.Date) +
+        ")");
     return LastId(store, "client_remedy");
   });
 }
@@ -134,10 +127,10 @@ core::SaveResult SaveRemedyChanges(core::Session& session, const RemedyForm& for
     return {0, std::move(refused)};
   }
   return WriteBatch(session, [&form, remedyId](core::Store& store) {
-    store.Execute("Update client_remedy set forplanetid = " + WholeText(form.PlanetId) +
+    store.Execute("Update client_remedy set forplanetid = " + core::WholeText(form.PlanetId) +
                   ", problem = " + Quoted(form.Problem) + ", remedy = " + Quoted(form.Remedy) +
                   ", remedydate = " + core::DateLiteral(form.Date) +
-                  " where id = " + WholeText(remedyId));
+                  " where id = " + core::WholeText(remedyId));
     return remedyId;
   });
 }
@@ -151,11 +144,11 @@ std::string DeleteRemedyQuestion(const core::Session& session, std::int32_t reme
 }
 
 core::SaveResult DeleteRemedy(core::Session& session, std::int32_t remedyId) {
-  if (!Exists(session, "client_remedy", remedyId)) {
-    return {0, core::Refusal{kNoRecord, core::MessageIcon::Stop, ""}};
+  if (!HasRow(session.StoreConnection, "client_remedy", remedyId)) {
+    return {0, core::Refusal{core::kRecordGone, core::MessageIcon::Stop, ""}};
   }
   return WriteBatch(session, [remedyId](core::Store& store) {
-    store.Execute("Delete from client_remedy where id = " + WholeText(remedyId));
+    store.Execute("Delete from client_remedy where id = " + core::WholeText(remedyId));
     return remedyId;
   });
 }

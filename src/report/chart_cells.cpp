@@ -1,8 +1,10 @@
 #include "report/chart_cells.h"
 
+#include "chart/planet_marks.h"
 #include "chart/vastu_direction.h"
 #include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
+#include "core/cell_colors.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 
@@ -59,12 +61,12 @@ void FillSouth(const chart::HoroscopeModel& model, std::size_t house, ChartCells
   const std::string& rashi = HouseText(model, house, HouseColumn::Rashi);
   for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
     for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
-      if (core::PaddedWhole(chart::kSouthSigns.at(row).at(column), 1) != rashi) {
+      if (core::WholeText(chart::kSouthSigns.at(row).at(column)) != rashi) {
         continue;
       }
       core::Cell& cell = cells.SouthRashi.at(row).at(column);
       cell.Text = HouseText(model, house, HouseColumn::RcPlanets);
-      cell.Background = house == 0 ? chart::kAscendantTint : "FFFFFF";
+      cell.Background = house == 0 ? core::kAscendantTint : core::kNeutralColor;
       cell.Tag = (house == 0 ? kFirstHouse : "") +
                  HouseText(model, house, HouseColumn::KpChartRashi) + "*" +
                  HouseText(model, house, HouseColumn::CuspDegree) + "*" +
@@ -109,10 +111,10 @@ void ShowCombustRetroInRashiChart(const chart::HoroscopeModel& model, ChartCells
   for (std::size_t row = 0; row < model.PlanetTable.Rows.size(); ++row) {
     const std::string code = chart::PlanetCode(chart::PlanetText(model, row, PlanetColumn::Planet));
     if (chart::PlanetText(model, row, PlanetColumn::R) == "R") {
-      Mark(code, "~", cells);
+      Mark(code, chart::kRetrogradeMark, cells);
     }
     if (chart::PlanetText(model, row, PlanetColumn::C) == "C") {
-      Mark(code, "*", cells);
+      Mark(code, chart::kCombustMark, cells);
     }
   }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/cell_colors.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "vedic/lal_kitab.h"
@@ -36,7 +37,7 @@ void FillByHouse(const HouseCells& cells, ChartPicture& picture) {
 }
 
 PictureField EastField(const std::string& text, std::size_t sign) {
-  PictureField field{core::PaddedWhole(static_cast<int>(sign), 1), "", core::SplitWords(text)};
+  PictureField field{core::WholeText(static_cast<int>(sign)), "", core::SplitWords(text)};
   field.Ascendant =
       std::find(field.Codes.begin(), field.Codes.end(), kAscendantCode) != field.Codes.end();
   return field;
@@ -51,15 +52,16 @@ void FillBySign(const HouseCells& cells, ChartPicture& picture) {
 
 PictureField SouthField(int sign, const std::string& text, const std::string& background) {
   PictureField field = SignAndCodes(text);
-  field.Sign = core::PaddedWhole(sign, 1);
-  field.Ascendant = background == chart::kAscendantTint;
+  field.Sign = core::WholeText(sign);
+  field.Ascendant = background == core::kAscendantTint;
   return field;
 }
 
 void FillFromGrid(const SouthGrid& grid, ChartPicture& picture) {
   for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
     for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
-      if (const int sign = chart::kSouthSigns.at(row).at(column); sign != 0) {
+      if (!chart::IsSouthMiddle(row, column)) {
+        const int sign = chart::kSouthSigns.at(row).at(column);
         const core::Cell& cell = grid.at(row).at(column);
         picture.Fields.at(static_cast<std::size_t>(sign) - 1) =
             SouthField(sign, cell.Text, cell.Background);
@@ -70,36 +72,31 @@ void FillFromGrid(const SouthGrid& grid, ChartPicture& picture) {
 
 char KnownStyle(char style) { return style == 'N' || style == 'E' ? style : 'S'; }
 
-}  // namespace
-
-ChartPicture RashiPicture(const ChartCells& cells, char style) {
-  ChartPicture picture{KnownStyle(style), "Rashi", {}};
+// The picture with the fields of its style, which are one of the three sets of cells.
+ChartPicture RegionalPicture(ChartPicture picture, const HouseCells& north, const HouseCells& east,
+                             const SouthGrid& south) {
   switch (picture.Style) {
     case 'N':
-      FillByHouse(cells.North, picture);
+      FillByHouse(north, picture);
       break;
     case 'E':
-      FillBySign(cells.East, picture);
+      FillBySign(east, picture);
       break;
     default:
-      FillFromGrid(cells.SouthRashi, picture);
+      FillFromGrid(south, picture);
   }
   return picture;
 }
 
+}  // namespace
+
+ChartPicture RashiPicture(const ChartCells& cells, char style) {
+  return RegionalPicture({KnownStyle(style), "Rashi", {}}, cells.North, cells.East,
+                         cells.SouthRashi);
+}
+
 ChartPicture ChalitPicture(const ChartCells& cells, char style) {
-  ChartPicture picture{KnownStyle(style), "KP", {}};
-  switch (picture.Style) {
-    case 'N':
-      FillByHouse(cells.NorthKP, picture);
-      break;
-    case 'E':
-      FillBySign(cells.EastKP, picture);
-      break;
-    default:
-      FillFromGrid(cells.SouthKP, picture);
-  }
-  return picture;
+  return RegionalPicture({KnownStyle(style), "KP", {}}, cells.NorthKP, cells.EastKP, cells.SouthKP);
 }
 
 ChartPicture DivisionPicture(const vedic::DivisionChart& division, char style,

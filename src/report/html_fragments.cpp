@@ -2,6 +2,7 @@
 
 #include "core/cell_colors.h"
 #include "core/text.h"
+#include "vedic/lo_shu_tables.h"
 
 namespace orvex::report {
 
@@ -33,6 +34,12 @@ std::string SouthCellHtml(const core::Cell& cell, bool firstRow) {
   return std::string("          <td height='80'") + (firstRow ? " width='25%'" : "") +
          " align='center' bgcolor='" + CellColor(cell) + "'>" + kFont + "&nbsp;" + cell.Text +
          kFontEnd + "\n";
+}
+
+// The upper left cell of the middle, from which one cell spans all of it.
+bool BeginsSouthMiddle(std::size_t row, std::size_t column) {
+  return chart::IsSouthMiddle(row, column) && !chart::IsSouthMiddle(row - 1, column) &&
+         !chart::IsSouthMiddle(row, column - 1);
 }
 
 std::string Row(const std::string& cells) { return "<tr>" + cells + "</tr>\n"; }
@@ -109,16 +116,14 @@ std::string RenderTable(const core::Table& table) {
   return html + "</table>\n";
 }
 
-std::string SouthGridHtml(const std::array<std::array<core::Cell, 4>, 4>& grid) {
+std::string SouthGridHtml(const SouthGrid& grid) {
   std::string html = kGridOpening;
   for (std::size_t row = 0; row < grid.size(); ++row) {
     html += row == 0 ? "" : kGridNextRow;
-    const bool rim = row == 0 || row == 3;
-    for (std::size_t column = 0; column < 4; ++column) {
-      if (rim || column == 0 || column == 3) {
+    for (std::size_t column = 0; column < grid.at(row).size(); ++column) {
+      if (!chart::IsSouthMiddle(row, column)) {
         html += SouthCellHtml(grid.at(row).at(column), row == 0);
-      }
-      if (row == 1 && column == 0) {
+      } else if (BeginsSouthMiddle(row, column)) {
         html += std::string("          <td height='160' align='center' colspan='2' rowspan='2'>") +
                 kFont + "&nbsp;" + kFontEnd + "\n";
       }
@@ -147,19 +152,17 @@ std::string DashaTableHtml(const std::vector<std::string>& captions,
 }
 
 std::string LoShuGridHtml(const std::array<std::string, 10>& cellTexts) {
-  constexpr std::array<std::array<std::size_t, 3>, 3> kNumbers = {
-      {{4, 9, 2}, {3, 5, 7}, {8, 1, 6}}};
   std::string html = kGridOpening;
-  for (std::size_t row = 0; row < kNumbers.size(); ++row) {
-    html += row == 0 ? "" : kGridNextRow;
-    for (std::size_t column = 0; column < 3; ++column) {
-      html += std::string("          <td height='80' width='") + (column == 1 ? "34%" : "33%") +
-              "' align='center'>" + kFont;
-      for (const std::string& line : core::Split(cellTexts.at(kNumbers.at(row).at(column)), '*')) {
-        html += line + "<br>";
-      }
-      html += std::string(kFontEnd) + "\n";
+  for (std::size_t place = 0; place < vedic::kLoShuCells.size(); ++place) {
+    const std::size_t column = place % vedic::kLoShuSide;
+    html += place != 0 && column == 0 ? kGridNextRow : "";
+    html += std::string("          <td height='80' width='") + (column == 1 ? "34%" : "33%") +
+            "' align='center'>" + kFont;
+    const auto number = static_cast<std::size_t>(vedic::kLoShuCells.at(place).Number);
+    for (const std::string& line : core::Split(cellTexts.at(number), '*')) {
+      html += line + "<br>";
     }
+    html += std::string(kFontEnd) + "\n";
   }
   return html + kGridClosing;
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/table.h"
+#include "report/chart_cells.h"
 
 namespace orvex::report {
 
@@ -30,7 +30,7 @@ std::string HeaderRow(const core::Table& table);
 std::vector<std::size_t> ShownColumns(const core::Table& table);
 
 // A chart in South Indian style: four rows of four cells, the middle left empty.
-std::string SouthGridHtml(const std::array<std::array<core::Cell, 4>, 4>& grid);
+std::string SouthGridHtml(const SouthGrid& grid);
 
 // A table of periods in the report's dasha style.
 std::string DashaTableHtml(const std::vector<std::string>& captions,

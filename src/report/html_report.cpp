@@ -2,6 +2,7 @@
 
 #include "chart/aspects.h"
 #include "chart/dasha_tree.h"
+#include "chart/rotation.h"
 #include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
 #include "core/cell_colors.h"
@@ -43,9 +44,7 @@ std::array<std::string, 2> Halves(const std::string& text) {
 }
 
 std::string ShownName(const chart::HoroscopeModel& model) {
-  const std::string rotated =
-      model.RotatedTo == 1 ? "" : " (Rotated to " + core::PaddedWhole(model.RotatedTo, 1) + ")";
-  return EscapeHtml(model.Name) + rotated;
+  return EscapeHtml(model.Name) + chart::RotationMark(model.RotatedTo);
 }
 
 std::string RashiOfTag(const std::string& nakshatraTag) {
@@ -309,7 +308,7 @@ std::filesystem::path GenerateHoroscopeView(core::Session& session,
     throw std::runtime_error("The chart folder " + folder.string() + " could not be made.");
   }
   const ChartCells cells = BuildChartCells(opened.Model);
-  const std::string clientId = core::PaddedWhole(opened.Model.ClientId, 1);
+  const std::string clientId = core::WholeText(opened.Model.ClientId);
   core::StagedFiles files;
   ChartFragments charts;
   if (request.Style == 'S') {

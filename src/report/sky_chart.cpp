@@ -1,5 +1,6 @@
 #include "report/sky_chart.h"
 
+#include "core/cell_colors.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 
@@ -21,9 +22,10 @@ std::string NorthText(std::size_t house, const std::string& rashi, const std::st
 void FillSouth(std::size_t house, const core::Cell& east, SouthGrid& grid) {
   for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
     for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
-      if (core::PaddedWhole(chart::kSouthSigns.at(row).at(column), 1) == east.Tag) {
+      if (core::WholeText(chart::kSouthSigns.at(row).at(column)) == east.Tag) {
         grid.at(row).at(column) = east;
-        grid.at(row).at(column).Background = house == 0 ? chart::kAscendantTint : "FFFFFF";
+        grid.at(row).at(column).Background =
+            house == 0 ? core::kAscendantTint : core::kNeutralColor;
       }
     }
   }

@@ -40,7 +40,7 @@ void FillPosition(core::Session& session, const TransitPosition& position, core:
   core::Attempt([&] {
     const chart::StarAndPada star = chart::StarOfDegree(session.Reference, degree);
     table.At(row, HourColumn::Nakshatra).Text = star.Star->StarName;
-    table.At(row, HourColumn::Pada).Text = core::PaddedWhole(star.Pada->Pada, 1);
+    table.At(row, HourColumn::Pada).Text = core::WholeText(star.Pada->Pada);
   });
 }
 

@@ -10,7 +10,7 @@ std::string MonthName(core::DateTime moment, bool abbreviate) {
 }
 
 std::string MonthAndYear(core::DateTime moment, bool abbreviate, const std::string& between) {
-  return MonthName(moment, abbreviate) + between + core::PaddedWhole(core::PartsOf(moment).Year, 1);
+  return MonthName(moment, abbreviate) + between + core::WholeText(core::PartsOf(moment).Year);
 }
 
 }  // namespace orvex::transit

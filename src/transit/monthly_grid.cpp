@@ -27,7 +27,7 @@ core::Table EmptyGrid(const core::Session& session) {
 
 void AddDay(core::Table& grid, core::DateTime date, core::DateTime today) {
   core::Row& row = grid.AddRow();
-  row.Tag = core::PaddedWhole(core::PartsOf(date).Day, 1) + "*" + core::LongDateText(date, false);
+  row.Tag = core::WholeText(core::PartsOf(date).Day) + "*" + core::LongDateText(date, false);
   row.Cells.front().Text = core::WeekdayName(date) + " " + core::LongDateText(date, true);
   if (date == today) {
     for (core::Cell& cell : row.Cells) {
@@ -46,7 +46,7 @@ void FillCell(const core::Session& session, const astro::SkyBody& body, const st
               core::Cell& cell) {
   const int rashi = chart::RashiOfSingle(body.Degree);
   const std::string degree = core::TwoDecimals(body.Degree - static_cast<float>(30 * (rashi - 1)));
-  const std::string sign = core::PaddedWhole(rashi, 1);
+  const std::string sign = core::WholeText(rashi);
   cell.Text = "   " + sign + (sign.size() == 1 ? "     " : "   ") + degree;
   cell.Tag = "Planet*" + number;
   cell.SortKey = core::TwoDecimals(body.Degree);
@@ -56,7 +56,7 @@ void FillCell(const core::Session& session, const astro::SkyBody& body, const st
         chart::StarOfSignDegree(session.Reference, rashi, core::ToDouble(degree));
     cell.Tooltip = body.Name + " in " + chart::RashiName(rashi) +
                    " (Nakshatra: " + star.Star->StarName +
-                   ", Pada: " + core::PaddedWhole(star.Pada->Pada, 1) + ")";
+                   ", Pada: " + core::WholeText(star.Pada->Pada) + ")";
   });
 }
 
@@ -70,8 +70,7 @@ void CalcDayPositions(core::Session& session, const GridView& view, core::DateTi
     const bool known = body.Name != "Ketu" || astro::NodeNumber(nodeMode) != 0;
     for (std::size_t column = 1; known && column < cells.size(); ++column) {
       if (core::LowerCase(grid.Columns[column].Caption) == core::LowerCase(body.Name)) {
-        FillCell(session, body, core::PaddedWhole(static_cast<std::int64_t>(column), 1),
-                 cells[column]);
+        FillCell(session, body, core::WholeText(static_cast<std::int64_t>(column)), cells[column]);
       }
     }
   }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "transit/calendar_file.h"
-#include "transit/find_transit.h"
+#include "transit/find_transit_tool.h"
 #include "transit/monthly_grid.h"
 
 namespace orvex::transit {

@@ -27,8 +27,8 @@ TransitDetails GetTransitForPlanet(core::Session& session, Planet planet, core::
                               date + std::chrono::days(1), session.State.UserCityOffset);
   view.Title = "Transit Details for " + name + " (" + core::LongDateText(date, false) + ", " +
                core::WeekdayName(date) + ")";
-  view.Tag = core::PaddedWhole(static_cast<int>(planet), 1) + "*" + name + "*" +
-             core::StoredDateTimeText(date);
+  view.Tag =
+      core::WholeText(static_cast<int>(planet)) + "*" + name + "*" + core::StoredDateTimeText(date);
   view.PreviousDay = ButtonTo(date - std::chrono::days(1));
   view.NextDay = ButtonTo(date + std::chrono::days(1));
   view.TodayLink = date != session.Time.Today();

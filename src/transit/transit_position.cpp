@@ -56,7 +56,7 @@ TransitPosition PositionAt(core::Session& session, Planet planet, core::DateTime
   if (planet != Planet::Ketu) {
     return {found.Longitude, core::TwoDecimals(degree), known};
   }
-  return {std::fmod(found.Longitude + 180, 360), core::TwoDecimals(astro::KetuDegree(degree)),
+  return {std::fmod(found.Longitude + 180, 360), core::TwoDecimals(astro::KetuOfSky(degree)),
           known};
 }
 

@@ -13,8 +13,6 @@ namespace {
 constexpr int kSigns = 12;
 constexpr const char* kAscendant = "LA";
 
-std::string WholeText(int number) { return core::PaddedWhole(number, 1); }
-
 constexpr std::size_t RowOf(AshtakavargaRow row) { return static_cast<std::size_t>(row); }
 
 constexpr AshtakavargaColumn SignColumn(int sign) {
@@ -26,7 +24,7 @@ core::Table EmptyTable() {
   core::Table table;
   table.Columns = {{"Rashi", 72}};
   for (int sign = 1; sign <= kSigns; ++sign) {
-    table.Columns.push_back({" " + WholeText(sign), 42, "", true});
+    table.Columns.push_back({" " + core::WholeText(sign), 42, "", true});
   }
   table.Columns.push_back({"Total ", 60});
   for (std::size_t row = 0; row <= RowOf(AshtakavargaRow::Total); ++row) {
@@ -65,10 +63,10 @@ int FillSums(core::Table& table, std::size_t row, const SourceBindus& bindus) {
   int total = 0;
   for (int sign = 1; sign <= kSigns; ++sign) {
     const int count = bindus.at(static_cast<std::size_t>(sign));
-    table.At(row, SignColumn(sign)).Text = WholeText(count);
+    table.At(row, SignColumn(sign)).Text = core::WholeText(count);
     total += count;
   }
-  table.At(row, AshtakavargaColumn::Total).Text = WholeText(total);
+  table.At(row, AshtakavargaColumn::Total).Text = core::WholeText(total);
   return total;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "chart/planet_marks.h"
 #include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
@@ -196,7 +197,7 @@ void MarkRetrograde(chart::HoroscopeModel& model, const std::string& code) {
   for (std::size_t row = 0; row < model.BnnTable.Rows.size(); ++row) {
     std::string& planet = model.BnnTable.At(row, BnnColumn::Pln).Text;
     if (planet == code) {
-      planet += "~";
+      planet += chart::kRetrogradeMark;
     }
   }
   for (std::size_t row = 0; row < model.HouseTable.Rows.size(); ++row) {
@@ -204,7 +205,7 @@ void MarkRetrograde(chart::HoroscopeModel& model, const std::string& code) {
       if (core::Contains(HouseText(model, row, HouseColumn::RcPlanets), code)) {
         const std::int64_t sign = NumberIn(HouseText(model, row, HouseColumn::Rashi));
         model.HouseTable.At(row, HouseColumn::RetroRashi).Text =
-            core::PaddedWhole(sign == 1 ? kSigns : sign - 1, 1);
+            core::WholeText(sign == 1 ? kSigns : sign - 1);
       }
     });
   }
@@ -224,7 +225,7 @@ void MarkRetrogrades(chart::HoroscopeModel& model) {
 // Unlike the direct sequence this one goes by signs, takes no house before and leaves the planet
 // itself out of the house behind, which is its own.
 void FillRetroSequence(chart::HoroscopeModel& model, std::size_t row) {
-  if (!core::Contains(model.BnnTable.At(row, BnnColumn::Pln).Text, "~")) {
+  if (!core::Contains(model.BnnTable.At(row, BnnColumn::Pln).Text, chart::kRetrogradeMark)) {
     return;
   }
   const std::string code = CodeAt(model, row);

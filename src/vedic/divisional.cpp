@@ -4,6 +4,7 @@
 
 #include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
+#include "core/cell_colors.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "vedic/divisional_tables.h"
@@ -35,7 +36,7 @@ void LayOutHouses(int ascendant, DivisionChart& chart) {
     const int sign = (ascendant + house - 2) % kSigns + 1;
     const auto place = static_cast<std::size_t>(house);
     chart.HouseSigns.at(place) = sign;
-    chart.North.at(place) = core::PaddedWhole(sign, 1);
+    chart.North.at(place) = core::WholeText(sign);
   }
 }
 
@@ -63,7 +64,7 @@ void FillSouth(DivisionChart& chart) {
           cell.Text = chart.North.at(house);
         }
       }
-      cell.Background = cell.Sign == chart.HouseSigns.at(1) ? chart::kAscendantTint : "";
+      cell.Background = cell.Sign == chart.HouseSigns.at(1) ? core::kAscendantTint : "";
     }
   }
 }

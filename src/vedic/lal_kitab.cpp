@@ -15,8 +15,7 @@ core::Table EmptyTable() {
   table.Columns = {{"House"}, {"Planets"}};
   for (std::size_t row = 0; row < chart::kHouses; ++row) {
     table.AddRow();
-    table.At(row, LalKitabColumn::House).Text =
-        core::PaddedWhole(static_cast<std::int64_t>(row) + 1, 1);
+    table.At(row, LalKitabColumn::House).Text = core::WholeText(static_cast<std::int64_t>(row) + 1);
   }
   return table;
 }

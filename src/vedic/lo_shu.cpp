@@ -15,14 +15,10 @@ namespace orvex::vedic {
 
 namespace {
 
-constexpr std::size_t kGridSide = 3;
-
-std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
-
 core::Table EmptyGrid() {
   core::Table table;
-  table.Columns.resize(kGridSide);
-  for (std::size_t row = 0; row < kGridSide; ++row) {
+  table.Columns.resize(kLoShuSide);
+  for (std::size_t row = 0; row < kLoShuSide; ++row) {
     table.AddRow();
   }
   return table;
@@ -56,7 +52,7 @@ core::Table AnalysisTable() {
 }
 
 core::Cell& GridCell(chart::HoroscopeModel& model, std::size_t place) {
-  return model.LoShuGrid.At(place / kGridSide, static_cast<LoShuGridColumn>(place % kGridSide));
+  return model.LoShuGrid.At(place / kLoShuSide, static_cast<LoShuGridColumn>(place % kLoShuSide));
 }
 
 // The place of a number in the grid, row by row; nothing for other than 1 to 9.
@@ -117,9 +113,9 @@ void CalcGrid(const core::ReferenceData& reference, chart::HoroscopeModel& model
     }
     const auto number = static_cast<std::size_t>(planet.AstroNumber);
     const LoShuNumber& facts = kLoShuNumbers.at(number - 1);
-    const std::vector<std::string> lines = {
-        WholeText(planet.AstroNumber) + " (" + WholeText(model.LoShuCount.at(number)) + ")",
-        facts.Direction, planet.PlanetName, facts.Element};
+    const std::vector<std::string> lines = {core::WholeText(planet.AstroNumber) + " (" +
+                                                core::WholeText(model.LoShuCount.at(number)) + ")",
+                                            facts.Direction, planet.PlanetName, facts.Element};
     GridCell(model, *place).Text = core::Join(lines, "\n");
     model.LoShuCellText.at(number) = core::Join(lines, "*");
   }
@@ -151,8 +147,8 @@ void ShowLoShu(chart::HoroscopeModel& model) {
     GridCell(model, place).Foreground = kLoShuCells.at(place).Foreground;
   }
   const core::DateParts birth = core::PartsOf(model.Birth);
-  model.Captions.LoShuDate =
-      WholeText(birth.Day) + "/" + WholeText(birth.Month) + "/" + WholeText(birth.Year);
+  model.Captions.LoShuDate = core::WholeText(birth.Day) + "/" + core::WholeText(birth.Month) + "/" +
+                             core::WholeText(birth.Year);
   model.Captions.LoShuTitle =
       "Lo Shu Grid for Birth Date " + model.Captions.LoShuDate + " (DD/MM/YYYY)";
 }

@@ -5,14 +5,16 @@
 
 namespace orvex::vedic {
 
-// A cell of the grid, row by row.
+// A cell of the grid; the cells stand row by row.
 struct LoShuCell {
   int Number;
   const char* Background;
   const char* Foreground;
 };
 
-extern const std::array<LoShuCell, 9> kLoShuCells;
+inline constexpr std::size_t kLoShuSide = 3;
+
+extern const std::array<LoShuCell, kLoShuSide * kLoShuSide> kLoShuCells;
 
 // A line of three numbers through the grid.
 struct LoShuPlane {

@@ -11,10 +11,8 @@ namespace {
 
 constexpr int kLargestDigit = 9;
 
-std::string WholeText(int number) { return core::PaddedWhole(number, 1); }
-
 std::string WithPlanet(const core::ReferenceData& reference, int number) {
-  return WholeText(number) + " (" + chart::PlanetNameOfAstroNumber(reference, number) + ")";
+  return core::WholeText(number) + " (" + chart::PlanetNameOfAstroNumber(reference, number) + ")";
 }
 
 }  // namespace
@@ -23,16 +21,17 @@ int ReducedDigitSum(const std::string& digits) {
   constexpr int kFurtherSums = 2;
   int sum = core::DigitSum(digits);
   for (int again = 0; again < kFurtherSums && sum > kLargestDigit; ++again) {
-    sum = core::DigitSum(WholeText(sum));
+    sum = core::DigitSum(core::WholeText(sum));
   }
   return sum;
 }
 
 void FillNumerology(const core::ReferenceData& reference, chart::HoroscopeModel& model) {
   const std::string date = core::ShortDateText(model.Birth);
-  const int base = ReducedDigitSum(WholeText(core::PartsOf(model.Birth).Day));
+  const int base = ReducedDigitSum(core::WholeText(core::PartsOf(model.Birth).Day));
   const int destiny = ReducedDigitSum(core::ReplaceAll(date, "/", ""));
-  model.Captions.NumerologyTag = date + "*" + WholeText(base) + "*" + WholeText(destiny);
+  model.Captions.NumerologyTag =
+      date + "*" + core::WholeText(base) + "*" + core::WholeText(destiny);
   model.Captions.Numerology = "Base No. = " + WithPlanet(reference, base) +
                               "  |  Destiny No. = " + WithPlanet(reference, destiny);
 }

@@ -24,8 +24,6 @@ constexpr int kSigns = 12;
 constexpr std::size_t kFirstPlanet = static_cast<std::size_t>(GridRow::FirstPlanet);
 constexpr std::array<int, 2> kStrikingAspects = {90, 180};
 
-std::string WholeText(int number) { return core::PaddedWhole(number, 1); }
-
 void LayOutTables(chart::HoroscopeModel& model) {
   model.ImpactTable = {};
   model.ImpactTable.Columns = {{"Aspect From", 125},
@@ -46,7 +44,7 @@ void LayOutTables(chart::HoroscopeModel& model) {
     pads.At(row, PadColumn::Pad).Text = pad.Name;
     pads.At(row, PadColumn::Pad).Tooltip = PadSliceText(row);
     pads.At(row, PadColumn::Pad).Background = pad.Background;
-    pads.At(row, PadColumn::Sign).Text = WholeText(pad.Sign);
+    pads.At(row, PadColumn::Sign).Text = core::WholeText(pad.Sign);
     pads.At(row, PadColumn::Inner).Text = pad.Inner;
     pads.At(row, PadColumn::Outer).Text = pad.Outer;
   }
@@ -93,7 +91,7 @@ void AddImpacts(chart::HoroscopeModel& model, const core::AspectBandLimits& band
     table.At(row, ImpactColumn::AspectFrom).Text = from;
     table.At(row, ImpactColumn::ToDir).Text = target.Direction;
     table.At(row, ImpactColumn::Impact).Text = target.Name;
-    table.At(row, ImpactColumn::Aspect).Text = WholeText(aspect);
+    table.At(row, ImpactColumn::Aspect).Text = core::WholeText(aspect);
     MarkPads(model.VastuPads, target.Sign);
   }
 }
@@ -111,7 +109,7 @@ void AddImpactsOnHouses(chart::HoroscopeModel& model, const core::AspectBandLimi
     for (int sign = 1; sign <= kSigns; ++sign) {
       core::Attempt([&] {
         AddImpacts(model, bands, planet, model.AspectGrid.At(row, GridSign(sign)).Text,
-                   {GridCaption(model, sign), GridHouse(model, sign).Text, WholeText(sign)});
+                   {GridCaption(model, sign), GridHouse(model, sign).Text, core::WholeText(sign)});
       });
     }
   }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "chart/horoscope_model.h"
-#include "core/application_state.h"
+#include "core/aspect_bands.h"
 
 namespace orvex::vedic {
 

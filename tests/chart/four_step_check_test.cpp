@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/text.h"
 #include "support/model_builder.h"
 
 namespace orvex::chart {
@@ -14,7 +13,7 @@ using Texts = std::vector<std::string>;
 TEST(FourStepTable, APlanetGivesItsHouseAndTheEmptyHousesItOwns) {
   HoroscopeModel model = test::WorkedModel();
   for (int run = 0; run < 2; ++run) {
-    BuildFourStep(model, 'A');
+    BuildFourStep(model);
     // A cusp exactly 5 degrees away, as those of Ketu, Venus, the Sun, Mars and Rahu, gives no
     // mark.
     EXPECT_EQ(TextsOf(model.FourStepTable, SignificationColumn::Sig),
@@ -39,7 +38,7 @@ TEST(FourStepTable, AHouseIsEmptyByItsCuspsNotByTheSigns) {
   for (const auto& c : cases) {
     HoroscopeModel model =
         test::BuildModel({{"Mercury", c.mercury, c.house}, {"Sun", c.sun, c.sunHouse}});
-    BuildFourStep(model, 'A');
+    BuildFourStep(model);
     EXPECT_EQ(model.FourStepTable.At(0, SignificationColumn::Sig).Text, c.sig);
   }
 }
@@ -67,7 +66,7 @@ TEST(FourStepTable, TheMarkIsTheLastCuspNearerThan5DegreesAndDoesNotWrap) {
     cusps[1] = c.cusp2;
     cusps[11] = c.cusp12;
     HoroscopeModel model = test::BuildModel({{"Rahu", c.planet, 6}}, cusps);
-    BuildFourStep(model, 'A');
+    BuildFourStep(model);
     const core::Cell& sig = model.FourStepTable.At(0, SignificationColumn::Sig);
     EXPECT_EQ(sig.Text, std::string("6") + c.mark) << c.planet << " " << c.cusp1;
     EXPECT_EQ(sig.Tag, "6");
@@ -76,7 +75,7 @@ TEST(FourStepTable, TheMarkIsTheLastCuspNearerThan5DegreesAndDoesNotWrap) {
 
 TEST(FourStepCheck, StepsOfTheWorkedChart) {
   HoroscopeModel model = test::WorkedModel();
-  BuildFourStep(model, 'A');
+  BuildFourStep(model);
   // Two blanks stand between a node and the lord of its sign.
   const Texts wanted[] = {{"Ketu", "", "VE (2)", "RA", "MO (3 3/C)"},
                           {"Venus", "2", "VE (2)", "SU", "SA (11 10)"},
@@ -101,58 +100,15 @@ TEST(FourStepCheck, TheAgentOfANodeShowsNoCuspMarkAndItsStarLordDoes) {
   HoroscopeModel model = test::WorkedModel();
   model.PlanetTable.At(RowOf(PlanetPlace::Mars), PlanetColumn::Degree).Text = "135.00";
   model.PlanetTable.At(RowOf(PlanetPlace::Rahu), PlanetColumn::Degree).Text = "15.50";
-  BuildFourStep(model, 'A');
+  BuildFourStep(model);
   EXPECT_EQ(model.FourStepRows.At(RowOf(PlanetPlace::Moon), FourStepColumn::Step2).Text,
             "RA (1 1/C)  MA (5 8)");
   EXPECT_EQ(model.FourStepRows.At(RowOf(PlanetPlace::Mercury), FourStepColumn::Step3).Text,
             "MA (5 8 5/C)");
   model.PlanetTable.At(RowOf(PlanetPlace::Rahu), PlanetColumn::SignLord).Text.clear();
-  BuildFourStep(model, 'A');
+  BuildFourStep(model);
   EXPECT_EQ(model.FourStepRows.At(RowOf(PlanetPlace::Moon), FourStepColumn::Step4).Text,
             "RA (1 1/C)");
-}
-
-TEST(PositionsLine, DegreesStandAsTheSettingsSayWithTheirMarks) {
-  struct {
-    const char* degree;
-    const char* combust;
-    bool retrograde;
-    const char* actual;
-    const char* inSign;
-  } const cases[] = {{"29.99", "", false, "MA (10) = 29.99    ", "MA (10) = 29.99    "},
-                     {"30.00", "C", false, "MA* (10) = 30.00    ", "MA* (10) = 0.00    "},
-                     {"79.45", "", true, "MA~ (10) = 79.45    ", "MA~ (10) = 19.45    "},
-                     {"359.99", "C", true, "MA*~ (10) = 359.99    ", "MA*~ (10) = 29.99    "},
-                     {"5.00", "x", false, "MA (10) = 5.00    ", "MA (10) = 5.00    "}};
-  for (const auto& c : cases) {
-    HoroscopeModel model = test::BuildModel({{"Mars", c.degree, 10, "", "", c.retrograde}});
-    model.PlanetTable.At(0, PlanetColumn::C).Text = c.combust;
-    BuildFourStep(model, 'A');
-    EXPECT_EQ(model.Captions.PlanetPositions, c.actual);
-    BuildFourStep(model, 'R');
-    EXPECT_EQ(model.Captions.PlanetPositions, c.inSign);
-  }
-}
-
-TEST(StatusBar, TellsTheAscendantThePlanetsAndTheMarks) {
-  struct {
-    const char* ascendant;
-    char degreeCalc;
-    const char* shown;
-  } const cases[] = {{"15.00", 'A', "15.00"},
-                     {"15.00", 'R', "Ari 15.00"},
-                     {"254.30", 'A', "254.30"},
-                     {"254.30", 'R', "Sag 14.30"},
-                     {"359.99", 'R', "Pis 29.99"}};
-  for (const auto& c : cases) {
-    test::CuspDegrees cusps = test::CuspsAt(15);
-    cusps[0] = c.ascendant;
-    HoroscopeModel model = test::BuildModel({{"Sun", "10.00", 12}, {"Moon", "20.00", 1}}, cusps);
-    BuildFourStep(model, c.degreeCalc);
-    EXPECT_EQ(model.Captions.StatusBar, std::string("Asc = ") + c.shown +
-                                            "  |  SU (12) = 10.00    MO (1) = 20.00"
-                                            "  |  * = Combust, ~ = Retro");
-  }
 }
 
 TEST(FourStepCheck, ALordOrRowThatIsMissingCostsOnlyItsOwnSteps) {
@@ -161,15 +117,13 @@ TEST(FourStepCheck, ALordOrRowThatIsMissingCostsOnlyItsOwnSteps) {
   planets.At(RowOf(PlanetPlace::Mars), PlanetColumn::SubLord).Text = "Pluto (1)";
   planets.At(RowOf(PlanetPlace::Mercury), PlanetColumn::StarLord).Text.clear();
   planets.At(RowOf(PlanetPlace::Ketu), PlanetColumn::Degree).Text.clear();
-  BuildFourStep(model, 'R');
+  BuildFourStep(model);
   EXPECT_EQ(model.FourStepRows.At(4, FourStepColumn::Step2).Text, "KE (7)  VE (2)");
   EXPECT_EQ(model.FourStepRows.At(4, FourStepColumn::Step3).Text, "PL");
   EXPECT_EQ(model.FourStepRows.At(4, FourStepColumn::Step4).Text, "");
   EXPECT_EQ(model.FourStepRows.At(8, FourStepColumn::Step1).Text, "4 6 4/C");
   EXPECT_EQ(model.FourStepRows.At(8, FourStepColumn::Step2).Text, "");
   EXPECT_EQ(model.FourStepRows.At(8, FourStepColumn::Step3).Text, "MA (5 8)");
-  EXPECT_FALSE(core::Contains(model.Captions.PlanetPositions, "KE"));
-  EXPECT_TRUE(core::Contains(model.Captions.PlanetPositions, "VE (2) = 10.00    SU"));
   const core::Table before = model.FourStepRows;
   FourStepCheck(model, "Pluto", 0);
   EXPECT_EQ(TextsOf(model.FourStepRows, FourStepColumn::Step2),
@@ -178,7 +132,7 @@ TEST(FourStepCheck, ALordOrRowThatIsMissingCostsOnlyItsOwnSteps) {
     for (const std::size_t rows : {0U, 1U, 6U, 9U}) {
       HoroscopeModel damaged = test::DamagedModel(houses, rows);
       damaged.CuspTable.Rows.clear();
-      EXPECT_NO_THROW(BuildFourStep(damaged, 'R'));
+      EXPECT_NO_THROW(BuildFourStep(damaged));
       EXPECT_EQ(damaged.FourStepTable.Rows.size(), rows);
       EXPECT_EQ(damaged.FourStepRows.Rows.size(), rows);
     }

@@ -54,6 +54,18 @@ TEST(HousePlacement, EqualHousesFromTenDegrees) {
   }
 }
 
+TEST(HousePlacement, TheHouseOfAriesLeadsToEachSignAndBack) {
+  const int houses[] = {1, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2};
+  for (int sign = 1; sign <= 12; ++sign) {
+    EXPECT_EQ(HouseOfAries(sign), houses[sign - 1]);
+    EXPECT_EQ(RashiOfHouse(1, HouseOfAries(sign)), sign);
+    EXPECT_EQ(RashiOfHouse(HouseOfAries(sign), HouseOfAries(sign)), 1);
+  }
+  // A stored chart whose first cusp has no sign.
+  EXPECT_EQ(HouseOfAries(0), 14);
+  EXPECT_EQ(RashiOfHouse(12, 14), 11);
+}
+
 // High latitude: two cusps in Taurus and in Scorpio, none in Gemini and Sagittarius.
 TEST(HousePlacement, TheLaterOfTwoCuspsAndTheSignBehindAnInterceptedOne) {
   const auto cusps = CuspsAt({"2.00", "31.00", "59.00", "91.00", "121.00", "151.00", "182.00",

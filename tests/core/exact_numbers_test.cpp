@@ -149,7 +149,7 @@ TEST(ExactNumbers, WholeNumbersHaveNoFractionAndPadKeepsTheSign) {
   EXPECT_EQ(PaddedWhole(5, 2), "05");
   EXPECT_EQ(PaddedWhole(-5, 3), "-005");
   EXPECT_EQ(PaddedWhole(1234, 2), "1234");
-  EXPECT_EQ(PaddedWhole(std::numeric_limits<std::int64_t>::max(), 1), "9223372036854775807");
+  EXPECT_EQ(WholeText(std::numeric_limits<std::int64_t>::max()), "9223372036854775807");
 }
 
 }  // namespace

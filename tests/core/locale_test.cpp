@@ -24,7 +24,7 @@ std::string AllForms(core::Session& session) {
   const auto row = session.StoreConnection.Query(
       "Select latitude, longitude, offset from city_master where id = 1");
   return core::TwoDecimals(12345.678) + core::SingleText(1234.5F) + core::DoubleText(1e6 / 7) +
-         core::PaddedWhole(1234567, 1) + astro::DegreeText(123.456) + row.Text("latitude") +
+         core::WholeText(1234567) + astro::DegreeText(123.456) + row.Text("latitude") +
          row.Text("offset") + core::LongDateText(test::Moment("1990-07-05"), false) +
          core::DoubleText(core::ToDouble("1234.5"));
 }

@@ -235,8 +235,8 @@ TEST(MachineSettings, ProgramsOfSeveralHomesWriteAtOnceAndLoseNothing) {
     writers.emplace_back([&file, &failures, writer] {
       try {
         for (int key = 0; key < kKeys; ++key) {
-          MachineSettings(file).SaveMachineSetting("App", PaddedWhole(writer, 1),
-                                                   PaddedWhole(key, 1), "kept");
+          MachineSettings(file).SaveMachineSetting("App", WholeText(writer), WholeText(key),
+                                                   "kept");
         }
       } catch (const std::exception&) {
         ++failures;
@@ -250,8 +250,7 @@ TEST(MachineSettings, ProgramsOfSeveralHomesWriteAtOnceAndLoseNothing) {
   const MachineSettings settings(file);
   for (int writer = 0; writer < kWriters; ++writer) {
     for (int key = 0; key < kKeys; ++key) {
-      EXPECT_EQ(settings.ReadMachineSetting("App", PaddedWhole(writer, 1), PaddedWhole(key, 1), ""),
-                "kept");
+      EXPECT_EQ(settings.ReadMachineSetting("App", WholeText(writer), WholeText(key), ""), "kept");
     }
   }
 }

@@ -37,9 +37,9 @@ TEST(State, ColoursAreReadByPairs) {
   for (const char* bad : {"", "FFF", "GG0000", "FF00000", "-1-1-1"}) {
     EXPECT_THROW(ColorFromHex(bad), std::invalid_argument) << bad;
   }
-  EXPECT_STREQ(ValueCellColor(-1), "#FFFFFF");
-  EXPECT_STREQ(ValueCellColor(16777215), "#FFFFFF");
-  EXPECT_STREQ(ValueCellColor(0), "#FFFBB3");
+  EXPECT_EQ(ValueCellColor(-1), "#FFFFFF");
+  EXPECT_EQ(ValueCellColor(16777215), "#FFFFFF");
+  EXPECT_EQ(ValueCellColor(0), "#FFFBB3");
 }
 
 TEST(State, SortCodesAreKnownInAnyCase) {

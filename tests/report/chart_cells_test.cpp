@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/cell_colors.h"
 #include "core/text.h"
 #include "support/model_builder.h"
 
@@ -42,7 +43,7 @@ TEST(ChartCells, TheAscendantIsTintedInBothSouthGridsAndTheMiddleStaysEmpty) {
       const core::Cell& rashi = cells.SouthRashi[row][column];
       EXPECT_EQ(rashi.Tag.empty(), middle);
       EXPECT_EQ(rashi.Background, cells.SouthKP[row][column].Background);
-      tinted += rashi.Background == chart::kAscendantTint ? 1 : 0;
+      tinted += rashi.Background == core::kAscendantTint ? 1 : 0;
       if (!middle) {
         EXPECT_TRUE(cells.SouthKP[row][column].Text.starts_with("("));
       }

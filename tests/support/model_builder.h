@@ -52,7 +52,7 @@ inline std::vector<chart::StoredPlanet> Stored(const std::vector<PlanetAt>& plan
     row.Name = planet.Name;
     row.Code = chart::PlanetCode(planet.Name);
     row.Degree = core::ToDouble(planet.Degree);
-    row.ChalitHouse = core::PaddedWhole(planet.House, 1);
+    row.ChalitHouse = core::WholeText(planet.House);
     row.StarLord = planet.StarLord;
     row.SubLord = planet.SubLord;
     row.InRetro = planet.Retrograde;

@@ -14,7 +14,7 @@ core::DateTime FromField(const QDateTime& field) {
   return core::DateTime(std::chrono::seconds(field.toSecsSinceEpoch()));
 }
 
-QString WholeText(std::int64_t number) { return Shown(core::PaddedWhole(number, 1)); }
+QString WholeText(std::int64_t number) { return Shown(core::WholeText(number)); }
 
 std::optional<std::int32_t> IdOfTag(const std::string& tag) {
   using Limits = std::numeric_limits<std::int32_t>;

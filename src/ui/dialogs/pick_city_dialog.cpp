@@ -23,8 +23,7 @@ PickCityDialog::PickCityDialog(Workplace& place, QWidget* parent)
 void PickCityDialog::Save() {
   const core::Row* row = cities_->SelectedRow();
   if (row == nullptr) {
-    ShowRefusal(
-        {"Please select a City from the list.", core::MessageIcon::Information, "cityList"});
+    ShowRefusal({core::kNoCityChosen, core::MessageIcon::Information, "cityList"});
     return;
   }
   const auto text = [row](practice::CityColumn column) {

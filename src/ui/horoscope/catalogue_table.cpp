@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "chart/planet_marks.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -25,7 +26,8 @@ const horoscope::TableEntry& EntryOf(const std::string& name) {
 }  // namespace
 
 std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, const QString& text) {
-  const std::string word = Typed(text.section(' ', 0, 0).remove('*').remove('~'));
+  const std::string word =
+      Typed(text.section(' ', 0, 0).remove(chart::kCombustMark).remove(chart::kRetrogradeMark));
   const std::optional<std::size_t> named = chart::RowOfPlanet(model, word);
   return named || word.size() != 2 ? named : chart::RowOfCode(model, word);
 }

@@ -110,10 +110,10 @@ ChartGeometry SouthGeometry() {
   ChartGeometry geometry;
   for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
     for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
-      const int sign = chart::kSouthSigns.at(row).at(column);
-      if (sign == 0) {
+      if (chart::IsSouthMiddle(row, column)) {
         continue;
       }
+      const int sign = chart::kSouthSigns.at(row).at(column);
       const QRectF cell(static_cast<double>(column) * kSide, static_cast<double>(row) * kSide,
                         kSide, kSide);
       const QPolygonF outline(

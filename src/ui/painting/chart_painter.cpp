@@ -3,6 +3,8 @@
 #include <QFontMetricsF>
 #include <algorithm>
 
+#include "chart/planet_marks.h"
+#include "core/cell_colors.h"
 #include "ui/painting/chart_geometry.h"
 
 namespace orvex::ui {
@@ -66,7 +68,9 @@ void PaintField(QPainter& painter, const DrawnField& drawn, const report::Pictur
   for (const PlacedWord& word : drawn.Codes.Words) {
     const bool note = word.Text.startsWith('(');
     painter.setFont(note ? degree : codes);
-    painter.setPen(note ? colors.Muted : word.Text.contains('~') ? colors.Retrograde : colors.Text);
+    painter.setPen(note                                         ? colors.Muted
+                   : word.Text.contains(chart::kRetrogradeMark) ? colors.Retrograde
+                                                                : colors.Text);
     painter.drawText(word.Box, Qt::AlignCenter | Qt::TextDontClip, word.Text);
   }
 }
@@ -87,7 +91,7 @@ void PaintLines(QPainter& painter, const QRectF& square, const ChartGeometry& ge
 
 ChartColors PrintColors() {
   return {QColor(255, 255, 255), QColor(58, 74, 92),  QColor(24, 30, 38),
-          QColor(96, 112, 130),  QColor(192, 28, 40), QColor(255, 251, 179)};
+          QColor(96, 112, 130),  QColor(192, 28, 40), QColor(QString("#") + core::kAscendantTint)};
 }
 
 ChartColors DarkColors() {

@@ -72,7 +72,7 @@ std::array<SignBand, 12> BandsOf(const Scale& scale, const QFont& font) {
 
 QString TickText(core::DateTime day) {
   constexpr std::size_t kLetters = 2;
-  return Shown(core::PaddedWhole(core::PartsOf(day).Day, 1) + "\n" +
+  return Shown(core::WholeText(core::PartsOf(day).Day) + "\n" +
                core::WeekdayName(day).substr(0, kLetters));
 }
 

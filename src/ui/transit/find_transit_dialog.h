@@ -3,7 +3,7 @@
 
 #include <QElapsedTimer>
 
-#include "transit/find_transit.h"
+#include "transit/find_transit_tool.h"
 #include "ui/base/form_dialog.h"
 
 class QComboBox;

@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "transit/find_transit.h"
+#include "transit/find_transit_tool.h"
 #include "transit/monthly_grid.h"
 #include "ui/base/workplace.h"
 

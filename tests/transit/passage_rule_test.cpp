@@ -1,10 +1,10 @@
-#include "transit/passage_search.h"
+#include "transit/passage_rule.h"
 
 #include <random>
 
 #include "core/exact_numbers.h"
 #include "support/test_home.h"
-#include "transit/find_transit.h"
+#include "transit/find_transit_tool.h"
 
 namespace orvex::transit {
 namespace {

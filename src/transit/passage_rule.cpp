@@ -1,4 +1,4 @@
-#include "transit/passage_search.h"
+#include "transit/passage_rule.h"
 
 #include <algorithm>
 #include <array>

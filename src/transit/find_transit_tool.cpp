@@ -1,4 +1,4 @@
-#include "transit/find_transit.h"
+#include "transit/find_transit_tool.h"
 
 #include <algorithm>
 
@@ -56,7 +56,7 @@ std::string TargetText(const FindForm& form) {
     case TargetKind::Degree:
       return form.DegreeText + " degree(s)";
     case TargetKind::Nakshatra:
-      return form.StarName + " Nakshatra (Pada " + core::PaddedWhole(form.Pada, 1) + ")";
+      return form.StarName + " Nakshatra (Pada " + core::WholeText(form.Pada) + ")";
     case TargetKind::Rashi:
       return form.Zodiac;
   }
@@ -68,8 +68,8 @@ void Tell(const FindForm& form, FindResult& result) {
   const std::string date = core::LongDateText(result.Hour, false);
   result.Result = planet + " will get to " + TargetText(form) + " on " + date + " at " +
                   core::ShortTimeText(result.Hour) + ".";
-  result.Tag = MonthName(result.Hour) + "*" +
-               core::PaddedWhole(core::PartsOf(result.Hour).Year, 1) + "*" + date + "*" + planet;
+  result.Tag = MonthName(result.Hour) + "*" + core::WholeText(core::PartsOf(result.Hour).Year) +
+               "*" + date + "*" + planet;
   result.Status = "Ready";
 }
 

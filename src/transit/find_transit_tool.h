@@ -3,7 +3,7 @@
 
 #include "core/save_result.h"
 #include "core/table.h"
-#include "transit/passage_search.h"
+#include "transit/passage_rule.h"
 
 namespace orvex::transit {
 

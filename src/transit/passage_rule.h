@@ -1,4 +1,4 @@
-// The search for the hour in which a planet passes a longitude.
+// The rule by which a planet passes a longitude, and the search for the hour by it.
 //
 // What is searched for are two successive hours of one local date whose shown degrees (to the whole
 // minute, two decimals) are at most the target and at least the target. The last hour of a date and
