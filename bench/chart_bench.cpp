@@ -33,8 +33,9 @@ void PlanetsBare(double et) {
   }
 }
 
-// The library calls that a birth needs, and nothing else.
-void BareCallsOfABirth(benchmark::State& state) {
+// The library calls of the planets and those of the houses, and nothing else.
+template <typename Houses>
+void BareCalls(benchmark::State& state, Houses houses) {
   for (auto _ : state) {
     double ut = 0;
     double et = 0;
@@ -42,28 +43,27 @@ void BareCallsOfABirth(benchmark::State& state) {
     double angles[10];
     PrepareBare(ut, et);
     PlanetsBare(et);
-    swe_houses_ex(ut, SEFLG_SIDEREAL, 19.07283, 72.88261, 'P', cusps, angles);
-    benchmark::DoNotOptimize(cusps);
+    houses(ut, cusps, angles);
     swe_close();
   }
+}
+
+void BareCallsOfABirth(benchmark::State& state) {
+  BareCalls(state, [](double ut, double* cusps, double* angles) {
+    swe_houses_ex(ut, SEFLG_SIDEREAL, 19.07283, 72.88261, 'P', cusps, angles);
+    benchmark::DoNotOptimize(cusps);
+  });
 }
 BENCHMARK(BareCallsOfABirth)->Unit(benchmark::kMicrosecond);
 
 // The 2,363 house calls that a horary chart needs beside its planets.
 void BareCallsOfAHoraryChart(benchmark::State& state) {
-  for (auto _ : state) {
-    double ut = 0;
-    double et = 0;
-    double cusps[13];
-    double angles[10];
-    PrepareBare(ut, et);
-    PlanetsBare(et);
+  BareCalls(state, [](double /*ut*/, double* cusps, double* angles) {
     for (int call = 0; call < 2363; ++call) {
       swe_houses_armc(call % 360, 19.07283, 23.44, 'P', cusps, angles);
       benchmark::DoNotOptimize(cusps);
     }
-    swe_close();
-  }
+  });
 }
 BENCHMARK(BareCallsOfAHoraryChart)->Unit(benchmark::kMicrosecond);
 

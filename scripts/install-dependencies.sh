@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build ccache pkg-config
   libswe-dev swe-basic-data swe-standard-data
-  libsqlite3-dev libxlsxwriter-dev libfmt-dev nlohmann-json3-dev libcli11-dev
+  libsqlite3-dev libicu-dev libxlsxwriter-dev libfmt-dev nlohmann-json3-dev libcli11-dev
   libhowardhinnant-date-dev tzdata
   qt6-base-dev libqt6svg6-dev fonts-dejavu-core fonts-open-sans fonts-sil-gentiumplus weasyprint cmark-gfm
   libical-dev

@@ -18,7 +18,7 @@ namespace {
 constexpr int kCusps = 12;
 
 // Opposite Rahu, as a stored chart has it: 0.00, not 360.00, where Rahu stands at exactly 180,
-// because a sign and a star begin at 0 and none is found at 360. The sky and the transit tables
+// because no sign holds 360 and Aries begins at 0. The sky and the transit tables
 // write 360.00 there (astro::KetuOfSky).
 std::string KetuOfChart(const std::string& rahuDegree) {
   const double rahu = core::ToDouble(rahuDegree);

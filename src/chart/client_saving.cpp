@@ -95,11 +95,11 @@ ColumnValues UpdateValues(const ClientForm& form, const ChartResult& chart) {
   return values;
 }
 
-// The values of a planet's row. A house that stayed empty leaves its place empty, and the store
-// refuses the statement.
+// The values of a planet's row. A house that stayed empty, as in the far north where neither a
+// planet's sign nor the next one holds a cusp, is stored empty.
 ColumnValues PlanetValues(const PlanetRow& planet) {
   const auto house = [](const std::optional<int>& number) {
-    return number ? core::WholeText(*number) : std::string();
+    return number ? core::WholeText(*number) : std::string("Null");
   };
   return {{"rashihouse", house(planet.RashiHouse)},
           {"chalithouse", house(planet.ChalitHouse)},

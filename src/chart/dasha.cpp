@@ -171,6 +171,16 @@ void SelectTodaysPeriods(const core::Session& session, HoroscopeModel& model) {
   GenerateBhukti(session, model, shown.Planet.Name, shown.End);
 }
 
+void KeepRunningPeriods(HoroscopeModel& model) {
+  const auto selected = [](const core::Table& list, auto column) {
+    const std::optional<std::size_t> row = SelectedRow(list);
+    return row ? list.At(*row, column).Text : std::string();
+  };
+  model.RunningPeriods = selected(model.Periods.DashaList, DashaColumn::Planet) + "/" +
+                         selected(model.Periods.BhuktiList, PeriodColumn::Planet) + "/" +
+                         selected(model.Periods.AntaraList, PeriodColumn::Planet);
+}
+
 }  // namespace
 
 std::optional<std::size_t> SelectedRow(const core::Table& list) {
@@ -271,20 +281,7 @@ void SelectPeriod(const core::Session& session, HoroscopeModel& model, DashaLeve
 void SelectCurrentPeriods(const core::Session& session, HoroscopeModel& model) {
   core::Attempt([&] { SelectBirthPeriods(session, model); });
   core::Attempt([&] { SelectTodaysPeriods(session, model); });
-}
-
-void WriteCurrentDba(HoroscopeModel& model) {
-  const auto selected = [](const core::Table& list, auto column) {
-    const std::optional<std::size_t> row = SelectedRow(list);
-    return row ? list.At(*row, column).Text : std::string();
-  };
-  // The house of the running year: one house a year, around and around.
-  const int house = (model.RunningYear - 1) % static_cast<int>(kHouses) + 1;
-  model.Captions.CurrentDBA =
-      "Current DBA: " + selected(model.Periods.DashaList, DashaColumn::Planet) + "/" +
-      selected(model.Periods.BhuktiList, PeriodColumn::Planet) + "/" +
-      selected(model.Periods.AntaraList, PeriodColumn::Planet) +
-      "  |  Current BCP House: " + core::WholeText(house);
+  KeepRunningPeriods(model);
 }
 
 void AppendDashaTooltips(HoroscopeModel& model) {

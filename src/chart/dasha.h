@@ -26,11 +26,9 @@ enum class DashaLevel { Dasha, Bhukti, Antara, Sookshma };
 void SelectPeriod(const core::Session& session, HoroscopeModel& model, DashaLevel level,
                   std::size_t row);
 
-// Selects the periods of birth, from which the Moon's sub-sub lord is written, then those of today.
+// Selects the periods of birth, from which the Moon's sub-sub lord is written, then those of today,
+// which are kept as the running ones.
 void SelectCurrentPeriods(const core::Session& session, HoroscopeModel& model);
-
-// The caption of the running periods.
-void WriteCurrentDba(HoroscopeModel& model);
 
 // Writes each planet's Dasha and the age at its end behind the tooltip of its name; the row of the
 // first Dasha's planet is tinted.

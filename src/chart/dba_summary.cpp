@@ -202,4 +202,11 @@ void ShowDBA(const core::Session& session, HoroscopeModel& model) {
   FillHouseCount(model);
 }
 
+void WriteCurrentDba(HoroscopeModel& model) {
+  // The house of the running year: one house a year, around and around.
+  const int house = (model.RunningYear - 1) % static_cast<int>(kHouses) + 1;
+  model.Captions.CurrentDBA =
+      "Current DBA: " + model.RunningPeriods + "  |  Current BCP House: " + core::WholeText(house);
+}
+
 }  // namespace orvex::chart

@@ -161,8 +161,9 @@ struct HoroscopeModel {
   std::string SunDegree;
   std::string MoonDegree;
   int FirstRashiHouse = 0;
-  int RunningYear = 1;  // year of life shown, 1 to 120
-  int RotatedTo = 1;    // the house that counts as the first
+  int RunningYear = 1;         // year of life shown, 1 to 120
+  std::string RunningPeriods;  // "Venus/Sun/Moon", whatever is picked in the lists
+  int RotatedTo = 1;           // the house that counts as the first
   float BhriguBinduDegree = 0;
   // By number 1 to 9: how often it occurs, and the report's text of its cell ("*" between lines).
   std::array<int, 10> LoShuCount{};

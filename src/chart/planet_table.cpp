@@ -176,8 +176,10 @@ void FillSignLords(HoroscopeModel& model) {
     core::Attempt([&] {
       const std::string& house = PlanetTag(model, row, PlanetColumn::Planet);
       const auto houseRow = static_cast<std::size_t>(core::ParseWhole(house).value()) - 1;
-      model.PlanetTable.At(row, PlanetColumn::SignLord) =
-          model.HouseTable.At(houseRow, HouseColumn::RashiLord);
+      const core::Cell& lord = model.HouseTable.At(houseRow, HouseColumn::RashiLord);
+      // Text and tag alone: the tint of the row stays.
+      model.PlanetTable.At(row, PlanetColumn::SignLord).Text = lord.Text;
+      model.PlanetTable.At(row, PlanetColumn::SignLord).Tag = lord.Tag;
     });
   }
 }

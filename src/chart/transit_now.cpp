@@ -9,6 +9,13 @@
 
 namespace orvex::chart {
 
+namespace {
+
+// Both nodes count as retrograde in the sky, though a stored chart has them direct.
+bool IsNode(const std::string& planet) { return planet == "Rahu" || planet == "Ketu"; }
+
+}  // namespace
+
 void BuildTransitNow(core::Session& session, HoroscopeModel& model) {
   core::Table& table = model.TransitNow;
   table = {{{"Planet"}, {"Degree"}, {"Rashi"}, {"Star Lord"}, {"Sub Lord"}, {"R"}}, {}};
@@ -19,7 +26,8 @@ void BuildTransitNow(core::Session& session, HoroscopeModel& model) {
     const std::size_t row = table.Rows.size() - 1;
     table.At(row, TransitNowColumn::Planet).Text = planet.Planet;
     table.At(row, TransitNowColumn::Degree).Text = planet.Degree;
-    table.At(row, TransitNowColumn::R).Text = planet.InRetro == "1" ? "R" : "";
+    table.At(row, TransitNowColumn::R).Text =
+        planet.InRetro == "1" || IsNode(planet.Planet) ? "R" : "";
     core::Attempt([&] {
       const double degree = core::ToDouble(planet.Degree);
       table.At(row, TransitNowColumn::Rashi).Text = RashiName(RashiOfDegree(degree));

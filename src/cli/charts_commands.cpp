@@ -18,7 +18,13 @@ namespace {
 Json GridJson(const report::SouthGrid& grid) {
   Json json = Json::array();
   for (const auto& row : grid) {
-    json.push_back(CellsJson(row));
+    json.push_back(Json::array());
+    for (const report::SouthSignCell& cell : row) {
+      json.back().push_back(CellJson(cell));
+      if (cell.Sign != 0) {
+        json.back().back()["sign"] = cell.Sign;
+      }
+    }
   }
   return json;
 }

@@ -47,7 +47,7 @@ std::int32_t GroupFor(const core::Session& session, const std::optional<std::str
   const std::string condition =
       option ? " where id = " + core::WholeText(WholeOption("--group", *option)) : "";
   const core::Result group = session.StoreConnection.Query(
-      "Select id, groupname from group_master" + condition + " order by groupname");
+      "Select id, groupname from group_master" + condition + " order by groupname collate names");
   if (group.AtEnd()) {
     throw CommandFailed(option ? core::kNoGroupWithId : practice::kNoGroupsStatus);
   }

@@ -50,8 +50,8 @@ void PrintDivision(const vedic::DivisionChart& chart, char style) {
 void RunDivisional(Context& context, const ChartStyleOptions& options) {
   const horoscope::OpenedHoroscope opened = OpenHoroscope(context, options.Id);
   const char style = StyleOf(context, options);
-  const vedic::DivisionChart d9 = vedic::BuildDivision(opened.Model, vedic::Division::Navamsha);
-  const vedic::DivisionChart d10 = vedic::BuildDivision(opened.Model, vedic::Division::Dashamsha);
+  const vedic::DivisionChart d9 = vedic::BuildDivision(opened.Birth, vedic::Division::Navamsha);
+  const vedic::DivisionChart d10 = vedic::BuildDivision(opened.Birth, vedic::Division::Dashamsha);
   if (context.Json) {
     PrintJson({{"D9", DivisionJson(d9)}, {"D10", DivisionJson(d10)}});
     return;

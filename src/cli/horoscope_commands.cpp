@@ -139,13 +139,17 @@ void RunRectify(Context& context, const RectifyOptions& options) {
   if (context.Json) {
     PrintJson({{"birth", birth},
                {"cusps", TableJson(result.Cusps)},
-               {"planets", TableJson(result.Planets)}});
+               {"planets", TableJson(result.Planets)},
+               {"dashas", TableJson(result.Dashas)},
+               {"dashaBalance", result.DashaBalance}});
     return;
   }
   std::cout << birth << "\n\n";
   PrintTable(result.Cusps);
   std::cout << "\n";
   PrintTable(result.Planets);
+  std::cout << "\n" << result.DashaBalance << "\n";
+  PrintTable(result.Dashas);
 }
 
 void AddRectifyCommand(Command app, Context& context) {

@@ -10,6 +10,7 @@
 
 #include "core/dialect.h"
 #include "core/exact_numbers.h"
+#include "core/letter_case.h"
 #include "core/text.h"
 
 namespace orvex::core {
@@ -108,8 +109,14 @@ void UpperCaseFunction(sqlite3_context* context, int /*count*/, sqlite3_value** 
     sqlite3_result_null(context);
     return;
   }
-  const std::string upper = UpperCase(text);
+  const std::string upper = UpperCaseOfAll(text);
   sqlite3_result_text(context, upper.c_str(), static_cast<int>(upper.size()), SQLITE_TRANSIENT);
+}
+
+int CompareNames(void* /*unused*/, int leftSize, const void* left, int rightSize,
+                 const void* right) {
+  return CompareFolded({static_cast<const char*>(left), static_cast<std::size_t>(leftSize)},
+                       {static_cast<const char*>(right), static_cast<std::size_t>(rightSize)});
 }
 
 void RegisterFunctions(sqlite3* connection) {
@@ -121,6 +128,7 @@ void RegisterFunctions(sqlite3* connection) {
   add("month", &DatePartFunction<&DateParts::Month>);
   add("year", &DatePartFunction<&DateParts::Year>);
   add("ucase", &UpperCaseFunction);
+  sqlite3_create_collation(connection, "names", SQLITE_UTF8, nullptr, &CompareNames);
 }
 
 bool IsBlank(std::string_view text) {

@@ -105,7 +105,8 @@ void Assemble(core::Session& session, HoroscopeModel& model,
   Attempt([&] { WriteTithiAndYoga(session, model); });
   BuildVedicTables(session, model);
   Attempt([&] { model.RunningYear = RunningYearOf(model.Birth, session.Time.Today()); });
-  Attempt([&] { vedic::ShowLalKitabYear(model, model.RunningYear); });
+  Attempt(
+      [&] { vedic::ShowLalKitabYear(model.HouseTable, model.RunningYear, model.LalKitabYear); });
   Attempt([&] { chart::AppendDashaTooltips(model); });
   Attempt([&] { vedic::AppendBnnTooltips(model); });
   Attempt([&] { WriteNakshatra(model); });
@@ -140,7 +141,6 @@ void RotateNow(const core::Session& session, OpenedHoroscope& horoscope, int hou
   Attempt([&] { WriteNodes(model); });
   BuildHouseAnalyses(session.State, model);
   BuildVedicTables(session, model);
-  Attempt([&] { vedic::ShowLalKitabYear(model, model.RunningYear); });
   Attempt([&] { chart::BuildFourStep(model); });
   chart::WriteStatusLine(model, session.State.StatusBarDegreeCalc);
   Attempt([&] { chart::ShowDBA(session, model); });
@@ -153,7 +153,7 @@ void ShowYear(OpenedHoroscope& horoscope, int year) {
   HoroscopeModel& model = horoscope.Model;
   model.RunningYear = year;
   model.Captions.RunningYear = core::WholeText(year);
-  vedic::ShowLalKitabYear(model, year);
+  vedic::ShowLalKitabYear(horoscope.Birth.HouseTable, year, model.LalKitabYear);
   chart::WriteCurrentDba(model);
 }
 

@@ -45,6 +45,8 @@ struct Recalculation {
   core::DateTime Birth{};
   core::Table Cusps;
   core::Table Planets;
+  core::Table Dashas;  // as the Dasha list of a horoscope
+  std::string DashaBalance;
   std::optional<core::Refusal> Refused;  // the tables are empty then
 };
 

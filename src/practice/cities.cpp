@@ -63,21 +63,22 @@ std::optional<core::Refusal> CheckCity(const core::Session& session, const CityF
 core::Table LoadCities(const core::Session& session) {
   return CityList(session,
                   "Select cm.*, tm.countrycode from city_master cm, timezone_master tm "
-                  "where cm.timezone = tm.timezone order by cm.cityname");
+                  "where cm.timezone = tm.timezone order by cm.cityname collate names");
 }
 
 core::Table PreviouslyUsedCities(const core::Session& session) {
-  return CityList(session,
-                  "Select distinct cm.id, cm.cityname, cm.latitude, cm.longitude, cm.offset, "
-                  "tm.countrycode from city_master cm, timezone_master tm, client_master clm "
-                  "where cm.id = clm.cityid and cm.timezone = tm.timezone order by cm.cityname");
+  return CityList(
+      session,
+      "Select distinct cm.id, cm.cityname, cm.latitude, cm.longitude, cm.offset, "
+      "tm.countrycode from city_master cm, timezone_master tm, client_master clm "
+      "where cm.id = clm.cityid and cm.timezone = tm.timezone order by cm.cityname collate names");
 }
 
 core::Table SearchCities(const core::Session& session, const std::string& text) {
   return CityList(session,
                   "Select cm.*, tm.countrycode from city_master cm, timezone_master tm "
                   "where cm.timezone = tm.timezone and cm.cityname like '%" +
-                      core::ReplaceAll(text, "'", "''") + "%' order by cm.cityname");
+                      core::ReplaceAll(text, "'", "''") + "%' order by cm.cityname collate names");
 }
 
 std::optional<core::Refusal> CheckPickedCity(std::int32_t cityId) {

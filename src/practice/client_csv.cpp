@@ -6,6 +6,7 @@
 
 #include "core/csv.h"
 #include "core/exact_numbers.h"
+#include "core/letter_case.h"
 #include "core/text.h"
 
 namespace orvex::practice {
@@ -151,7 +152,7 @@ std::int32_t GroupOf(const core::Session& session, const Line& line, std::int32_
     return groupId;
   }
   const core::Result group = session.StoreConnection.Query(
-      "Select id from group_master where ucase(groupname) = " + Quoted(core::UpperCase(name)));
+      "Select id from group_master where ucase(groupname) = " + Quoted(core::UpperCaseOfAll(name)));
   if (group.AtEnd()) {
     throw LineRefusal{"group: there is no group " + Shown(name)};
   }

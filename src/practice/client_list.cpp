@@ -72,7 +72,7 @@ core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::
   core::Table table = EmptyList();
   for (core::Result row = session.StoreConnection.Query(
            "Select cm.*, ct.cityname from client_master cm, city_master ct where " + ofGroup +
-           "cm.cityid = ct.id order by " + session.State.SortColumn);
+           "cm.cityid = ct.id order by " + session.State.SortColumn + " collate names");
        !row.AtEnd(); row.Next()) {
     AddClient(row, table);
   }

@@ -49,11 +49,12 @@ Clauses ClausesOf(const SearchFilter& filter) {
   if (!filter.Gender.empty()) {
     clauses.Gender = " and cm.gender = '" + filter.Gender + "'";
   }
+  // Stores that came from elsewhere hold -1 for true.
   if (filter.RetrogradePlanetId != 0) {
     clauses.Tables = ", client_planets cp";
     clauses.Retrograde =
         " and cp.clientid = cm.id and cp.planetid = " + core::WholeText(filter.RetrogradePlanetId) +
-        " and cp.inretro = true ";
+        " and cp.inretro <> 0 ";
   }
   clauses.Ascendant = AscendantClause(filter.AscendantRashi);
   return clauses;
@@ -79,7 +80,7 @@ constexpr const char* kClientFields =
 constexpr const char* kRemedyFields =
     "cm.id, cm.fullname, cm.gender, cm.email, cm.mobile, gm.groupname, cr.remedydate, cr.problem, "
     "cr.remedy";
-constexpr const char* kByName = " order by cm.fullname";
+constexpr const char* kByName = " order by cm.fullname collate names";
 
 std::string ClientsThatFit(const SearchFilter& filter, const Clauses& clauses) {
   const std::string text = core::Trim(filter.Text);
@@ -217,7 +218,7 @@ std::vector<core::Row> ReadFoundRows(const core::Session& session, const SearchF
   std::unordered_map<std::int64_t, std::size_t> places;
   for (const FoundRow& row : rows) {
     places.emplace(row.Id, ids.size());
-    ids.push_back(WholeText(row.Id));
+    ids.push_back(core::WholeText(row.Id));
   }
   std::vector<core::Row> read(rows.size());
   core::Attempt([&] {

@@ -1,6 +1,7 @@
 #include "practice/groups.h"
 
 #include "core/exact_numbers.h"
+#include "core/letter_case.h"
 #include "core/store_write.h"
 #include "core/text.h"
 #include "practice/deletion.h"
@@ -32,8 +33,9 @@ std::optional<core::Refusal> CheckName(const core::Session& session, const std::
   if (core::CharacterCount(name) > kLongestName) {
     return refuse("Group Name cannot exceed 20 characters.");
   }
-  for (core::Result row = session.StoreConnection.Query(
-           "Select id from group_master where ucase(groupname) = " + Quoted(core::UpperCase(name)));
+  for (core::Result row =
+           session.StoreConnection.Query("Select id from group_master where ucase(groupname) = " +
+                                         Quoted(core::UpperCaseOfAll(name)));
        !row.AtEnd(); row.Next()) {
     if (row.Integer("id") != groupId) {
       return refuse("The Group '" + name + "' already exists in the database.");
@@ -77,7 +79,7 @@ void ReplaceInstantChartGroup(core::Session& session) {
 core::Table LoadGroups(const core::Session& session) {
   core::Table table{{{"Group"}}, {}};
   for (core::Result row = session.StoreConnection.Query(
-           "Select id, groupname from group_master order by groupname");
+           "Select id, groupname from group_master order by groupname collate names");
        !row.AtEnd(); row.Next()) {
     core::Row& added = table.AddRow();
     added.Tag = row.Text("id");

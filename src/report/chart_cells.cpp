@@ -19,6 +19,11 @@ using chart::PlanetColumn;
 // Marks the first house in the hidden data of a South cell.
 constexpr const char* kFirstHouse = "A-";
 
+// Parts the direction of a sign from its facts, as those are parted from each other.
+constexpr const char* kBetweenFacts = " | ";
+
+std::string DirectionText(int sign) { return "Direction: " + chart::VastuDirection(sign); }
+
 int NumberOf(const std::string& text) { return static_cast<int>(core::ParseWhole(text).value()); }
 
 core::Cell& SignCell(std::array<core::Cell, chart::kHouses>& cells, int sign) {
@@ -31,7 +36,7 @@ void FillNorth(const chart::HoroscopeModel& model, std::size_t house, ChartCells
   core::Cell& cell = cells.North.at(house);
   cell.Text = core::Trim(rashi.Text + " " + HouseText(model, house, HouseColumn::RcPlanets));
   cell.Tag = rashi.Text;
-  cell.Tooltip = rashi.Tag + "Direction: " + chart::VastuDirection(sign);
+  cell.Tooltip = rashi.Tag + kBetweenFacts + DirectionText(sign);
   core::Cell& kp = cells.NorthKP.at(house);
   kp.Tag = HouseText(model, house, HouseColumn::KpChartRashi);
   kp.Text = "(" + HouseText(model, house, HouseColumn::CuspDegree) + ")\n" +
@@ -45,7 +50,7 @@ void FillEast(const chart::HoroscopeModel& model, std::size_t house, ChartCells&
   cell.Text =
       core::Trim((house == 0 ? "Asc " : "") + HouseText(model, house, HouseColumn::RcPlanets));
   cell.Tag = rashi.Text;
-  cell.Tooltip = "Direction: " + chart::VastuDirection(sign) + rashi.Tag;
+  cell.Tooltip = DirectionText(sign) + kBetweenFacts + rashi.Tag;
 }
 
 // Two cusps of one sign share its cell.
@@ -61,7 +66,7 @@ void FillSouth(const chart::HoroscopeModel& model, std::size_t house, ChartCells
   const std::string& rashi = HouseText(model, house, HouseColumn::Rashi);
   for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
     for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
-      if (core::WholeText(chart::kSouthSigns.at(row).at(column)) != rashi) {
+      if (core::WholeText(cells.SouthRashi.at(row).at(column).Sign) != rashi) {
         continue;
       }
       core::Cell& cell = cells.SouthRashi.at(row).at(column);
@@ -120,6 +125,16 @@ void ShowCombustRetroInRashiChart(const chart::HoroscopeModel& model, ChartCells
 }
 
 }  // namespace
+
+SouthGrid EmptySouthGrid() {
+  SouthGrid grid;
+  for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
+    for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
+      grid.at(row).at(column).Sign = chart::kSouthSigns.at(row).at(column);
+    }
+  }
+  return grid;
+}
 
 ChartCells BuildChartCells(const chart::HoroscopeModel& model) {
   ChartCells cells;

@@ -9,15 +9,23 @@
 
 namespace orvex::report {
 
-using SouthGrid = std::array<std::array<core::Cell, chart::kSouthSide>, chart::kSouthSide>;
+// A cell of a South grid with the number of its sign, 0 in the middle.
+struct SouthSignCell : core::Cell {
+  int Sign = 0;
+};
+
+using SouthGrid = std::array<std::array<SouthSignCell, chart::kSouthSide>, chart::kSouthSide>;
+
+// A grid whose cells have their signs and nothing else.
+SouthGrid EmptySouthGrid();
 
 struct ChartCells {
   std::array<core::Cell, chart::kHouses> North;    // rashi chart by house
   std::array<core::Cell, chart::kHouses> NorthKP;  // chalit houses: cusp's degree, sign, planets
   std::array<core::Cell, chart::kHouses> East;     // rashi chart by sign
   std::array<core::Cell, chart::kHouses> EastKP;   // planets by chalit house, by the cusp's sign
-  SouthGrid SouthRashi;
-  SouthGrid SouthKP;  // cusp degrees and planets by chalit house
+  SouthGrid SouthRashi = EmptySouthGrid();
+  SouthGrid SouthKP = EmptySouthGrid();  // cusp degrees and planets by chalit house
 };
 
 // The cells of a horoscope. A retrograde planet's code carries "~", a combust one's "*"; one that

@@ -61,10 +61,9 @@ void FillFromGrid(const SouthGrid& grid, ChartPicture& picture) {
   for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
     for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
       if (!chart::IsSouthMiddle(row, column)) {
-        const int sign = chart::kSouthSigns.at(row).at(column);
-        const core::Cell& cell = grid.at(row).at(column);
-        picture.Fields.at(static_cast<std::size_t>(sign) - 1) =
-            SouthField(sign, cell.Text, cell.Background);
+        const SouthSignCell& cell = grid.at(row).at(column);
+        picture.Fields.at(static_cast<std::size_t>(cell.Sign) - 1) =
+            SouthField(cell.Sign, cell.Text, cell.Background);
       }
     }
   }

@@ -232,19 +232,19 @@ std::string LoShuPlanesHtml(const core::Table& planes) {
 }
 
 std::string LoShuAnalysisHtml(const core::Table& analysis) {
-  constexpr auto kNumber = core::Table::Index(vedic::LoShuAnalysisColumn::No);
   constexpr auto kElement = core::Table::Index(vedic::LoShuAnalysisColumn::Element);
+  constexpr auto kDirection = core::Table::Index(vedic::LoShuAnalysisColumn::Direction);
   constexpr auto kMeaning = core::Table::Index(vedic::LoShuAnalysisColumn::Meaning);
   std::string html =
       "<table align='center' border='1' width='80%' cellspacing='0' cellpadding='5'>\n"
       "<tr bgcolor='#6D6D6D'>";
-  for (const std::size_t column : {kNumber, kElement, kMeaning}) {
+  for (const std::size_t column : {kElement, kDirection, kMeaning}) {
     html += HeaderCell(analysis.Columns.at(column).Caption);
   }
   html += "</tr>\n";
   for (const core::Row& row : analysis.Rows) {
-    html += "<tr>" + MissingCell(row, kNumber) + MissingCell(row, kElement) + "<td>" + kPlainFont +
-            row.Cells.at(kMeaning).Text + kFontEnd + "</tr>\n";
+    html += "<tr>" + MissingCell(row, kElement) + MissingCell(row, kDirection) + "<td>" +
+            kPlainFont + row.Cells.at(kMeaning).Text + kFontEnd + "</tr>\n";
   }
   return html + "</table>\n";
 }

@@ -22,10 +22,10 @@ std::string NorthText(std::size_t house, const std::string& rashi, const std::st
 void FillSouth(std::size_t house, const core::Cell& east, SouthGrid& grid) {
   for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
     for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
-      if (core::WholeText(chart::kSouthSigns.at(row).at(column)) == east.Tag) {
-        grid.at(row).at(column) = east;
-        grid.at(row).at(column).Background =
-            house == 0 ? core::kAscendantTint : core::kNeutralColor;
+      SouthSignCell& cell = grid.at(row).at(column);
+      if (core::WholeText(cell.Sign) == east.Tag) {
+        static_cast<core::Cell&>(cell) = east;
+        cell.Background = house == 0 ? core::kAscendantTint : core::kNeutralColor;
       }
     }
   }

@@ -13,6 +13,7 @@ namespace orvex::transit {
 namespace {
 
 constexpr double kCircle = 360;
+constexpr float kHalfCircle = 180;
 
 // How far from the target a planet can be while its shown degree is on the other side of it: a
 // minute cut off and half a hundredth rounded (0.022), and room for the arithmetic and for the
@@ -45,8 +46,11 @@ std::int64_t HoursUntil(double longitude, double point, const SpeedBound& bound)
   return std::max<std::int64_t>(0, core::Floor(days * kHoursOfDay));
 }
 
+// A step of more than half the circle is a leap over 0 degrees, not a way over what lies between.
 bool Passes(const std::string& degree, const std::string& next, float target) {
-  return core::ToSingle(degree) <= target && core::ToSingle(next) >= target;
+  const float here = core::ToSingle(degree);
+  const float there = core::ToSingle(next);
+  return here <= target && there >= target && there - here <= kHalfCircle;
 }
 
 core::DateTime LastHour() { return core::MakeDateTime({9999, 12, 31, 23}).value(); }
@@ -82,8 +86,7 @@ SpeedBound SpeedBoundOf(Planet planet, const std::string& nodeMode) {
 }
 
 // A match means that the planet's longitude came within kShownWithin of the target during that
-// hour, or of 0 degrees, where the shown degree leaps from one end of the circle to the other.
-// Until it can have reached either, at its greatest speed and from where it stands, nothing can
+// hour. Until it can have done so, at its greatest speed and from where it stands, nothing can
 // match.
 SearchResult SearchPassage(core::Session& session, const Search& search) {
   const SpeedBound bound = SpeedBoundOf(search.Body, NodeMode(session.State));
@@ -103,8 +106,7 @@ SearchResult SearchPassage(core::Session& session, const Search& search) {
     if (!here->Known) {
       return {SearchEnd::EphemerisOver, hour};
     }
-    const std::int64_t skipped = std::min(HoursUntil(here->Longitude, search.Target, bound),
-                                          HoursUntil(here->Longitude, 0, bound));
+    const std::int64_t skipped = HoursUntil(here->Longitude, search.Target, bound);
     const core::DateTime nextHour = hour + std::chrono::hours(1);
     if (skipped > 0 || core::DateOnly(nextHour) != *date) {
       hour += std::chrono::hours(std::max<std::int64_t>(skipped, 1));

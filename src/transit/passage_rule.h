@@ -2,8 +2,8 @@
 //
 // What is searched for are two successive hours of one local date whose shown degrees (to the whole
 // minute, two decimals) are at most the target and at least the target. The last hour of a date and
-// the first of the next are never compared. A planet that moves back through 0 degrees passes every
-// target by that rule; a planet whose shown degree rests on the target does too.
+// the first of the next are never compared. A planet whose shown degree rests on the target passes
+// it. Two degrees more than 180 apart, as where a planet moves back through 0, are no passage.
 #pragma once
 
 #include <functional>

@@ -73,9 +73,15 @@ std::string ConjunctWith(const Subject& subject) {
   if (!house) {
     return "None";
   }
-  std::vector<std::string> others =
-      core::SplitWords(chart::HouseText(subject.Model, *house, chart::HouseColumn::RcPlanets));
-  std::erase(others, subject.Code);
+  std::vector<std::string> others;
+  for (const std::string& code :
+       core::SplitWords(chart::HouseText(subject.Model, *house, chart::HouseColumn::RcPlanets))) {
+    const std::optional<std::size_t> row = chart::RowOfCode(subject.Model, code);
+    if (row && code != subject.Code) {
+      others.push_back(chart::WithHouses(
+          subject.Model, chart::PlanetText(subject.Model, *row, PlanetColumn::Planet)));
+    }
+  }
   return others.empty() ? "None" : core::Join(others, " ");
 }
 

@@ -82,24 +82,24 @@ int DivisionSign(Division division, int sign, float degree, std::size_t& row) {
   return rows[row].Signs.at(static_cast<std::size_t>(sign) - 1);
 }
 
-DivisionChart BuildDivision(const chart::HoroscopeModel& model, Division division) {
+DivisionChart BuildDivision(const chart::BirthTables& birth, Division division) {
   DivisionChart chart;
   core::Attempt([&] {
     const auto sign =
-        static_cast<int>(core::ParseWhole(chart::HouseText(model, 0, HouseColumn::Rashi)).value());
-    const float cusp = core::ToSingle(chart::HouseText(model, 0, HouseColumn::CuspDegree));
+        static_cast<int>(core::ParseWhole(birth.HouseTable.At(0, HouseColumn::Rashi).Text).value());
+    const float cusp = core::ToSingle(birth.HouseTable.At(0, HouseColumn::CuspDegree).Text);
     std::size_t row = 0;
     LayOutHouses(DivisionSign(division, sign, AscendantDegree(sign, cusp), row), chart);
   });
   // A planet that no row holds takes the row of the planet before it.
   std::size_t row = 0;
-  for (std::size_t planet = 0; planet < model.PlanetTable.Rows.size(); ++planet) {
+  for (std::size_t planet = 0; planet < birth.PlanetTable.Rows.size(); ++planet) {
     core::Attempt([&] {
       const double longitude =
-          core::ToDouble(chart::PlanetText(model, planet, PlanetColumn::Degree));
-      const float degree = core::ToSingle(chart::PlanetTag(model, planet, PlanetColumn::R));
+          core::ToDouble(birth.PlanetTable.At(planet, PlanetColumn::Degree).Text);
+      const float degree = core::ToSingle(birth.PlanetTable.At(planet, PlanetColumn::R).Tag);
       const int sign = DivisionSign(division, chart::RashiOfDegree(longitude), degree, row);
-      PlacePlanet(chart::PlanetCode(chart::PlanetText(model, planet, PlanetColumn::Planet)), sign,
+      PlacePlanet(chart::PlanetCode(birth.PlanetTable.At(planet, PlanetColumn::Planet).Text), sign,
                   chart);
     });
   }

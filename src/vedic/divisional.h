@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "chart/horoscope_model.h"
+#include "chart/rotation.h"
 #include "chart/south_grid.h"
 
 namespace orvex::vedic {
@@ -24,7 +24,8 @@ struct DivisionChart {
 // is set to the row used.
 int DivisionSign(Division division, int sign, float degree, std::size_t& row);
 
-// The chart of a division. Planets without a sign or degree are left out.
-DivisionChart BuildDivision(const chart::HoroscopeModel& model, Division division);
+// The chart of a division, from the tables of the birth: a rotation does not move it. Planets
+// without a sign or degree are left out.
+DivisionChart BuildDivision(const chart::BirthTables& birth, Division division);
 
 }  // namespace orvex::vedic

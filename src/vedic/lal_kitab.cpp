@@ -24,17 +24,17 @@ core::Table EmptyTable() {
 
 int RunningYearOfAge(int age) { return age % kYears + 1; }
 
-void ShowLalKitabYear(chart::HoroscopeModel& model, int year) {
+void ShowLalKitabYear(const core::Table& natalHouses, int year, core::Table& annual) {
   const std::array<int, chart::kHouses>& houses =
       kLalKitabYears.at(static_cast<std::size_t>(year) - 1);
-  if (model.LalKitabYear.Rows.empty()) {
-    model.LalKitabYear = EmptyTable();
+  if (annual.Rows.empty()) {
+    annual = EmptyTable();
   }
   for (std::size_t natal = 0; natal < chart::kHouses; ++natal) {
     core::Attempt([&] {
-      const auto annual = static_cast<std::size_t>(houses.at(natal)) - 1;
-      model.LalKitabYear.At(annual, LalKitabColumn::Planets).Text =
-          chart::HouseText(model, natal, chart::HouseColumn::RcPlanets);
+      const auto house = static_cast<std::size_t>(houses.at(natal)) - 1;
+      annual.At(house, LalKitabColumn::Planets).Text =
+          natalHouses.At(natal, chart::HouseColumn::RcPlanets).Text;
     });
   }
 }

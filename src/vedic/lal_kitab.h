@@ -11,8 +11,9 @@ enum class LalKitabColumn { House, Planets };
 // again.
 int RunningYearOfAge(int age);
 
-// Writes the annual chart of a year 1 to 120 into LalKitabYear. A house that no natal house moves
-// to keeps what it showed before. std::out_of_range for any other year.
-void ShowLalKitabYear(chart::HoroscopeModel& model, int year);
+// Writes the annual chart of a year 1 to 120 from the houses of the birth, which a rotation does
+// not move, into `annual`. A house that no natal house moves to keeps what it showed before.
+// std::out_of_range for any other year.
+void ShowLalKitabYear(const core::Table& natalHouses, int year, core::Table& annual);
 
 }  // namespace orvex::vedic

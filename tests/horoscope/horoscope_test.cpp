@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <random>
 
@@ -7,12 +8,14 @@
 #include "chart/dasha.h"
 #include "chart/dasha_tree.h"
 #include "chart/significators.h"
+#include "chart/transit_now.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "horoscope/catalogue.h"
 #include "horoscope/create_horoscope.h"
 #include "horoscope/recalculation.h"
 #include "support/test_home.h"
+#include "vedic/divisional.h"
 
 namespace orvex::horoscope {
 namespace {
@@ -194,6 +197,68 @@ TEST_F(Horoscope, ARotatedRowIsTheOneSoManyHousesOn) {
   }
 }
 
+TEST_F(Horoscope, WhatIsReadFromTheBirthStaysThroughARotation) {
+  OpenedHoroscope opened = Sample();
+  const HoroscopeModel& model = opened.Model;
+  const auto divisions = [&opened] {
+    std::string texts;
+    for (const vedic::Division division : {vedic::Division::Navamsha, vedic::Division::Dashamsha}) {
+      const vedic::DivisionChart chart = vedic::BuildDivision(opened.Birth, division);
+      for (std::size_t house = 1; house <= 12; ++house) {
+        texts += chart.North.at(house) + "|" + chart.East.at(house) + "|";
+      }
+    }
+    return texts;
+  };
+  const auto tinted = [&model] {
+    std::string cells;
+    for (const core::Row& row : model.PlanetTable.Rows) {
+      for (const core::Cell& cell : row.Cells) {
+        cells += cell.Background.empty() ? '.' : 'T';
+      }
+    }
+    return cells;
+  };
+  const std::string divided = divisions();
+  const std::string annual = TextsOf(model.LalKitabYear);
+  const std::string tint = tinted();
+  EXPECT_EQ(std::count(tint.begin(), tint.end(), 'T'), 17);  // one row, all of it
+  RotateNow(*session_, opened, 5);
+  EXPECT_EQ(divisions(), divided);
+  EXPECT_EQ(TextsOf(model.LalKitabYear), annual);
+  EXPECT_EQ(tinted(), tint);
+  const int year = model.RunningYear;
+  ShowYear(opened, 7);
+  ShowYear(opened, year);
+  EXPECT_EQ(TextsOf(model.LalKitabYear), annual);
+}
+
+TEST_F(Horoscope, TheRunningPeriodsAreTheSameWhateverIsPicked) {
+  OpenedHoroscope opened = Sample();
+  const std::string running = opened.Model.Captions.CurrentDBA;
+  const int year = opened.Model.RunningYear;
+  chart::SelectPeriod(*session_, opened.Model, chart::DashaLevel::Dasha, 7);
+  chart::SelectPeriod(*session_, opened.Model, chart::DashaLevel::Bhukti, 4);
+  ShowYear(opened, 3);
+  ShowYear(opened, year);
+  EXPECT_EQ(opened.Model.Captions.CurrentDBA, running);
+}
+
+TEST_F(Horoscope, BothNodesOfNowAreRetrogradeAsInTheSky) {
+  const OpenedHoroscope opened = Sample();
+  const core::Table& now = opened.Model.TransitNow;
+  int nodes = 0;
+  for (std::size_t row = 0; row < now.Rows.size(); ++row) {
+    const std::string& planet = now.At(row, chart::TransitNowColumn::Planet).Text;
+    if (planet == "Rahu" || planet == "Ketu") {
+      ++nodes;
+      EXPECT_EQ(now.At(row, chart::TransitNowColumn::R).Text, "R") << planet;
+    }
+  }
+  EXPECT_EQ(nodes, 2);
+  EXPECT_EQ(now.At(0, chart::TransitNowColumn::R).Text, "");
+}
+
 TEST_F(Horoscope, ADrillDownRebuildsTheLevelsBelow) {
   OpenedHoroscope opened = Sample();
   HoroscopeModel& model = opened.Model;
@@ -296,6 +361,46 @@ TEST_F(Horoscope, ARecalculationChecksItsFieldsAndSavesNothing) {
   EXPECT_NE(later.Cusps.At(0, WorkCuspColumn::Degree).Text,
             same.Cusps.At(0, WorkCuspColumn::Degree).Text);
   EXPECT_EQ(TextsOf(Open(opened.Model.ClientId).Model), TextsOf(opened.Model));
+}
+
+TEST_F(Horoscope, ARecalculationHasThePeriodsOfItsOwnMoon) {
+  const OpenedHoroscope opened = Sample();
+  RecalculationForm form = OpenRecalculation(opened.Model);
+  const Recalculation same = Recalculate(*session_, opened.Model, form);
+  ASSERT_EQ(same.Dashas.Rows.size(), 9U);
+  for (std::size_t row = 0; row < 9; ++row) {
+    EXPECT_EQ(same.Dashas.At(row, chart::DashaColumn::EndDate).Tag,
+              opened.Model.Periods.DashaList.At(row, chart::DashaColumn::EndDate).Tag);
+  }
+  EXPECT_EQ(same.DashaBalance, opened.Model.Captions.DashaBalance);
+  // What a client born so much later has.
+  form.Shift = {1, 3, 0, 0};
+  const Recalculation later = Recalculate(*session_, opened.Model, form);
+  const OpenedHoroscope born = Open(AddClient("1985-09-06 14:58", "40.71427", "-74.00597", "-5"));
+  EXPECT_NE(later.DashaBalance, same.DashaBalance);
+  EXPECT_EQ(later.DashaBalance, born.Model.Captions.DashaBalance);
+  EXPECT_EQ(later.Dashas.At(0, chart::DashaColumn::EndDate).Tag,
+            born.Model.Periods.DashaList.At(0, chart::DashaColumn::EndDate).Tag);
+}
+
+TEST_F(Horoscope, AHoroscopeOpensWithEmptyHouses) {
+  // No cusp in the Moon's sign nor in the next.
+  OpenedHoroscope opened = Open(AddClient("1971-06-18 00:19", "60.12", "20", "0"));
+  EXPECT_EQ(session_->StoreConnection
+                    .Query("Select count(*) as n from client_planets where rashihouse is null")
+                    .Integer("n") > 0,
+            true);
+  for (const int house : {1, 4}) {
+    RotateNow(*session_, opened, house);
+    ASSERT_EQ(opened.Model.PlanetTable.Rows.size(), 9U);
+    std::string codes;
+    for (std::size_t row = 0; row < 12; ++row) {
+      codes += chart::HouseText(opened.Model, row, chart::HouseColumn::RcPlanets) + " ";
+    }
+    EXPECT_EQ(core::SplitWords(codes).size(), 9U) << house;  // by sign, none is lost
+  }
+  RecalculationForm form = OpenRecalculation(opened.Model);
+  EXPECT_FALSE(Recalculate(*session_, opened.Model, form).Refused);
 }
 
 TEST_F(Horoscope, TheYearOfLifeRunsFrom1To120AndAround) {

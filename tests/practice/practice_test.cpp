@@ -127,6 +127,9 @@ TEST_F(Practice, GroupNamesAreCheckedAndTakenOnceInAnyCase) {
   EXPECT_EQ(RenameGroup(*session_, 55, "x").Refused->Text,
             "The record you are trying to edit could not be retrieved.");
   EXPECT_EQ(LoadGroups(*session_).Rows.size(), 2U);
+  ASSERT_FALSE(AddGroup(*session_, "\xC3\x89lite").Refused);
+  EXPECT_TRUE(AddGroup(*session_, "\xC3\xA9LITE").Refused);
+  EXPECT_FALSE(AddGroup(*session_, "Elite").Refused);  // another letter
 }
 
 TEST_F(Practice, AGroupGoesWithItsClientsAndHandsOnTheInstantCharts) {

@@ -90,6 +90,11 @@ TEST_F(Records, EachFilterOfTheSearchNarrowsTheList) {
   session_->StoreConnection.Execute("Update client_planets set inretro = 0 where planetid = 4");
   session_->StoreConnection.Execute(
       "Update client_planets set inretro = 1 where planetid = 4 and clientid = 2");
+  // The true of stores that came from elsewhere.
+  session_->StoreConnection.Execute(
+      "Update client_planets set inretro = -1 where planetid = 5 and clientid = 3");
+  session_->StoreConnection.Execute(
+      "Update client_planets set inretro = 0 where planetid = 5 and clientid < 3");
   session_->StoreConnection.Execute("Update client_master set cuspdegree1 = 29.99 where id = 1");
   session_->StoreConnection.Execute("Update client_master set cuspdegree1 = 330 where id = 2");
   session_->StoreConnection.Execute("Update client_master set cuspdegree1 = 359.99 where id = 3");
@@ -99,6 +104,7 @@ TEST_F(Records, EachFilterOfTheSearchNarrowsTheList) {
       {{"A"}, {.Gender = "F"}},
       {{"C"}, {.Gender = "O"}},
       {{"A"}, {.RetrogradePlanetId = 4}},
+      {{"C"}, {.RetrogradePlanetId = 5}},
       {{"B"}, {.AscendantRashi = 1}},
       {{"A", "C"}, {.AscendantRashi = 12}},
       {{"B"}, {.Text = "  KNEE "}},
@@ -151,6 +157,35 @@ TEST_F(Records, ADeletedClientComesBackWithItsGroupOrToTheOneOfThatName) {
   EXPECT_EQ(PlaceOfClient(*session_, id).GroupId, again);
   EXPECT_EQ(Count("group_master"), 2);
   EXPECT_EQ(Count("client_planets"), 9);
+}
+
+TEST_F(Records, EveryListStandsInOneOrderWithoutCase) {
+  const Strings wanted = {"abe", "Ben", "\xC3\x89mile", "\xC3\xA9va", "Zoe"};
+  for (const std::size_t next : {4U, 1U, 3U, 0U, 2U}) {
+    Add(wanted[next]);
+    AddGroup(*session_, wanted[next]);
+    SaveNewRemedy(*session_, {0, "Sleep", "Pearl", {}},
+                  static_cast<std::int32_t>(Count("client_master")));
+    SaveNewCity(*session_, {"One order " + wanted[next], "Europe/Rome", "1", "1", "1"});
+  }
+  const auto texts = [](const core::Table& table) {
+    Strings shown;
+    for (const core::Row& row : table.Rows) {
+      shown.push_back(row.Cells.front().Text);
+    }
+    return shown;
+  };
+  EXPECT_EQ(texts(LoadClientsOfGroup(*session_, 1)), wanted);
+  EXPECT_EQ(Names({}), wanted);
+  EXPECT_EQ(Names({.Mode = SearchMode::Remedies}), wanted);
+  Strings groups = wanted;
+  groups.insert(groups.begin() + 4, "General");
+  EXPECT_EQ(texts(LoadGroups(*session_)), groups);
+  Strings cities = wanted;
+  for (std::string& city : cities) {
+    city.insert(0, "One order ");
+  }
+  EXPECT_EQ(texts(SearchCities(*session_, "One order")), cities);
 }
 
 TEST_F(Records, RemediesAreFoundByTheirOwnFilters) {

@@ -44,12 +44,27 @@ TEST(ChartCells, TheAscendantIsTintedInBothSouthGridsAndTheMiddleStaysEmpty) {
       EXPECT_EQ(rashi.Tag.empty(), middle);
       EXPECT_EQ(rashi.Background, cells.SouthKP[row][column].Background);
       tinted += rashi.Background == core::kAscendantTint ? 1 : 0;
+      EXPECT_EQ(rashi.Sign == 0, middle);
+      EXPECT_EQ(rashi.Sign, cells.SouthKP[row][column].Sign);
       if (!middle) {
         EXPECT_TRUE(cells.SouthKP[row][column].Text.starts_with("("));
       }
     }
   }
   EXPECT_EQ(tinted, 1);
+  EXPECT_EQ(cells.SouthRashi[0][1].Sign, 1);
+  EXPECT_EQ(cells.SouthKP[3][0].Sign, 9);
+}
+
+TEST(ChartCells, ATooltipPartsTheDirectionFromTheFactsOfItsSign) {
+  chart::HoroscopeModel model = test::WorkedModel();
+  core::Cell& rashi = model.HouseTable.At(2, HouseColumn::Rashi);
+  rashi.Tag = "Gemini (60 to 89.99 | Air)";
+  const ChartCells cells = BuildChartCells(model);
+  EXPECT_TRUE(cells.North[2].Tooltip.starts_with("Gemini (60 to 89.99 | Air) | Direction: "));
+  const auto sign = static_cast<std::size_t>(std::stoi(rashi.Text)) - 1;
+  EXPECT_TRUE(cells.East[sign].Tooltip.starts_with("Direction: "));
+  EXPECT_TRUE(cells.East[sign].Tooltip.ends_with(" | Gemini (60 to 89.99 | Air)"));
 }
 
 TEST(ChartCells, MarksStandBehindTheCodeCombustFirst) {

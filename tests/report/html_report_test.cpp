@@ -176,6 +176,21 @@ TEST_F(HtmlReport, RemediesAreEscapedAndTheirLackIsTold) {
   EXPECT_EQ(table.find("No records"), std::string::npos);
 }
 
+TEST_F(HtmlReport, TheNumbersOfTheGridAreToldByElementDirectionAndMeaning) {
+  const std::string html = Filled("[LOSHUANALYSIS]");
+  const std::size_t element = html.find("<b>Element</b>");
+  const std::size_t direction = html.find("<b>Direction</b>");
+  ASSERT_NE(direction, std::string::npos);
+  EXPECT_LT(element, direction);
+  EXPECT_LT(direction, html.find("<b>Meaning</b>"));
+  EXPECT_EQ(CountOf(html, "<b>"), 3U);
+  // The birth has a 5, red is what it lacks: element and direction, never the meaning.
+  EXPECT_NE(html.find("<font color='' face='Verdana' size='2'>Brahmasthan"), std::string::npos);
+  EXPECT_NE(html.find("<font color='#FF0000' face='Verdana' size='2'>South East"),
+            std::string::npos);
+  EXPECT_NE(html.find("<td><font face='Verdana' size='2'>Career and Planning"), std::string::npos);
+}
+
 TEST_F(HtmlReport, HiddenColumnsNeverReachATable) {
   core::Table table{{{"Shown", 10}, {"Hidden", 0}, {"Free"}}, {}};
   table.Rows.push_back({{{"a"}, {"secret"}, {"c"}}});

@@ -86,6 +86,28 @@ TEST_F(Searches, SkippingHoursMissesNothingAtStationsAndAtTheEndOfTheCircle) {
   }
 }
 
+// A planet that goes back through 0 degrees leaps from one end of the circle to the other between
+// two hours and passes nothing on the way; one that goes forward passes what lies between.
+TEST_F(Searches, ALeapOverTheEndOfTheCircleIsNoPassage) {
+  struct Case {
+    Planet Body;
+    const char* From;
+    std::int64_t Days;
+    float Target;
+    SearchEnd End;
+  };
+  const std::vector<Case> cases = {{Planet::Jupiter, "1987-10-20", 60, 197.7F, SearchEnd::DaysOver},
+                                   {Planet::Rahu, "1930-10-25", 40, 77.77F, SearchEnd::DaysOver},
+                                                                {Planet::Sun, "2026-04-10", 40, 0.5F, SearchEnd::Found},
+                                   {Planet::Sun, "2026-04-10", 40, 359.5F, SearchEnd::Found},
+                                   {Planet::Moon, "2026-11-01", 40, 179.5F, SearchEnd::Found}};
+  for (const Case& each : cases) {
+    const Search search{each.Body, each.Target, test::Moment(each.From), 0, each.Days, {}};
+    EXPECT_EQ(SearchEveryHour(*session_, search).End, each.End) << Told(search, 'M');
+    EXPECT_EQ(SearchPassage(*session_, search).End, each.End) << Told(search, 'M');
+  }
+}
+
 // The bounds are what the skipping rests on: no hour may carry a planet further.
 TEST_F(Searches, NoPlanetIsFasterThanItsBound) {
   std::mt19937 random(7);

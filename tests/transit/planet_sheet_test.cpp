@@ -46,18 +46,19 @@ class PlanetSheets : public testing::Test {
 
 TEST_F(PlanetSheets, TheSheetGathersWhatTheTablesKnow) {
   const PlanetSheet mars = SheetOf(chart::PlanetPlace::Mars);
-  const std::pair<const char*, const char*> wanted[] = {{"Placed In/Degree", "2 / 123.40"},
-                                                        {"Rashi", "Leo"},
-                                                        {"Ownership", "6 11"},
-                                                        {"Star Lord", "Ketu (4)"},
-                                                        {"Retro", "No"},
-                                                        {"Combust", "Yes"},
-                                                        {"Debilitated/Exalted", "N/A"},
-                                                        {"Star Lord Of", "12"},
-                                                        {"Sub Lord Of", "5"},
-                                                        {"Conjunct With", "SU ME"},
-                                                        {"Nadi Significators", "2 6 11"},
-                                                        {"BNN Retro Seq", "N/A"}};
+  const std::pair<const char*, const char*> wanted[] = {
+      {"Placed In/Degree", "2 / 123.40"},
+      {"Rashi", "Leo"},
+      {"Ownership", "6 11"},
+      {"Star Lord", "Ketu (4)"},
+      {"Retro", "No"},
+      {"Combust", "Yes"},
+      {"Debilitated/Exalted", "N/A"},
+      {"Star Lord Of", "12"},
+      {"Sub Lord Of", "5"},
+      {"Conjunct With", "Sun (3 1) Mercury (2 9 12)"},
+      {"Nadi Significators", "2 6 11"},
+      {"BNN Retro Seq", "N/A"}};
   EXPECT_EQ(mars.Title, "Mars (Leo)");
   EXPECT_EQ(mars.Direction, "ENE");
   for (const auto& [label, value] : wanted) {

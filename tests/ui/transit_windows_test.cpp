@@ -144,6 +144,9 @@ TEST_F(TransitWindowTest, TheSkyOfTheDetailsIsThatOfThePickedInstant) {
   Show(details);
   EXPECT_EQ(Text(details, "skyTitle"), "Sky View at 10:00:00 AM");
   EXPECT_TRUE(Text(details, "skyDay").startsWith("Friday, "));
+  // What rules the tithi stands for itself and tells itself at the moon's status.
+  EXPECT_TRUE(Text(details, "skyGanapathiRuling").startsWith("Ruling Planet: "));
+  EXPECT_EQ(Find<QLabel>(details, "skyMoon").toolTip(), Text(details, "skyGanapathiRuling"));
   EXPECT_EQ(CellText(details, "panchang", 3, 0), "Hora");
   EXPECT_EQ(details.findChild<QWidget*>("skyRulingPlanets"), nullptr);
   EXPECT_EQ(CellText(details, "skyDayHoras", 0, 0), "Venus");

@@ -155,7 +155,7 @@ TEST(LalKitab, EveryYearIsAPermutationButTheTwoThatAreKnown) {
   for (int year = 1; year <= 120; ++year) {
     chart::HoroscopeModel model =
         ModelWith(1, {"A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L"});
-    ShowLalKitabYear(model, year);
+    ShowLalKitabYear(model.HouseTable, year, model.LalKitabYear);
     std::set<std::string> shown;
     for (const core::Row& row : model.LalKitabYear.Rows) {
       shown.insert(row.Cells[1].Text);
@@ -168,12 +168,12 @@ TEST(LalKitab, EveryYearIsAPermutationButTheTwoThatAreKnown) {
 TEST(LalKitab, AHouseThatNoHouseMovesToKeepsWhatItShowed) {
   chart::HoroscopeModel model =
       ModelWith(1, {"A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L"});
-  ShowLalKitabYear(model, 75);
+  ShowLalKitabYear(model.HouseTable, 75, model.LalKitabYear);
   const std::string before = model.LalKitabYear.Rows[11].Cells[1].Text;
-  ShowLalKitabYear(model, 76);
+  ShowLalKitabYear(model.HouseTable, 76, model.LalKitabYear);
   EXPECT_EQ(model.LalKitabYear.Rows[11].Cells[1].Text, before);
   EXPECT_EQ(model.LalKitabYear.Rows[10].Cells[1].Text, "I");  // the later of two houses
-  EXPECT_THROW(ShowLalKitabYear(model, 121), std::out_of_range);
+  EXPECT_THROW(ShowLalKitabYear(model.HouseTable, 121, model.LalKitabYear), std::out_of_range);
 }
 
 TEST(LoShu, DigitsOfTheDateFillTheGridAndItsPlanes) {

@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "core/exact_numbers.h"
+#include "core/letter_case.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -52,16 +53,7 @@ QVariant BoldFont(const core::Cell& cell) {
 
 }  // namespace
 
-QString FoldedText(const QString& text) {
-  const bool isPlain =
-      std::all_of(text.begin(), text.end(), [](QChar letter) { return letter.unicode() < 0x80; });
-  if (isPlain) {
-    return text.toLower();
-  }
-  QString folded = text.normalized(QString::NormalizationForm_KD);
-  folded.removeIf([](QChar letter) { return letter.category() == QChar::Mark_NonSpacing; });
-  return folded.toCaseFolded();
-}
+QString FoldedText(const QString& text) { return Shown(core::FoldedText(Typed(text))); }
 
 void TableModel::SetTable(core::Table table) {
   beginResetModel();

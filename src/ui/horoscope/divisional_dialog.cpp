@@ -13,28 +13,30 @@ namespace orvex::ui {
 
 namespace {
 
-ChartView* MakeChart(const char* name, const chart::HoroscopeModel& model, char style,
+ChartView* MakeChart(const char* name, const chart::BirthTables& birth, char style,
                      vedic::Division division, const char* title) {
   auto* chart = new ChartView(name);
-  chart->SetPicture(report::DivisionPicture(vedic::BuildDivision(model, division), style, title));
+  chart->SetPicture(report::DivisionPicture(vedic::BuildDivision(birth, division), style, title));
   return chart;
 }
 
 }  // namespace
 
-DivisionalDialog::DivisionalDialog(const chart::HoroscopeModel& model, char style, QWidget* parent)
+DivisionalDialog::DivisionalDialog(const horoscope::OpenedHoroscope& opened, char style,
+                                   QWidget* parent)
     : QDialog(parent) {
   setObjectName("divisionalCharts");
-  setWindowTitle(tr("Divisional charts of %1").arg(Shown(model.Name)));
+  setWindowTitle(tr("Divisional charts of %1").arg(Shown(opened.Model.Name)));
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   grid->setHorizontalSpacing(kMargin);
   grid->addWidget(MakeHeading("Navamsha (D9):"), 0, 0);
   grid->addWidget(MakeHeading("Dashamsha (D10):"), 0, 1);
-  grid->addWidget(MakeChart("navamsha", model, style, vedic::Division::Navamsha, "Navamsha (D9)"),
-                  1, 0);
   grid->addWidget(
-      MakeChart("dashamsha", model, style, vedic::Division::Dashamsha, "Dashamsha (D10)"), 1, 1);
+      MakeChart("navamsha", opened.Birth, style, vedic::Division::Navamsha, "Navamsha (D9)"), 1, 0);
+  grid->addWidget(
+      MakeChart("dashamsha", opened.Birth, style, vedic::Division::Dashamsha, "Dashamsha (D10)"), 1,
+      1);
   grid->setRowStretch(1, 1);
 }
 

@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "chart/horoscope_model.h"
+#include "horoscope/create_horoscope.h"
 
 namespace orvex::ui {
 
@@ -11,8 +11,9 @@ class DivisionalDialog final : public QDialog {
   Q_OBJECT
 
  public:
-  // In the style 'N', 'E' or 'S'. The Escape key closes it.
-  DivisionalDialog(const chart::HoroscopeModel& model, char style, QWidget* parent);
+  // Of the birth, whatever house is rotated to first. In the style 'N', 'E' or 'S'. The Escape key
+  // closes it.
+  DivisionalDialog(const horoscope::OpenedHoroscope& opened, char style, QWidget* parent);
 };
 
 }  // namespace orvex::ui

@@ -24,6 +24,7 @@ class HoroscopeDocument final : public QObject {
 
   Workplace& Place() { return place_; }
   const chart::HoroscopeModel& Model() const { return opened_.Model; }
+  const horoscope::OpenedHoroscope& Opened() const { return opened_; }
 
   // 'N', 'E' or 'S'; a window begins with that of the settings.
   char Style() const { return style_; }

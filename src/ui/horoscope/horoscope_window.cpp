@@ -227,7 +227,7 @@ void HoroscopeWindow::ShowPlanetSheet(std::size_t row) {
 }
 
 void HoroscopeWindow::ShowDivisions() {
-  DivisionalDialog divisions(document_.Model(), document_.Style(), this);
+  DivisionalDialog divisions(document_.Opened(), document_.Style(), this);
   divisions.exec();
 }
 

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -77,7 +78,9 @@ RecalculationPage::RecalculationPage(HoroscopeDocument& document)
       later_(Named(new QPushButton(tr("&Later ▸")), "later")),
       reset_(Named(new QPushButton(tr("&Back to the birth")), "backToBirth")),
       cusps_(Named(new TableView, "workCusps")),
-      planets_(Named(new TableView, "workPlanets")) {
+      planets_(Named(new TableView, "workPlanets")),
+      balance_(MakeCaptionLabel("workBalance")),
+      dashas_(Named(new TableView, "workDashas")) {
   auto* layout = new QHBoxLayout(this);
   layout->addLayout(LayOutEntries());
   layout->addWidget(LayOutResults(), 1);
@@ -132,7 +135,15 @@ QGroupBox* RecalculationPage::LayOutTime() {
 
 QWidget* RecalculationPage::LayOutResults() {
   auto* results = Named(new QSplitter(Qt::Vertical), "workTables");
-  results->addWidget(Titled(tr("Cusps"), cusps_));
+  auto* upper = new QWidget;
+  auto* beside = new QHBoxLayout(upper);
+  beside->setContentsMargins(0, 0, 0, 0);
+  beside->addWidget(Titled(tr("Cusps"), cusps_), 2);
+  QWidget* periods = Titled(tr("Dashas"), dashas_);
+  balance_->setWordWrap(true);
+  periods->layout()->addWidget(balance_);
+  beside->addWidget(periods, 1);
+  results->addWidget(upper);
   results->addWidget(Titled(tr("Planets"), planets_));
   Document().Place().Layout.Remember(*results);
   return results;
@@ -202,6 +213,8 @@ void RecalculationPage::ShowResult(const horoscope::Recalculation& result) {
                    Shown(core::TimeSecondsAmPm(result.Birth)));
   cusps_->SetTable(WithChangesMarked(result.Cusps, ofBirth_.Cusps));
   planets_->SetTable(WithChangesMarked(result.Planets, ofBirth_.Planets));
+  dashas_->SetTable(WithChangesMarked(result.Dashas, ofBirth_.Dashas));
+  balance_->setText(Shown(result.DashaBalance));
 }
 
 }  // namespace orvex::ui

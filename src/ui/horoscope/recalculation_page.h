@@ -49,6 +49,8 @@ class RecalculationPage final : public HoroscopePage {
   QPushButton* reset_;
   TableView* cusps_;
   TableView* planets_;
+  QLabel* balance_;
+  TableView* dashas_;
 
   horoscope::BirthShift shift_;
   horoscope::Recalculation ofBirth_;  // what the results are compared with

@@ -56,6 +56,7 @@ SkyBoard::SkyBoard(Workplace& place, Side side)
       day_(PlainLabel("skyDay")),
       city_(PlainLabel("skyCity")),
       moon_(PlainLabel("skyMoon")),
+      ganapathi_(PlainLabel("skyGanapathiRuling")),
       chart_(new ChartView("skyChart", kSmallestChart)),
       panchang_(MakeTable("panchang", tr("Panchang"))),
       planets_(MakeTable("skyPlanets", tr("Sky View"))) {
@@ -98,6 +99,7 @@ QWidget* SkyBoard::BuildHeader() {
   grid->addWidget(day_, 0, 1, Qt::AlignRight);
   grid->addWidget(city_, 1, 0);
   grid->addWidget(moon_, 1, 1, Qt::AlignRight);
+  grid->addWidget(ganapathi_, 2, 0, 1, 2, Qt::AlignRight);
   grid->setColumnStretch(1, 1);
   return strip;
 }
@@ -161,6 +163,8 @@ void SkyBoard::ShowHeader(const panchang::SkyCaptions& captions) {
   day_->setText(Shown(captions.WeekdayName + ", " + captions.Date + "   " + captions.VikramSamvat));
   city_->setText(Shown(captions.City + " (" + captions.Place + ")"));
   moon_->setText(Shown(captions.MoonStatus));
+  moon_->setToolTip(Shown(captions.GanapathiRuling));
+  ganapathi_->setText(Shown(captions.GanapathiRuling));
 }
 
 }  // namespace orvex::ui

@@ -40,6 +40,7 @@ class SkyBoard final : public QWidget {
   QLabel* day_;
   QLabel* city_;
   QLabel* moon_;
+  QLabel* ganapathi_;  // what rules the tithi
   ChartView* chart_;
   TableView* panchang_;
   TableView* planets_;
