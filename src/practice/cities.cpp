@@ -107,7 +107,7 @@ std::optional<std::string> OffsetOfZone(const core::Session& session, const std:
 
 std::string ZoneOfCity(const core::Session& session, std::int32_t cityId) {
   const core::Result city = session.StoreConnection.Query(
-      "Select timezone from city_master where id = " + WholeText(cityId));
+      "Select timezone from city_master where id = " + core::WholeText(cityId));
   return city.AtEnd() ? "" : city.Text("timezone");
 }
 

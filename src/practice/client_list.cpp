@@ -109,7 +109,7 @@ ClientColumn SortedColumn(const core::Session& session) {
 
 std::string DeleteClientQuestion(const core::Session& session, std::int32_t clientId) {
   const core::Result client = session.StoreConnection.Query(
-      "Select fullname from client_master where id = " + WholeText(clientId));
+      "Select fullname from client_master where id = " + core::WholeText(clientId));
   return kDeleteClientQuestion + (client.AtEnd() ? "" : "\n\n" + client.Text("fullname"));
 }
 
@@ -143,7 +143,7 @@ ClientPlace PlaceOfClient(const core::Session& session, std::int32_t clientId) {
       "Select cm.fullname, cm.groupid, gm.groupname from client_master cm, group_master gm where "
       "cm.groupid = "
       "gm.id and cm.id = " +
-      WholeText(clientId));
+      core::WholeText(clientId));
   return row.AtEnd() ? ClientPlace{}
                      : ClientPlace{static_cast<std::int32_t>(row.Integer("groupid")),
                                    row.Text("fullname"), row.Text("groupname")};

@@ -100,7 +100,8 @@ std::string RemediesThatFit(const SearchFilter& filter, const Clauses& clauses) 
               ? ""
               : " and (cr.problem like '%" + text + "%' or cr.remedy like '%" + text + "%')") +
          clauses.Retrograde +
-         (filter.ForPlanetId ? " and cr.forplanetid = " + core::WholeText(*filter.ForPlanetId) : "") +
+         (filter.ForPlanetId ? " and cr.forplanetid = " + core::WholeText(*filter.ForPlanetId)
+                             : "") +
          clauses.Groups + clauses.Gender + clauses.Ascendant;
 }
 

@@ -130,7 +130,7 @@ std::optional<core::Refusal> CheckDeleteGroup(const core::Session& session) {
 }
 
 std::string DeleteGroupQuestion(const core::Session& session, std::int32_t groupId) {
-  const std::string id = WholeText(groupId);
+  const std::string id = core::WholeText(groupId);
   const auto read = [&session](const std::string& statement) -> std::string {
     const core::Result row = session.StoreConnection.Query(statement);
     return row.AtEnd() ? "" : row.Text("shown");

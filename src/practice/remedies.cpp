@@ -139,7 +139,7 @@ std::string DeleteRemedyQuestion(const core::Session& session, std::int32_t reme
   const core::Result client = session.StoreConnection.Query(
       "Select cm.fullname from client_master cm, client_remedy cr where cm.id = cr.clientid and "
       "cr.id = " +
-      WholeText(remedyId));
+      core::WholeText(remedyId));
   return kDeleteRemedyQuestion + (client.AtEnd() ? "" : "\n\n" + client.Text("fullname"));
 }
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/application_state.h"
 #include "core/cell_colors.h"
 
 namespace orvex::core {

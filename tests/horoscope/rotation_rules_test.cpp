@@ -56,7 +56,7 @@ TEST_F(RotationRules, WhatHangsOnTheHousesIsBuiltAnewFromTheRotatedOnes) {
   RotateNow(*session_, opened, 7);
   const chart::HoroscopeModel& rotated = opened.Model;
   chart::HoroscopeModel again = rotated;
-  chart::BuildFourStep(again, session_->State.StatusBarDegreeCalc);
+  chart::BuildFourStep(again);
   chart::ShowDBA(*session_, again);
   const std::pair<core::Table chart::HoroscopeModel::*, const char*> tables[] = {
       {&chart::HoroscopeModel::FourStepTable, "four steps"},

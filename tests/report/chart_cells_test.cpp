@@ -40,7 +40,7 @@ TEST(ChartCells, TheAscendantIsTintedInBothSouthGridsAndTheMiddleStaysEmpty) {
   for (std::size_t row = 0; row < 4; ++row) {
     for (std::size_t column = 0; column < 4; ++column) {
       const bool middle = (row == 1 || row == 2) && (column == 1 || column == 2);
-      const core::Cell& rashi = cells.SouthRashi[row][column];
+      const SouthSignCell& rashi = cells.SouthRashi[row][column];
       EXPECT_EQ(rashi.Tag.empty(), middle);
       EXPECT_EQ(rashi.Background, cells.SouthKP[row][column].Background);
       tinted += rashi.Background == core::kAscendantTint ? 1 : 0;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "chart/client_saving.h"
+#include "core/cell_colors.h"
 #include "core/text.h"
 #include "horoscope/create_horoscope.h"
 #include "report/chart_picture.h"
@@ -82,7 +83,7 @@ TEST(SkyChartRules, PlanetsOfTheFirstHouseStandInEveryStyleAndItsCellIsTinted) {
   for (std::size_t row = 0; row < 4; ++row) {
     for (std::size_t column = 0; column < 4; ++column) {
       const core::Cell& cell = cells.SouthRashi[row][column];
-      EXPECT_EQ(cell.Background == chart::kAscendantTint, cell.Tag == "5") << row << column;
+      EXPECT_EQ(cell.Background == core::kAscendantTint, cell.Tag == "5") << row << column;
     }
   }
   EXPECT_EQ(cells.SouthRashi[2][3].Text, "Asc SU ME*~");  // Leo
@@ -137,10 +138,12 @@ TEST_F(ReportRules, EveryTypedTextIsEscaped) {
 }
 
 TEST_F(ReportRules, WhatIsMissingInTheLoShuGridIsRedAndWhatIsThereIsNot) {
+  constexpr auto kDirection = core::Table::Index(vedic::LoShuAnalysisColumn::Direction);
   const std::string html = Filled("[LOSHUANALYSIS]");
-  for (std::size_t number = 1; number <= 9; ++number) {
-    const bool missing = model_.LoShuCount.at(number) == 0;
-    const std::string cell = "' face='Verdana' size='2'>" + std::to_string(number) + "<";
+  for (const core::Row& row : model_.LoShuAnalysis.Rows) {
+    const std::string number = row.Cells.front().Text;
+    const bool missing = model_.LoShuCount.at(static_cast<std::size_t>(std::stoi(number))) == 0;
+    const std::string cell = "' face='Verdana' size='2'>" + row.Cells.at(kDirection).Text + "<";
     EXPECT_EQ(core::Contains(html, "<font color='#FF0000" + cell), missing) << number;
     EXPECT_EQ(core::Contains(html, "<font color='" + cell), !missing) << number;
   }

@@ -98,7 +98,7 @@ TEST_F(Searches, ALeapOverTheEndOfTheCircleIsNoPassage) {
   };
   const std::vector<Case> cases = {{Planet::Jupiter, "1987-10-20", 60, 197.7F, SearchEnd::DaysOver},
                                    {Planet::Rahu, "1930-10-25", 40, 77.77F, SearchEnd::DaysOver},
-                                                                {Planet::Sun, "2026-04-10", 40, 0.5F, SearchEnd::Found},
+                                   {Planet::Sun, "2026-04-10", 40, 0.5F, SearchEnd::Found},
                                    {Planet::Sun, "2026-04-10", 40, 359.5F, SearchEnd::Found},
                                    {Planet::Moon, "2026-11-01", 40, 179.5F, SearchEnd::Found}};
   for (const Case& each : cases) {

@@ -56,7 +56,7 @@ TEST_F(PlanetSheets, TheSheetGathersWhatTheTablesKnow) {
       {"Debilitated/Exalted", "N/A"},
       {"Star Lord Of", "12"},
       {"Sub Lord Of", "5"},
-      {"Conjunct With", "Sun (3 1) Mercury (2 9 12)"},
+      {"Conjunct With", "Sun (3 3) Mercury (2 4)"},
       {"Nadi Significators", "2 6 11"},
       {"BNN Retro Seq", "N/A"}};
   EXPECT_EQ(mars.Title, "Mars (Leo)");
