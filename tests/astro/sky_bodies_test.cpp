@@ -11,7 +11,7 @@ TEST(SkyBodies, KetuStandsOppositeRahuAndOnTheLastDegreeWhereRahuStandsAt180) {
   const std::pair<float, float> cases[] = {
       {0.0F, 180.0F}, {179.99F, 359.99F}, {180.0F, 360.0F}, {180.01F, 0.01F}, {360.0F, 180.0F}};
   for (const auto& [rahu, ketu] : cases) {
-    EXPECT_NEAR(KetuDegree(rahu), ketu, 1e-4) << rahu;
+    EXPECT_NEAR(KetuOfSky(rahu), ketu, 1e-4) << rahu;
   }
 }
 
