@@ -8,6 +8,7 @@
 #include "chart/client_checks.h"
 #include "chart/zodiac_lookups.h"
 #include "core/exact_numbers.h"
+#include "core/settings.h"
 #include "core/store_write.h"
 #include "core/text.h"
 
@@ -250,8 +251,8 @@ std::optional<core::DateTime> MomentUtOf(const core::Session& session, const Cli
     return std::nullopt;
   }
   try {
-    return ChartMomentUt(form.Birth, core::Trim(form.Offset), core::Trim(form.Longitude),
-                         core::ToDouble(city->Offset));
+    return ChosenMomentUt(core::BirthMomentOf(session), form.Birth, core::Trim(form.Offset),
+                          core::Trim(form.Longitude), core::ToDouble(city->Offset));
   } catch (const core::DateRangeError&) {
     return std::nullopt;
   }
