@@ -1,6 +1,7 @@
 #include "exact/exact_zodiac.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
@@ -37,7 +38,11 @@ Units OnCircle(Units units) {
 }
 
 double DegreesOf(Units units) {
-  return static_cast<double>(units) / static_cast<double>(kUnitsOfDegree);
+  const double degrees = static_cast<double>(units) / static_cast<double>(kUnitsOfDegree);
+  // Where the division rounds down, the way back would end in the unit before.
+  return degrees * static_cast<double>(kUnitsOfDegree) < static_cast<double>(units)
+             ? std::nextafter(degrees, 2 * static_cast<double>(kUnitsOfCircle))
+             : degrees;
 }
 
 std::string ArcText(Units arc) {

@@ -50,7 +50,7 @@ Units UnitsOf(double longitude);
 // Any count of units brought onto the circle.
 Units OnCircle(Units units);
 
-// The longitude of a unit's begin, degrees.
+// The longitude of a unit's begin, degrees: UnitsOf leads back to the unit.
 double DegreesOf(Units units);
 
 // An arc of 0 or more units, cut to the second: 0°12'40".
