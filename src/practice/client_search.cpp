@@ -9,6 +9,9 @@ namespace orvex::practice {
 
 namespace {
 
+// A typed text goes into the statement as it is and can make one that never ends.
+constexpr std::chrono::milliseconds kLongestSearch{2000};
+
 std::string WholeText(std::int64_t number) { return core::PaddedWhole(number, 1); }
 
 // The clauses that both modes share, each "" where its filter says any.
@@ -171,7 +174,12 @@ SearchResult SearchClients(const core::Session& session, const SearchFilter& fil
   }
   const bool clients = filter.Mode == SearchMode::Clients;
   const Clauses clauses = ClausesOf(filter);
+  const bool typed = !core::Trim(filter.Text).empty();
   const bool done = core::Attempt([&] {
+    std::optional<core::StatementLimit> limit;
+    if (typed) {
+      limit.emplace(session.StoreConnection, kLongestSearch);
+    }
     const std::string statement =
         clients ? ClientStatement(filter, clauses) : RemedyStatement(filter, clauses);
     for (core::Result row = session.StoreConnection.Query(statement); !row.AtEnd(); row.Next()) {

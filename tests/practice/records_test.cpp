@@ -219,7 +219,8 @@ TEST_F(Records, AClientGoesWithPlanetsAndRemediesAndIsInTheBackup) {
   std::filesystem::remove_all(home_.Place.DataFolder() / "Backups");
   core::WriteFileSafely(home_.Place.DataFolder() / "Backups", "in the way");
   EXPECT_EQ(DeleteClient(*session_, 2).Refused->Text,
-            "The database could not be backed up; nothing was deleted.");
+            "The database could not be backed up (the folder of the backups could not be made); "
+            "nothing was deleted.");
   EXPECT_EQ(Count("client_master"), 1);
 }
 
