@@ -3,7 +3,8 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <thread>
+#include <string>
+#include <utility>
 
 #include "core/backup.h"
 #include "core/text.h"
@@ -134,73 +135,21 @@ TEST_F(StartSafety, ASettingsFileThatCanNotBeUsedIsToldOnceAndPassedOver) {
   }
 }
 
-TEST_F(StartSafety, ACommandWaitsAMomentForAnotherOneToEnd) {
-  auto first = home_.Start(StartMode::Writer);
-  std::thread ending([&first] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
-    first.reset();
-  });
-  EXPECT_TRUE(home_.Start(StartMode::Writer));
-  ending.join();
-}
-
-TEST_F(StartSafety, AReadOnlyStoreAndABackupThatFailsAreToldAsWhatTheyAre) {
-  fs::permissions(home_.Place.StoreFile(), fs::perms::owner_read);
-  EXPECT_FALSE(home_.Start());
-  EXPECT_NE(Told().find("may not be written"), std::string::npos);
-  fs::permissions(home_.Place.StoreFile(), fs::perms::owner_read | fs::perms::owner_write);
-  WriteFileSafely(Backups(), "in the way");
-  EXPECT_TRUE(home_.Start());
-  EXPECT_NE(Told(1).find("daily copy of the database could not be made"), std::string::npos);
-}
-
-TEST_F(StartSafety, ANewStoreLeavesTheUsersTemplateAndComesWholeOrNotAtAll) {
-  fs::remove(home_.Place.StoreFile());
-  WriteFileSafely(home_.Place.ReportTemplate(), "my own");
-  StartupPlan plan = home_.Plan();
-  plan.ShippedData = home_.Place.Folder / "data";
-  fs::copy(test::DataFolder(), plan.ShippedData, fs::copy_options::recursive);
-  fs::remove(plan.ShippedData / "timezone_master.tsv");
-  EXPECT_FALSE(RunStartup(plan, home_.Clock, home_.Messages, home_.Ephemeris));
-  EXPECT_FALSE(fs::exists(home_.Place.StoreFile()));
-  EXPECT_TRUE(home_.Start());
-  EXPECT_EQ(test::ReadFile(home_.Place.ReportTemplate()), "my own");
-  EXPECT_EQ(fs::status(home_.Place.LockFile()).permissions(),
-            fs::perms::owner_read | fs::perms::owner_write);
-}
-
-TEST_F(StartSafety, AWriteWaitsForTheProgramThatWrites) {
-  Store first = Store::Open(home_.Place.StoreFile());
-  Store second = Store::Open(home_.Place.StoreFile());
-  std::optional<Batch> batch(std::in_place, first);
-  first.Execute("Update group_master set groupname = 'first'");
-  std::thread ending([&batch] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
-    batch.reset();
-  });
-  EXPECT_NO_THROW(second.Execute("Update settings set usercityid = 1"));
-  ending.join();
-}
-
-TEST(HomeFolder, IsThatOfTheOptionOrTheEnvironmentOrToldToBeMissing) {
-  const std::string user = std::getenv("HOME") == nullptr ? "" : std::getenv("HOME");
-  const char* data = std::getenv("XDG_DATA_HOME");
-  const std::string dataBefore = data == nullptr ? "" : data;
-  ::setenv("ORVEX_HOME", "/from/environment", 1);
-  EXPECT_EQ(HomeFolder(""), "/from/environment");
-  EXPECT_EQ(HomeFolder("/option"), "/option");
-  ::unsetenv("ORVEX_HOME");
-  ::unsetenv("XDG_DATA_HOME");
-  ::setenv("HOME", "/home/user", 1);
-  EXPECT_EQ(HomeFolder(""), "/home/user/.local/share/orvex");
-  ::setenv("XDG_DATA_HOME", "/data", 1);
-  EXPECT_EQ(HomeFolder(""), "/data/orvex");
-  ::unsetenv("XDG_DATA_HOME");
-  ::unsetenv("HOME");
+TEST(HomeFolder, AUserWithoutAnyIsToldWhatIsNeeded) {
+  const auto kept = [](const char* name) {
+    const char* value = std::getenv(name);
+    return std::pair(name, value == nullptr ? std::string() : value);
+  };
+  const auto before = {kept("HOME"), kept("XDG_DATA_HOME"), kept("ORVEX_HOME")};
+  for (const auto& [name, value] : before) {
+    ::unsetenv(name);
+  }
   EXPECT_THROW(HomeFolder(""), std::runtime_error);
-  ::setenv("HOME", user.c_str(), 1);
-  if (!dataBefore.empty()) {
-    ::setenv("XDG_DATA_HOME", dataBefore.c_str(), 1);
+  EXPECT_EQ(HomeFolder("/option"), "/option");
+  for (const auto& [name, value] : before) {
+    if (!value.empty()) {
+      ::setenv(name, value.c_str(), 1);
+    }
   }
 }
 
