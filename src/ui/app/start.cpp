@@ -6,7 +6,6 @@
 #include <QEventLoop>
 #include <QLocale>
 #include <QTimer>
-#include <clocale>
 #include <iostream>
 #include <memory>
 
@@ -109,7 +108,6 @@ int RunWorkbench(int& argc, char** argv, const StartOptions& options) {
   const std::unique_ptr<QApplication> application = OpenDisplay(argc, argv);
   QApplication::setApplicationName("Orvex+");
   QLocale::setDefault(QLocale::c());
-  std::setlocale(LC_NUMERIC, "C");  // the toolkit takes the machine's
   Theme::Apply(*application);
 
   // Closing the main window ends the program, and nothing else does.
