@@ -4,6 +4,7 @@
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
+#include "core/own_files.h"
 #include "core/staged_files.h"
 #include "core/text.h"
 #include "report/chart_cells.h"
@@ -46,8 +47,8 @@ void PrintCells(const char* caption, const std::array<core::Cell, chart::kHouses
 }
 
 // Both charts in every format, named as those of the report.
-void WritePictures(const report::ChartCells& cells, char style, const std::string& clientId,
-                   const std::filesystem::path& folder) {
+void WritePictures(const core::Session& session, const report::ChartCells& cells, char style,
+                   const std::string& clientId, const std::filesystem::path& folder) {
   constexpr int kSide = 1200;
   if (!core::MakePrivateFolders(folder)) {
     throw CommandFailed("The folder " + folder.string() + " could not be made.");
@@ -60,6 +61,7 @@ void WritePictures(const report::ChartCells& cells, char style, const std::strin
     for (const auto& [ending, format] :
          {std::pair{".bmp", ui::PictureFormat::Bmp}, std::pair{".png", ui::PictureFormat::Png},
           std::pair{".svg", ui::PictureFormat::Svg}}) {
+      core::CheckFileToWrite(session, file + ending);
       files.Add(file + ending, ui::ChartPictureBytes(picture, format, kSide));
     }
   }
@@ -70,8 +72,8 @@ void RunCharts(Context& context, const ChartStyleOptions& options, const std::st
   const horoscope::OpenedHoroscope opened = OpenHoroscope(context, options.Id);
   const report::ChartCells cells = report::BuildChartCells(opened.Model);
   if (!pictures.empty()) {
-    WritePictures(cells, StyleOf(context, options), core::WholeText(opened.Model.ClientId),
-                  pictures);
+    WritePictures(context.Reading(), cells, StyleOf(context, options),
+                  core::WholeText(opened.Model.ClientId), pictures);
   }
   if (context.Json) {
     PrintJson({{"north", CellsJson(cells.North)},

@@ -6,6 +6,7 @@
 #include "chart/instant_chart.h"
 #include "cli/context.h"
 #include "cli/output.h"
+#include "cli/visible_output.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "horoscope/client_facts.h"
@@ -235,7 +236,7 @@ void RunList(Context& context, const ClientOptions& options) {
     group = WholeOption("--group", *options.Group);
   }
   if (options.Csv) {
-    std::cout << practice::ClientsAsCsv(context.Reading(), group);
+    PutData(practice::ClientsAsCsv(context.Reading(), group));
     return;
   }
   PrintList(practice::LoadClientsOfGroup(context.Reading(), group), context.Json);

@@ -2,6 +2,7 @@
 
 #include "cli/context.h"
 #include "cli/search_commands.h"
+#include "core/own_files.h"
 #include "practice/birthdays.h"
 #include "practice/client_list.h"
 #include "practice/export_list.h"
@@ -16,7 +17,9 @@ struct ExportOptions {
   SearchOptions Search;
 };
 
-void Export(const core::Table& table, const ExportOptions& options, const char* title) {
+void Export(const core::Session& session, const core::Table& table, const ExportOptions& options,
+            const char* title) {
+  core::CheckFileToWrite(session, options.File);
   if (const auto refused = practice::ExportList(table, options.File, title)) {
     throw CommandFailed(refused->Text);
   }
@@ -28,15 +31,17 @@ void ExportClients(Context& context, const ExportOptions& options) {
   if (options.Group) {
     group = WholeOption("--group", *options.Group);
   }
-  Export(practice::LoadClientsOfGroup(context.Reading(), group), options, "Clients");
+  Export(context.Reading(), practice::LoadClientsOfGroup(context.Reading(), group), options,
+         "Clients");
 }
 
 void ExportSearch(Context& context, const ExportOptions& options) {
-  Export(RunSearch(context.Reading(), options.Search).Results, options, "Search Results");
+  Export(context.Reading(), RunSearch(context.Reading(), options.Search).Results, options,
+         "Search Results");
 }
 
 void ExportBirthdays(Context& context, const ExportOptions& options) {
-  Export(practice::GetBirthdaysToday(context.Reading()), options, "Birthdays");
+  Export(context.Reading(), practice::GetBirthdaysToday(context.Reading()), options, "Birthdays");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
+#include "core/own_files.h"
 #include "horoscope/catalogue.h"
 #include "horoscope/create_horoscope.h"
 #include "horoscope/recalculation.h"
@@ -90,6 +91,7 @@ void PrintHoroscope(const chart::HoroscopeModel& model) {
 
 void WriteTimeline(const core::Session& session, const std::string& file,
                    const chart::HoroscopeModel& model) {
+  core::CheckFileToWrite(session, file);
   const ui::OffscreenPainting painting;
   const ui::TimelinePicture picture = ui::PictureOfDashas(model, session.Time.Today());
   const auto paint = [&](QPainter& painter, const QRectF& area, ui::Ground ground) {

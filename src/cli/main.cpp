@@ -1,9 +1,17 @@
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <filesystem>
 #include <iostream>
+#include <string_view>
 
 #include "cli/context.h"
+#include "cli/visible_output.h"
+#include "core/unicode_text.h"
 
 namespace {
 
@@ -38,13 +46,53 @@ int Run(CLI::App& app, int argc, char** argv) {
   }
 }
 
+std::string NoEmptyText(const std::string& text) {
+  return text.empty() ? "a folder is needed" : "";
+}
+
+// Texts of a call are stored and shown as UTF-8. Names of files may be any bytes.
+void RefuseWhatIsNoText(int argc, char** argv) {
+  constexpr std::array<std::string_view, 6> kFileOptions = {"--home", "--file",     "--svg",
+                                                            "--ics",  "--timeline", "--picture"};
+  for (int at = 1; at < argc; ++at) {
+    const bool names =
+        std::find(kFileOptions.begin(), kFileOptions.end(), argv[at - 1]) != kFileOptions.end();
+    std::error_code none;
+    if (!names && !orvex::core::IsUtf8Text(argv[at]) && !std::filesystem::exists(argv[at], none)) {
+      throw orvex::cli::CommandFailed("A text of the call is not in UTF-8: " +
+                                      std::string(argv[at]));
+    }
+  }
+}
+
+// What is written to an output that is closed must neither end the program without a word nor get
+// into a file that was opened in its place.
+void GuardOutputs() {
+  std::signal(SIGPIPE, SIG_IGN);
+  for (const int output : {0, 1, 2}) {
+    if (::fcntl(output, F_GETFD) < 0) {
+      ::open("/dev/null", O_RDONLY);
+    }
+  }
+}
+
+// The status of a run whose output could not be written.
+int CheckOutput(int status) {
+  if (std::cout.flush()) {
+    return status;
+  }
+  std::cerr << "Standard output could not be written.\n";
+  return kFailed;
+}
+
 // Sets up the commands and runs the call.
 int RunProgram(int argc, char** argv) {
   Context context;
   CLI::App app("Orvex+ at the command line: charts and client records without a window",
                "orvex-cli");
   app.set_version_flag("--version", orvex::core::ProgramVersion());
-  CLI::Option* home = app.add_option("--home", context.HomeOption, "the install folder");
+  CLI::Option* home =
+      app.add_option("--home", context.HomeOption, "the install folder")->check(NoEmptyText);
   app.add_flag("--demo", context.Demo, "the demonstration in a home of its own")->excludes(home);
   app.add_option("--now", context.NowOption, "the clock of the run, YYYY-MM-DD HH:MM:SS");
   app.add_flag("--json", context.Json, "print one JSON document");
@@ -88,8 +136,11 @@ int RunProgram(int argc, char** argv) {
 int main(int argc, char** argv) {
   // Whatever the program makes holds private data.
   ::umask(S_IRWXG | S_IRWXO);
+  GuardOutputs();
+  const orvex::cli::VisibleOutput visible;
   try {
-    return RunProgram(argc, argv);
+    RefuseWhatIsNoText(argc, argv);
+    return CheckOutput(RunProgram(argc, argv));
   } catch (const std::exception& error) {
     std::cerr << error.what() << "\n";
     return kFailed;

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <iostream>
 
+#include "cli/visible_output.h"
 #include "core/cell_colors.h"
 #include "core/text.h"
+#include "core/unicode_text.h"
 
 namespace orvex::cli {
 
@@ -38,11 +40,11 @@ Json RowJson(const core::Row& row) {
   return json;
 }
 
-// Text on one line of the terminal: control characters, also those that drive it, become blanks.
+// Text on one line of the terminal: line breaks and tabs become blanks, what would drive it marks.
 std::string OneLine(const std::string& text) {
-  std::string line = text;
+  std::string line = core::VisibleText(text);
   std::replace_if(
-      line.begin(), line.end(), [](char c) { return (c >= 0 && c < ' ') || c == '\x7F'; }, ' ');
+      line.begin(), line.end(), [](char c) { return c == '\n' || c == '\t'; }, ' ');
   return line;
 }
 
@@ -79,7 +81,7 @@ Json TableJson(const core::Table& table) {
 }
 
 void PrintJson(const Json& document) {
-  std::cout << document.dump(1, ' ', false, Json::error_handler_t::replace) << "\n";
+  PutData(document.dump(1, ' ', false, Json::error_handler_t::replace) + "\n");
 }
 
 void PrintTable(const core::Table& table) {

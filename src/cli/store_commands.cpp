@@ -18,7 +18,9 @@ void PrintFile(const char* name, const std::filesystem::path& file, bool json) {
 
 void RunBackup(Context& context) {
   const core::Session& session = context.Writing();
-  PrintFile("backup", core::BackUpStore(session.Place, session.StoreConnection, session.Time),
+  PrintFile("backup",
+            core::BackUpStore(session.Place, session.StoreConnection, session.Time,
+                              core::BackupKind::ByHand),
             context.Json);
 }
 

@@ -4,6 +4,7 @@
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
+#include "core/own_files.h"
 #include "core/text.h"
 #include "practice/cities.h"
 #include "transit/changes.h"
@@ -40,6 +41,7 @@ struct TransitOptions {
 
 void WriteCalendar(const core::Session& session, const std::string& file,
                    const std::vector<transit::CalendarEvent>& events) {
+  core::CheckFileToWrite(session, file);
   core::WriteFileSafely(
       file, transit::CalendarText(
                 events, chart::PlainMomentUt(session.Time.Now(), session.State.UserCityOffset)));
@@ -47,6 +49,7 @@ void WriteCalendar(const core::Session& session, const std::string& file,
 
 void WriteGraph(const core::Session& session, const std::string& file,
                 const transit::MonthGrid& grid) {
+  core::CheckFileToWrite(session, file);
   const ui::OffscreenPainting painting;
   const ui::MonthPicture picture = ui::PictureOfMonth(grid, session.Time.Today());
   ui::WriteGraphSvg([&](QPainter& painter, const QRectF& area,

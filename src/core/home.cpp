@@ -50,6 +50,16 @@ bool MakePrivateFolders(const fs::path& folder) {
   return true;
 }
 
+fs::path BehindLinks(const fs::path& path) {
+  constexpr int kMostLinks = 40;
+  fs::path place = path;
+  std::error_code error;
+  for (int link = 0; link < kMostLinks && fs::is_symlink(place, error); ++link) {
+    place = place.parent_path() / fs::read_symlink(place, error);
+  }
+  return place;
+}
+
 bool MayWrite(const fs::path& folder) { return ::access(folder.c_str(), W_OK | X_OK) == 0; }
 
 std::optional<FileLock> FileLock::Acquire(const fs::path& file,
@@ -86,7 +96,15 @@ FileLock::~FileLock() {
 
 fs::path UserDataFolder() {
   const std::string data = Environment("XDG_DATA_HOME");
-  return data.empty() ? fs::path(Environment("HOME")) / ".local" / "share" : fs::path(data);
+  if (!data.empty()) {
+    return data;
+  }
+  const std::string user = Environment("HOME");
+  if (user.empty()) {
+    throw std::runtime_error(
+        "Orvex+ needs a folder for its records: please give --home DIR or set HOME.");
+  }
+  return fs::path(user) / ".local" / "share";
 }
 
 fs::path HomeFolder(const std::string& option) {

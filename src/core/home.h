@@ -18,16 +18,21 @@ struct Home {
   std::filesystem::path LockFile() const { return Folder / ".lock"; }
 };
 
-// Where the user's data folders lie: $XDG_DATA_HOME, else ~/.local/share.
+// Where the user's data folders lie: $XDG_DATA_HOME, else ~/.local/share. std::runtime_error where
+// neither is set.
 std::filesystem::path UserDataFolder();
 
 // The home of a run: the option given, else $ORVEX_HOME, else the program's folder if it holds
-// "Data", else the user's data folder.
+// "Data", else the user's data folder. std::runtime_error that says what is needed where the
+// user has none.
 std::filesystem::path HomeFolder(const std::string& option);
 
 // Makes the folder and those above it that are missing, with the rights 0700. False where one
 // could not be made.
 bool MakePrivateFolders(const std::filesystem::path& folder);
+
+// Where a path leads when the links at its end are followed, also those that lead nowhere.
+std::filesystem::path BehindLinks(const std::filesystem::path& path);
 
 // Whether this user may write in the folder.
 bool MayWrite(const std::filesystem::path& folder);

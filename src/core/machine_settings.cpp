@@ -43,6 +43,9 @@ Json Load(const std::filesystem::path& file, const char* message) {
                                                  std::filesystem::file_size(file, error) == 0))) {
     return Json::object();
   }
+  if (!std::filesystem::is_regular_file(file, error)) {
+    throw MachineSettingError(message);
+  }
   std::ifstream stream(file);
   Json settings = Json::parse(stream, nullptr, false);
   if (!settings.is_object()) {

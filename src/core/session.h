@@ -1,6 +1,7 @@
 // Everything that lives for as long as the program does, handed by reference to whatever needs it.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 
 #include "core/application_state.h"
@@ -25,6 +26,7 @@ struct Session {
   Messages& Shown;
   astro::EphemerisGateway& Ephemeris;
   std::optional<FileLock> Lock;  // held by a program that writes
+  std::filesystem::path MachineSettingsFile = {};
 };
 
 }  // namespace orvex::core

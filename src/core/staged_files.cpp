@@ -6,6 +6,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "core/home.h"
+
 namespace orvex::core {
 
 namespace fs = std::filesystem;
@@ -25,10 +27,11 @@ StagedFiles::~StagedFiles() {
   }
 }
 
-void StagedFiles::Add(const fs::path& file, const std::string& content) {
+void StagedFiles::Add(const fs::path& name, const std::string& content) {
+  const fs::path file = BehindLinks(name);
   std::error_code error;
-  if (fs::is_directory(file, error)) {
-    Fail(file);
+  if (fs::exists(file, error) && !fs::is_regular_file(file, error)) {
+    Fail(name);
   }
   // A name of its own for each writer: two that write at once must not share a file.
   std::string beside = file.string() + ".XXXXXX";

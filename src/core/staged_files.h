@@ -16,9 +16,10 @@ class StagedFiles {
   StagedFiles& operator=(const StagedFiles&) = delete;
   ~StagedFiles();
 
-  // Writes the content beside `file`, readable by its owner alone. std::runtime_error where that
-  // can't be done, or where a folder is in the way.
-  void Add(const std::filesystem::path& file, const std::string& content);
+  // Writes the content beside the file, readable by its owner alone; a file behind a link stays
+  // behind it. std::runtime_error where that can't be done, or where what is no plain file is in
+  // the way: a folder, a device, a pipe.
+  void Add(const std::filesystem::path& name, const std::string& content);
 
   // std::runtime_error where a file could not be put in its place; those before it are then new.
   void Commit();

@@ -26,6 +26,13 @@ constexpr const char* kReadOnlyDatabase =
 constexpr const char* kStartFailed =
     "Orvex+ encountered an issue while starting. Please restart Orvex+ and retry.";
 
+constexpr const char* kNoUpgradeCopy =
+    "The database of an earlier release could not be copied before it is brought up to date; "
+    "nothing was changed.";
+constexpr const char* kBackupsStay =
+    "Nothing was changed. To begin with an empty database, move the folder Backups out of the Data "
+    "folder.";
+
 constexpr const char* kNoBackup =
     "The daily copy of the database could not be made. Please check the folder Backups under the "
     "Data folder.";
@@ -35,7 +42,7 @@ constexpr const char* kMachineSection = "Settings";
 
 // Carries the message of a refused start to the one place where it is shown.
 struct StartRefusal {
-  const char* Text;
+  std::string Text;
 };
 
 const char* OpenFailureText(StoreFault fault) {
@@ -70,16 +77,57 @@ void CopyReportTemplate(const StartupPlan& plan) {
   }
 }
 
-Store OpenStore(const StartupPlan& plan, bool locked) {
+// A home that has copies but no store lost it. The workbench offers the newest copy, a command
+// names the way to it; neither begins an empty store.
+void OfferBackup(const StartupPlan& plan, const Clock& clock, Messages& messages) {
+  const std::optional<std::filesystem::path> newest = NewestBackup(plan.Place, clock);
+  const std::string lost =
+      "There is no database under the Data folder of " + plan.Place.Folder.string() +
+      (newest ? ", but there are copies of it. The newest is " + newest->string() + "."
+              : ", but one that could not be read was kept in its folder Backups.");
+  if (!newest || plan.Mode != StartMode::Owner) {
+    throw StartRefusal{lost + (newest ? " To put it in its place: orvex-cli --home \"" +
+                                            plan.Place.Folder.string() + "\" restore \"" +
+                                            newest->string() + "\""
+                                      : std::string(" ") + kBackupsStay)};
+  }
+  if (messages.ShowMessage(lost + " Do you want to put it in its place?", MessageButtons::YesNo,
+                           MessageIcon::Question) != MessageAnswer::Yes) {
+    throw StartRefusal{kBackupsStay};
+  }
   try {
-    if (locked && !std::filesystem::exists(plan.Place.StoreFile())) {
-      if (!MakePrivateFolders(plan.Place.DataFolder())) {
-        throw StartRefusal{kNoDatabase};
-      }
-      CopyReportTemplate(plan);
-      CreateStore(plan.Place.StoreFile(), plan.ShippedData);
+    RestoreStore(plan.Place, *newest, clock);
+  } catch (const std::exception& error) {
+    throw StartRefusal{error.what()};
+  }
+}
+
+// Makes the store of a home that never had one. A link that leads nowhere is a store out of reach.
+void MakeMissingStore(const StartupPlan& plan, const Clock& clock, Messages& messages) {
+  const std::filesystem::path file = plan.Place.StoreFile();
+  if (std::filesystem::exists(file) || std::filesystem::is_symlink(file)) {
+    return;
+  }
+  if (HasBackups(plan.Place)) {
+    OfferBackup(plan, clock, messages);
+    return;
+  }
+  if (!MakePrivateFolders(plan.Place.DataFolder())) {
+    throw StartRefusal{kNoDatabase};
+  }
+  CopyReportTemplate(plan);
+  CreateStore(file, plan.ShippedData);
+}
+
+Store OpenStore(const StartupPlan& plan, bool locked, const Clock& clock, Messages& messages) {
+  try {
+    if (locked) {
+      RemoveHalfCopies(plan.Place);
+      MakeMissingStore(plan, clock, messages);
     }
     return Store::Open(plan.Place.StoreFile());
+  } catch (const StartRefusal&) {
+    throw;
   } catch (const StoreError& error) {
     throw StartRefusal{OpenFailureText(error.Fault())};
   } catch (const std::exception&) {
@@ -87,7 +135,8 @@ Store OpenStore(const StartupPlan& plan, bool locked) {
   }
 }
 
-void WriteMachineSettings(const StartupPlan& plan) {
+// The two values that are kept for the machine; a file that can't be used is told and passed over.
+void WriteMachineSettings(const StartupPlan& plan, Messages& messages) try {
   const MachineSettings settings(plan.MachineSettingsFile);
   const auto keep = [&settings](const char* key, const std::string& value) {
     if (settings.ReadMachineSetting(kMachineApp, kMachineSection, key, "") != value) {
@@ -96,6 +145,18 @@ void WriteMachineSettings(const StartupPlan& plan) {
   };
   keep("InstallFolder", std::filesystem::absolute(plan.Place.Folder).string());
   keep("CurrentVersion", ProgramVersion());
+} catch (const MachineSettingError& error) {
+  messages.ShowMessage("The settings file of this machine, " + plan.MachineSettingsFile.string() +
+                           ", can't be used and is passed over: " + error.what() + ".",
+                       MessageButtons::Ok, MessageIcon::Information);
+}
+
+// The store as it was, before an upgrade changes it.
+void CopyBeforeUpgrade(const StartupPlan& plan, const Store& store, const Clock& clock) {
+  if (NeedsUpgrade(store) &&
+      !Attempt([&] { BackUpStore(plan.Place, store, clock, BackupKind::BeforeUpgrade); })) {
+    throw StartRefusal{kNoUpgradeCopy};
+  }
 }
 
 std::unique_ptr<Session> Start(const StartupPlan& plan, const Clock& clock, Messages& messages,
@@ -104,10 +165,13 @@ std::unique_ptr<Session> Start(const StartupPlan& plan, const Clock& clock, Mess
     throw StartRefusal{kNoRights};
   }
   std::optional<FileLock> lock = LockHome(plan);
-  Store store = OpenStore(plan, lock.has_value());
+  Store store = OpenStore(plan, lock.has_value(), clock, messages);
   if (plan.Mode != StartMode::Reader &&
       !Attempt([&] { BackUpStoreDaily(plan.Place, store, clock); })) {
     messages.ShowMessage(kNoBackup, MessageButtons::Ok, MessageIcon::Information);
+  }
+  if (lock) {
+    CopyBeforeUpgrade(plan, store, clock);
   }
   try {
     // A reader beside a running program leaves the repairs to that program.
@@ -118,10 +182,11 @@ std::unique_ptr<Session> Start(const StartupPlan& plan, const Clock& clock, Mess
     auto session = std::make_unique<Session>(Session{plan.Place, std::move(store),
                                                      std::move(reference), ApplicationState(),
                                                      clock, messages, ephemeris, std::nullopt});
+    session->MachineSettingsFile = plan.MachineSettingsFile;
     LoadSessionSettings(*session);
     LoadUserCity(*session);
     if (lock) {
-      WriteMachineSettings(plan);
+      WriteMachineSettings(plan, messages);
     }
     if (plan.Mode != StartMode::Reader) {
       session->Lock = std::move(lock);

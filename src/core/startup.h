@@ -26,7 +26,8 @@ struct StartupPlan {
 };
 
 // Runs the checks of the start in order and gives the session, or shows the program's message and
-// gives nothing. A home without a store gets a new one.
+// gives nothing. A home without a store gets a new one; where it has copies of one, an owner is
+// asked whether the newest takes its place, and a command is refused with the way to it.
 std::unique_ptr<Session> RunStartup(const StartupPlan& plan, const Clock& clock, Messages& messages,
                                     astro::EphemerisGateway& ephemeris);
 

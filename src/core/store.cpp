@@ -10,6 +10,7 @@
 
 #include "core/dialect.h"
 #include "core/exact_numbers.h"
+#include "core/home.h"
 #include "core/letter_case.h"
 #include "core/text.h"
 
@@ -225,7 +226,9 @@ void Store::Closer::operator()(sqlite3* connection) const { sqlite3_close_v2(con
 
 Store::Store(sqlite3* connection) : connection_(connection) {}
 
-Store Store::Open(const std::filesystem::path& file) {
+Store Store::Open(const std::filesystem::path& path) {
+  // The engine keeps the journal beside the file itself, wherever a link to it stands.
+  const std::filesystem::path file = BehindLinks(path);
   CheckFile(file);
   Store store(OpenConnection(file));
   try {
@@ -326,6 +329,24 @@ void Store::InsertRows(const std::string& table, const std::vector<std::string>&
   }
 }
 
+StatementLimit::StatementLimit(const Store& store, std::chrono::milliseconds time)
+    : connection_(store.connection_.get()), end_(std::chrono::steady_clock::now() + time) {
+  constexpr int kStepsBetween = 1000;
+  // The clock is read between the engine's steps, so that none of them may take long.
+  constexpr int kLongestValue = 16'000'000;
+  longestValue_ = sqlite3_limit(connection_, SQLITE_LIMIT_LENGTH, kLongestValue);
+  sqlite3_progress_handler(connection_, kStepsBetween, &StatementLimit::IsOver, this);
+}
+
+StatementLimit::~StatementLimit() {
+  sqlite3_progress_handler(connection_, 0, nullptr, nullptr);
+  sqlite3_limit(connection_, SQLITE_LIMIT_LENGTH, longestValue_);
+}
+
+int StatementLimit::IsOver(void* limit) {
+  return std::chrono::steady_clock::now() >= static_cast<StatementLimit*>(limit)->end_ ? 1 : 0;
+}
+
 Batch::Batch(Store& store) : store_(store) { store_.ExecuteScript("begin immediate"); }
 
 Batch::~Batch() {
@@ -345,8 +366,11 @@ void Batch::Commit() {
 }
 
 void Batch::Undo() {
-  store_.ExecuteScript("rollback");
   open_ = false;
+  // The engine itself takes a batch back where the disk is full: then there is nothing to undo.
+  if (sqlite3_get_autocommit(store_.connection_.get()) == 0) {
+    store_.ExecuteScript("rollback");
+  }
 }
 
 void SyncStore(Store& store) { store.Query("Select date()"); }

@@ -1,6 +1,7 @@
 // The one data store: an SQLite file, reached by statements of the dialect (dialect.h).
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -79,7 +80,7 @@ class Store {
 
   // Opens a store for reading and writing. Nothing in the file is changed. StoreError with the
   // fault for what is missing, foreign, cut short, later or read-only.
-  static Store Open(const std::filesystem::path& file);
+  static Store Open(const std::filesystem::path& path);
 
   // Makes an empty store with the rights 0600. StoreError(Statement) if there is a file already.
   static Store Create(const std::filesystem::path& file);
@@ -104,6 +105,7 @@ class Store {
 
  private:
   friend class Batch;
+  friend class StatementLimit;
   struct Closer {
     void operator()(sqlite3* connection) const;
   };
@@ -113,6 +115,24 @@ class Store {
   [[noreturn]] void Fail(std::string_view what) const;
 
   std::unique_ptr<sqlite3, Closer> connection_;
+};
+
+// For statements that hold a text as it was typed: as long as it lives, a statement of the store
+// that is still at work after `time` fails with StoreError(Statement), and one value takes little
+// room.
+class StatementLimit {
+ public:
+  StatementLimit(const Store& store, std::chrono::milliseconds time);
+  StatementLimit(const StatementLimit&) = delete;
+  StatementLimit& operator=(const StatementLimit&) = delete;
+  ~StatementLimit();
+
+ private:
+  static int IsOver(void* limit);
+
+  sqlite3* connection_;
+  std::chrono::steady_clock::time_point end_;
+  int longestValue_;
 };
 
 // A batch of writes as one transaction. A crash at any instant leaves the whole batch or nothing.

@@ -170,13 +170,16 @@ void FillAddedColumns(Store& store, const std::set<std::string>& added) {
   }
 }
 
+std::int64_t SchemaOf(const Store& store) {
+  return store.Query("Select user_version from pragma_user_version").Integer("user_version");
+}
+
 // The schema files after the tables; each says its number in user_version.
 void RunNewerSchemaFiles(Store& store, const fs::path& shippedData) {
   constexpr std::array<std::pair<int, const char*>, 2> kFiles = {
       {{2, "002_indexes.sql"}, {3, "003_search_indexes.sql"}}};
   static_assert(kFiles.back().first == Store::kSchemaVersion);
-  const std::int64_t present =
-      store.Query("Select user_version from pragma_user_version").Integer("user_version");
+  const std::int64_t present = SchemaOf(store);
   for (const auto& [number, file] : kFiles) {
     if (present < number) {
       store.ExecuteScript(ReadWhole(shippedData / "schema" / file));
@@ -185,6 +188,8 @@ void RunNewerSchemaFiles(Store& store, const fs::path& shippedData) {
 }
 
 }  // namespace
+
+bool NeedsUpgrade(const Store& store) { return SchemaOf(store) < Store::kSchemaVersion; }
 
 void CreateStore(const fs::path& file, const fs::path& shippedData) {
   const fs::path beside = file.string() + ".new";
@@ -198,7 +203,9 @@ void CreateStore(const fs::path& file, const fs::path& shippedData) {
     FillReferenceTables(store, shippedData);
     FillUserTables(store);
     batch.Commit();
+    ApplyStoreUpgrades(store, shippedData);
   }
+  fs::remove(file.string() + "-journal");  // of a store that is gone
   fs::rename(beside, file);
 }
 

@@ -12,6 +12,9 @@ namespace orvex::core {
 // std::runtime_error where it could not be made.
 void CreateStore(const std::filesystem::path& file, const std::filesystem::path& shippedData);
 
+// Whether a store has an earlier form than the newest.
+bool NeedsUpgrade(const Store& store);
+
 // Brings a store to the newest form: adds the columns that probes do not find and fills them, mends
 // the sign table (on every start), and adds the indexes. What was done before a failure stays.
 void ApplyStoreUpgrades(Store& store, const std::filesystem::path& shippedData);

@@ -8,6 +8,7 @@
 #include "core/csv.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "core/unicode_text.h"
 #include "practice/client_csv.h"
 
 namespace orvex::practice {
@@ -16,28 +17,6 @@ namespace {
 
 constexpr std::size_t kProgressEvery = 200;
 constexpr std::size_t kLongestName = 100;
-
-// Whether a text is well-formed UTF-8 without NUL.
-bool IsUtf8Text(const std::string& text) {
-  std::size_t following = 0;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (following > 0) {
-      if ((byte & 0xC0U) != 0x80U) {
-        return false;
-      }
-      --following;
-    } else if (byte >= 0x80U) {
-      following = byte >= 0xF0U ? 3 : byte >= 0xE0U ? 2 : 1;
-      if (byte < 0xC2U || byte > 0xF4U) {
-        return false;
-      }
-    } else if (byte == 0) {
-      return false;
-    }
-  }
-  return following == 0;
-}
 
 // What makes two records the same client: name, moment, place, query and group.
 std::string Identity(const std::vector<std::string>& parts) { return core::Join(parts, "\n"); }
@@ -98,7 +77,7 @@ class Import {
             places_.begin(), places_.end(), [](const auto& place) { return place.has_value(); }))) {
       return "the line has not as many fields as the first one";
     }
-    if (!std::all_of(fields.begin(), fields.end(), IsUtf8Text)) {
+    if (!std::all_of(fields.begin(), fields.end(), core::IsUtf8Text)) {
       return "the line is not text in UTF-8";
     }
     const auto read = ClientOfLine(session_, places_, fields, request_.GroupId);

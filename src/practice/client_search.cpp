@@ -1,5 +1,7 @@
 #include "practice/client_search.h"
 
+#include <chrono>
+#include <memory>
 #include <unordered_map>
 
 #include "core/attempt.h"
@@ -10,6 +12,16 @@
 namespace orvex::practice {
 
 namespace {
+
+// A typed text goes into the statement as it is and can make one that never ends.
+std::unique_ptr<core::StatementLimit> LimitOf(const core::Session& session,
+                                              const SearchFilter& filter) {
+  constexpr std::chrono::milliseconds kLongestSearch{2000};
+  if (core::Trim(filter.Text).empty()) {
+    return nullptr;
+  }
+  return std::make_unique<core::StatementLimit>(session.StoreConnection, kLongestSearch);
+}
 
 // The clauses that both modes share, each "" where its filter says any.
 struct Clauses {
@@ -200,6 +212,7 @@ FoundRows FindRows(const core::Session& session, const SearchFilter& filter) {
     return found;
   }
   const bool done = core::Attempt([&] {
+    const auto limit = LimitOf(session, filter);
     const std::string statement = SelectThatFit(filter, "cm.id") + kByName;
     for (core::Result row = session.StoreConnection.Query(statement); !row.AtEnd(); row.Next()) {
       found.Rows.push_back({static_cast<std::int32_t>(row.Integer("rowkey")),
@@ -223,6 +236,7 @@ std::vector<core::Row> ReadFoundRows(const core::Session& session, const SearchF
   }
   std::vector<core::Row> read(rows.size());
   core::Attempt([&] {
+    const auto limit = LimitOf(session, filter);
     core::Table one = ResultTable(filter.Mode);
     const std::string statement =
         SelectCells(filter) + " and " + KeyOf(filter) + " in (" + core::Join(ids, ",") + ")";
@@ -246,6 +260,7 @@ SearchResult SearchClients(const core::Session& session, const SearchFilter& fil
     return result;
   }
   const bool done = core::Attempt([&] {
+    const auto limit = LimitOf(session, filter);
     const std::string statement = SelectCells(filter) + kByName;
     for (core::Result row = session.StoreConnection.Query(statement); !row.AtEnd(); row.Next()) {
       OfClients(filter) ? AddClientRow(row, result.Results) : AddRemedyRow(row, result.Results);

@@ -1,6 +1,7 @@
 // How clients and groups are deleted: the store is copied first.
 #pragma once
 
+#include <string>
 #include <utility>
 
 #include "core/backup.h"
@@ -13,9 +14,11 @@ namespace orvex::practice {
 template <typename Write>
 core::SaveResult DeleteAfterBackup(core::Session& session, Write&& write) {
   try {
-    core::BackUpStore(session.Place, session.StoreConnection, session.Time);
-  } catch (const std::exception&) {
-    return {0, core::Refusal{"The database could not be backed up; nothing was deleted.",
+    core::BackUpStore(session.Place, session.StoreConnection, session.Time,
+                      core::BackupKind::BeforeDeletion);
+  } catch (const std::exception& error) {
+    return {0, core::Refusal{"The database could not be backed up (" + std::string(error.what()) +
+                                 "); nothing was deleted.",
                              core::MessageIcon::Stop, ""}};
   }
   return core::WriteBatch(session, std::forward<Write>(write));

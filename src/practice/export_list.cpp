@@ -1,8 +1,11 @@
 #include "practice/export_list.h"
 
+#include <stdlib.h>
+#include <unistd.h>
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <clocale>
 #include <stdexcept>
 #include <utility>
 
@@ -27,6 +30,50 @@ void Require(lxw_error done) {
     throw std::runtime_error(lxw_strerror(done));
   }
 }
+
+// As long as it lives, this thread prints numbers with a point, as the format of the file wants
+// them, whatever the machine's locale.
+class PointNumbers {
+ public:
+  PointNumbers()
+      : point_(::newlocale(LC_NUMERIC_MASK, "C", nullptr)), before_(::uselocale(point_)) {}
+  PointNumbers(const PointNumbers&) = delete;
+  PointNumbers& operator=(const PointNumbers&) = delete;
+  ~PointNumbers() {
+    ::uselocale(before_);
+    ::freelocale(point_);
+  }
+
+ private:
+  locale_t point_;
+  locale_t before_;
+};
+
+// An empty file beside another, under a name of its own, readable by its owner alone; gone at the
+// end.
+class FileBeside {
+ public:
+  explicit FileBeside(const fs::path& file) {
+    std::string name = file.string() + ".XXXXXX";
+    const int made = ::mkstemp(name.data());
+    if (made < 0) {
+      throw std::runtime_error("the file could not be made");
+    }
+    ::close(made);
+    path_ = name;
+  }
+  FileBeside(const FileBeside&) = delete;
+  FileBeside& operator=(const FileBeside&) = delete;
+  ~FileBeside() {
+    std::error_code ignored;
+    fs::remove(path_, ignored);
+  }
+
+  const fs::path& Path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
 
 // An open workbook; one that is left without Finish frees what it holds.
 class Workbook {
@@ -154,15 +201,13 @@ std::string SheetName(const std::string& title) {
 
 std::optional<core::Refusal> ExportList(const core::Table& table, const fs::path& file,
                                         const std::string& title) {
-  const fs::path beside = file.string() + ".new";
   try {
-    core::WriteFileSafely(beside, "");  // makes the file with its rights before anything is in it
-    Write(table, beside, title);
-    fs::rename(beside, file);
+    const PointNumbers numbers;
+    const FileBeside beside(file);
+    Write(table, beside.Path(), title);
+    core::WriteFileSafely(file, core::ReadTextFile(beside.Path()));
     return std::nullopt;
   } catch (const std::exception&) {
-    std::error_code ignored;
-    fs::remove(beside, ignored);
     return core::Refusal{"Could not export data to Microsoft Excel.", core::MessageIcon::Stop, ""};
   }
 }

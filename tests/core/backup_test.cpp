@@ -1,8 +1,15 @@
 #include "core/backup.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
 
 #include "core/csv.h"
+#include "core/text.h"
 #include "support/test_home.h"
 
 namespace orvex::core {
@@ -29,6 +36,14 @@ class Backup : public testing::Test {
       return error.what();
     }
   }
+
+  std::vector<std::string> FilesWith(const std::string& part) const {
+    std::vector<std::string> names = Files();
+    std::erase_if(names, [&part](const std::string& name) { return !Contains(name, part); });
+    return names;
+  }
+
+  fs::path Folder() const { return home_.Place.DataFolder() / "Backups"; }
 
   std::string FirstGroup() {
     const auto session = home_.Start();
@@ -62,14 +77,14 @@ TEST_F(Backup, ARestoreBringsTheCopyBackAndKeepsWhatStoodThere) {
   fs::path copy;
   {
     const auto session = home_.Start();
-    copy = BackUpStore(home_.Place, session->StoreConnection, home_.Clock);
+    copy = BackUpStore(home_.Place, session->StoreConnection, home_.Clock, BackupKind::ByHand);
     session->StoreConnection.Execute("Update group_master set groupname = 'Later'");
   }
   const std::size_t before = Files().size();
   EXPECT_EQ(RestoreFault(copy), "");
   EXPECT_EQ(FirstGroup(), "General");
   EXPECT_EQ(Files().size(), before + 1);
-  EXPECT_EQ(RestoreFault(home_.Place.DataFolder() / "Backups" / Files().back()), "");
+  EXPECT_EQ(RestoreFault(Folder() / FilesWith("before-restore").back()), "");
   EXPECT_EQ(FirstGroup(), "Later");
 }
 
@@ -99,6 +114,105 @@ TEST_F(Backup, AStoreThatCanNotBeReadIsReplacedAndKept) {
   EXPECT_EQ(RestoreFault(test::TemplateStore()), "");
   EXPECT_EQ(FirstGroup(), "General");
   EXPECT_EQ(Files().back().substr(0, 11), "unreadable-");
+}
+
+TEST_F(Backup, CopiesOfAClockThatRanAheadPushOutNoneOfToday) {
+  const auto startDaily = [this](const char* from, int days) {
+    home_.Clock.Set(test::Moment(from));
+    for (int day = 0; day < days; ++day) {
+      home_.Start();
+      home_.Clock.Set(home_.Clock.Now() + std::chrono::hours(24));
+    }
+  };
+  startDaily("2030-01-01 10:00", 16);
+  startDaily("2026-11-24 10:00", 16);
+  const std::vector<std::string> now = FilesWith("ORVD-2026");
+  ASSERT_EQ(now.size(), 14U);
+  EXPECT_EQ(now.front(), "ORVD-2026-11-26-100000.mdb");
+  EXPECT_EQ(now.back(), "ORVD-2026-12-09-100000.mdb");
+  EXPECT_EQ(FilesWith("ORVD-2030").size(), 14U);
+  // The newest of now is offered, not that of a day to come.
+  EXPECT_EQ(NewestBackup(home_.Place, home_.Clock)->filename(), now.back());
+}
+
+TEST_F(Backup, ManyCopiesOfOneKindPushOutNoneOfAnother) {
+  const auto session = home_.Start();
+  for (const BackupKind kind : {BackupKind::BeforeDeletion, BackupKind::ByHand}) {
+    for (int i = 0; i < 17; ++i) {
+      BackUpStore(home_.Place, session->StoreConnection, home_.Clock, kind);
+    }
+  }
+  EXPECT_EQ(FilesWith("100000.mdb").size(), 1U);
+  EXPECT_EQ(FilesWith("before-deletion").size(), kBackupsKept);
+  EXPECT_EQ(FilesWith("before-deletion").back(), "ORVD-2026-11-24-100000_017-before-deletion.mdb");
+  EXPECT_EQ(FilesWith("by-hand").size(), kBackupsKept);
+  // A copy before a deletion is not the daily one.
+  home_.Clock.Set(home_.Clock.Now() + std::chrono::hours(24));
+  BackUpStore(home_.Place, session->StoreConnection, home_.Clock, BackupKind::BeforeDeletion);
+  BackUpStoreDaily(home_.Place, session->StoreConnection, home_.Clock);
+  EXPECT_EQ(FilesWith("100000.mdb").size(), 2U);
+}
+
+TEST_F(Backup, ARestoreKeepsTheFileThatItRestores) {
+  {
+    const auto session = home_.Start();
+    for (std::size_t i = 0; i < kBackupsKept; ++i) {
+      BackUpStore(home_.Place, session->StoreConnection, home_.Clock, BackupKind::BeforeRestore);
+    }
+  }
+  const fs::path oldest = Folder() / FilesWith("before-restore").front();
+  EXPECT_EQ(RestoreFault(oldest), "");
+  EXPECT_TRUE(fs::exists(oldest));
+}
+
+TEST_F(Backup, AJournalWithoutItsStoreIsKeptAndNotReadIntoTheRestoredOne) {
+  const fs::path journal = home_.Place.StoreFile().string() + "-journal";
+  fs::remove(home_.Place.StoreFile());
+  WriteFileSafely(journal, "of the lost store");
+  EXPECT_EQ(RestoreFault(test::TemplateStore()), "");
+  EXPECT_FALSE(fs::exists(journal));
+  ASSERT_EQ(FilesWith("unreadable-").size(), 1U);
+  EXPECT_EQ(test::ReadFile(Folder() / FilesWith("unreadable-").front()), "of the lost store");
+}
+
+TEST_F(Backup, AStoreBehindALinkStaysThere) {
+  const fs::path store = home_.Place.StoreFile();
+  const fs::path there = home_.Place.Folder / "elsewhere.mdb";
+  fs::rename(store, there);
+  fs::create_symlink("../elsewhere.mdb", store);
+  {
+    const auto session = home_.Start();
+    session->StoreConnection.Execute("Update group_master set groupname = 'Later'");
+  }
+  EXPECT_EQ(RestoreFault(test::TemplateStore()), "");
+  EXPECT_TRUE(fs::is_symlink(store));
+  EXPECT_EQ(test::ReadFile(there), test::ReadFile(test::TemplateStore()));
+  EXPECT_EQ(FilesWith("before-restore").size(), 1U);
+}
+
+// A disk that is full when the present store is copied, as a limit on the size of files.
+TEST_F(Backup, ARestoreStopsWhereThePresentStoreCanNotBeCopied) {
+  const fs::path small = test::TemplateStore();
+  {
+    Store store = Store::Open(home_.Place.StoreFile());
+    store.Execute("Update group_master set groupname = " + Quoted(std::string(4'000'000, 'x')));
+  }
+  const std::string before = test::ReadFile(home_.Place.StoreFile());
+  const std::string told = home_.Place.Folder / "told";
+  const pid_t child = ::fork();
+  if (child == 0) {
+    ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{fs::file_size(small) + 8192, fs::file_size(small) + 8192};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    WriteFileSafely(told, RestoreFault(small));
+    ::_exit(0);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  EXPECT_EQ(test::ReadFile(told).substr(0, 42), "The present database could not be copied (");
+  EXPECT_EQ(test::ReadFile(home_.Place.StoreFile()), before);
+  EXPECT_TRUE(Files().empty());
+  EXPECT_FALSE(fs::exists(home_.Place.StoreFile().string() + ".restored"));
 }
 
 TEST(Csv, WhatIsWrittenIsReadAgainWhateverItHolds) {

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <csignal>
+#include <cstdlib>
 #include <functional>
 #include <thread>
 
@@ -188,6 +190,19 @@ TEST_F(Records, EveryListStandsInOneOrderWithoutCase) {
   EXPECT_EQ(texts(SearchCities(*session_, "One order")), cities);
 }
 
+TEST_F(Records, ATypedTextThatMakesAnEndlessStatementFindsNothingAfterTwoSeconds) {
+  Add("A", "1990-07-05 14:30", [](auto& f) { f.Comments = "knee"; });
+  const std::string endless =
+      "x%' or (with recursive n(i) as (select 1 union all select i + 1 from n) "
+      "select count(*) from n) > 0 or cm.comments like '%";
+  const auto begin = std::chrono::steady_clock::now();
+  EXPECT_EQ(SearchClients(*session_, {.Text = endless}).ResultLine, "Found 0 record(s).");
+  const auto took = std::chrono::steady_clock::now() - begin;
+  EXPECT_GE(took, std::chrono::milliseconds(1900));
+  EXPECT_LT(took, std::chrono::seconds(10));
+  EXPECT_EQ(Names({.Text = "knee"}), Strings{"A"});  // the limit goes with its statement
+}
+
 TEST_F(Records, RemediesAreFoundByTheirOwnFilters) {
   const std::int32_t id = Add("A");
   Add("B");
@@ -296,7 +311,8 @@ TEST_F(Records, AClientGoesWithPlanetsAndRemediesAndIsInTheBackup) {
   std::filesystem::remove_all(home_.Place.DataFolder() / "Backups");
   core::WriteFileSafely(home_.Place.DataFolder() / "Backups", "in the way");
   EXPECT_EQ(DeleteClient(*session_, 2).Refused->Text,
-            "The database could not be backed up; nothing was deleted.");
+            "The database could not be backed up (the folder of the backups could not be made); "
+            "nothing was deleted.");
   EXPECT_EQ(Count("client_master"), 1);
 }
 
@@ -412,6 +428,32 @@ TEST_F(Records, ASpreadsheetIsWrittenPrivatelyOrTheOldOneStays) {
     EXPECT_EQ(SheetName(title), "List") << title;
   }
   EXPECT_EQ(SheetName("a/b'" + std::string(40, 'x')), "a b'" + std::string(27, 'x'));
+}
+
+// On a machine whose numbers have a comma.
+TEST_F(Records, ASpreadsheetHasPointsWhateverTheMachinesLocale) {
+  const std::string folder = home_.Place.Folder.string();
+  const std::string make =
+      "localedef -i de_DE -f UTF-8 '" + folder + "/de_DE.UTF-8' >/dev/null 2>&1";
+  if (std::system(make.c_str()) != 0) {
+    GTEST_SKIP() << "no locale with a comma can be made here";
+  }
+  ::setenv("LOCPATH", folder.c_str(), 1);
+  ASSERT_NE(std::setlocale(LC_NUMERIC, "de_DE.UTF-8"), nullptr);
+  const std::filesystem::path file = home_.Place.Folder / "list.xlsx";
+  core::Table table{{{"Number", 33}}, {}};
+  table.AddRow().Cells.front() = core::Cell{"19.5"};
+  table.Rows[0].Cells[0].SortKey = "19.5";
+  EXPECT_FALSE(ExportList(table, file, "Numbers"));
+  EXPECT_STREQ(std::localeconv()->decimal_point, ",");
+  std::setlocale(LC_NUMERIC, "C");
+  ::unsetenv("LOCPATH");
+  const std::string print = "unzip -p '" + file.string() + "' xl/worksheets/sheet1.xml > '" +
+                            folder + "/sheet' 2>/dev/null";
+  ASSERT_EQ(std::system(print.c_str()), 0);
+  const std::string sheet = test::ReadFile(folder + "/sheet");
+  EXPECT_NE(sheet.find("<v>19.5</v>"), std::string::npos) << sheet;
+  EXPECT_EQ(sheet.find("width=\"4,"), std::string::npos) << sheet;
 }
 
 // Kills a deletion of a large group at a moment that grows from round to round.

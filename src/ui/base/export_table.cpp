@@ -1,7 +1,9 @@
 #include "ui/base/export_table.h"
 
+#include "core/own_files.h"
 #include "practice/export_list.h"
 #include "ui/base/file_dialogs.h"
+#include "ui/base/message_boxes.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 
@@ -12,6 +14,12 @@ void ExportTable(Workplace& place, QWidget& parent, const core::Table& table,
   const auto file = place.Files.ChooseFileToWrite(&parent, "Export to spreadsheet", title + ".xlsx",
                                                   "Spreadsheets (*.xlsx)");
   if (!file) {
+    return;
+  }
+  try {
+    core::CheckFileToWrite(place.Session, *file);
+  } catch (const std::exception& error) {
+    Complain(place.Session.Shown, error.what());
     return;
   }
   if (const auto refused = practice::ExportList(table, *file, title)) {

@@ -8,6 +8,7 @@
 #include <QToolTip>
 
 #include "core/home.h"
+#include "core/own_files.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
@@ -62,6 +63,7 @@ void GraphView::Print() {
   try {
     // A file that stands there, empty, keeps its rights when the printer fills it.
     if (!printer.outputFileName().isEmpty()) {
+      core::CheckFileToWrite(place_.Session, Typed(printer.outputFileName()));
       core::WriteFileSafely(Typed(printer.outputFileName()), "");
     }
     if (!PrintGraph(OnPaper(), printer)) {
@@ -79,6 +81,7 @@ void GraphView::SaveAsSvg() {
     return;
   }
   try {
+    core::CheckFileToWrite(place_.Session, *file);
     WriteGraphSvg(OnPaper(), Title(), *file);
   } catch (const std::exception& error) {
     Complain(place_.Session.Shown, error.what());
