@@ -2,8 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <utility>
 
 #include "ui/base/qt_text.h"
+#include "ui/base/select_all_text.h"
 #include "ui/base/theme.h"
 
 namespace orvex::ui {
@@ -36,7 +38,15 @@ QHBoxLayout* FormDialog::MakeButtons(const QString& action) {
 void FormDialog::FocusField(const QString& name) {
   if (auto* field = findChild<QWidget*>(name)) {
     field->setFocus(Qt::OtherFocusReason);
+    SelectAllText(*field);
   }
+}
+
+void FormDialog::showEvent(QShowEvent* event) {
+  if (!std::exchange(marksTexts_, true)) {
+    SelectAllTextOnFocus(*this);
+  }
+  QDialog::showEvent(event);
 }
 
 void FormDialog::ShowRefusal(const core::Refusal& refusal) {

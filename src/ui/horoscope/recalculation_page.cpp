@@ -13,6 +13,7 @@
 #include "core/messages.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/select_all_text.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/field_label.h"
@@ -82,6 +83,7 @@ RecalculationPage::RecalculationPage(HoroscopeDocument& document)
   layout->addLayout(LayOutEntries());
   layout->addWidget(LayOutResults(), 1);
   Connect();
+  SelectAllTextOnFocus(*this);
 }
 
 QVBoxLayout* RecalculationPage::LayOutEntries() {
@@ -193,7 +195,7 @@ void RecalculationPage::ShowRefusal(const core::Refusal& refused) {
                                                refused.Icon);
   if (auto* field = findChild<QLineEdit*>(Shown(refused.Field))) {
     field->setFocus();
-    field->selectAll();
+    SelectAllText(*field);
   }
 }
 
