@@ -1,4 +1,6 @@
 #include <benchmark/benchmark.h>
+#include <malloc.h>
+#include <sys/resource.h>
 
 #include <fstream>
 #include <sstream>
@@ -103,6 +105,27 @@ void SearchOf100000(benchmark::State& state) {
   state.counters["rows"] = static_cast<double>(found);
 }
 BENCHMARK(SearchOf100000)->DenseRange(0, 7)->Unit(benchmark::kMillisecond);
+
+// What the search page does until its first rows are in sight, and the memory of what it keeps.
+void FirstRowsOf100000(benchmark::State& state) {
+  constexpr std::size_t kInSight = 64;
+  constexpr double kMegabyte = 1024.0 * 1024.0;
+  const core::Session& session = LargePractice();
+  const practice::SearchFilter all;
+  const std::size_t before = ::mallinfo2().uordblks;
+  practice::FoundRows found;
+  for (auto _ : state) {
+    found = practice::FindRows(session, all);
+    benchmark::DoNotOptimize(
+        practice::ReadFoundRows(session, all, {found.Rows.begin(), found.Rows.begin() + kInSight}));
+  }
+  state.counters["rows"] = static_cast<double>(found.Rows.size());
+  state.counters["MB kept"] = static_cast<double>(::mallinfo2().uordblks - before) / kMegabyte;
+  rusage used{};
+  ::getrusage(RUSAGE_SELF, &used);
+  state.counters["MB at most"] = static_cast<double>(used.ru_maxrss) / 1024.0;
+}
+BENCHMARK(FirstRowsOf100000)->Unit(benchmark::kMillisecond);
 
 void ImportOf10000Lines(benchmark::State& state) {
   std::string text = "name,birth,city id\n";

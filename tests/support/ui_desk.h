@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTimer>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -25,9 +26,16 @@ class AwaitedMessages final : public core::Messages {
     awaited_.push_back({text, answer});
   }
   bool AllCame() const { return awaited_.empty(); }
+  // Answers the boxes that nobody awaits.
+  void AnswerOthers(std::function<core::MessageAnswer(const std::string&)> answer) {
+    others_ = std::move(answer);
+  }
 
   core::MessageAnswer ShowMessage(const std::string& text, core::MessageButtons /*buttons*/,
                                   core::MessageIcon /*icon*/) override {
+    if (awaited_.empty() && others_) {
+      return others_(text);
+    }
     if (awaited_.empty() || awaited_.front().Text != text) {
       ADD_FAILURE() << "unexpected message: " << text;
       return core::MessageAnswer::No;
@@ -43,6 +51,7 @@ class AwaitedMessages final : public core::Messages {
     core::MessageAnswer Answer;
   };
   std::deque<Awaited> awaited_;
+  std::function<core::MessageAnswer(const std::string&)> others_;
 };
 
 class ChosenFiles final : public ui::FileDialogs {

@@ -37,6 +37,32 @@ class DialogTest : public test::DeskTest {
   }
 };
 
+TEST_F(DialogTest, AFieldThatGetsTheFocusMarksItsTextByKeyMouseAndRefusal) {
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, AddClient()));
+  Show(*dialog);
+  const auto marked = [&dialog](const char* field) {
+    return Find<QLineEdit>(*dialog, field).selectedText();
+  };
+  EXPECT_EQ(marked("fullName"), "Asha Rao");
+  Type(*dialog, "offset", "28");
+  auto& name = Find<QLineEdit>(*dialog, "fullName");
+  const QPoint middle(name.width() / 2, name.height() / 2);
+  QTest::mouseClick(&name, Qt::LeftButton, {}, middle);
+  EXPECT_EQ(name.selectedText(), "Asha Rao");
+  QTest::mouseClick(&name, Qt::LeftButton, {}, middle);
+  EXPECT_EQ(name.selectedText(), "") << "a second click sets the cursor";
+
+  auto& comments = Find<QPlainTextEdit>(*dialog, "comments");
+  QTest::keyClicks(&comments, "two words");
+  QTest::mouseClick(comments.viewport(), Qt::LeftButton, {}, {20, 10});
+  EXPECT_EQ(comments.textCursor().selectedText(), "two words");
+
+  messages_.Await("Incorrect Offset Value entered.");
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "offset");
+  EXPECT_EQ(marked("offset"), "28");
+}
+
 TEST_F(DialogTest, FiftyThousandCitiesAreNarrowedAtOnce) {
   CitiesDialog dialog(place_);
   Show(dialog);
@@ -75,6 +101,22 @@ TEST_F(DialogTest, ACityIsAddedWithTheOffsetOfItsZone) {
   const std::unique_ptr<CityDialog> edit(CityDialog::ForEdit(place_, dialog->SavedId()));
   EXPECT_EQ(edit->windowTitle(), "Edit City");
   EXPECT_FALSE(Find<QWidget>(*edit, "timeZone").isEnabled());
+}
+
+TEST_F(DialogTest, AnEditedCityIsShownAsItIsNow) {
+  CitiesDialog dialog(place_);
+  Show(dialog);
+  Type(dialog, "citySearch", "mumbai");
+  auto& list = Find<TableView>(dialog, "cityList");
+  ClickRow(list, 0);
+  const std::string city = list.SelectedTag();
+  WhenOpen("cityDialog", [](QWidget& edit) {
+    Type(edit, "cityName", "Bombay by the sea");
+    Press(edit, "action");
+  });
+  Press(dialog, "editCity");
+  EXPECT_EQ(list.SelectedTag(), city);
+  EXPECT_EQ(list.currentIndex().siblingAtColumn(0).data().toString(), "Bombay by the sea");
 }
 
 TEST_F(DialogTest, PickingACityWantsARow) {
@@ -130,6 +172,14 @@ TEST_F(DialogTest, ARemedyKeepsItsTextsPlanetAndDate) {
   EXPECT_EQ(Stored("Select * from client_remedy", "problem"), "Can't sleep");
   EXPECT_EQ(Stored("Select * from client_remedy", "forplanetid"), "1");
   EXPECT_EQ(Stored("Select * from client_remedy", "remedydate"), "2026-11-24 00:00:00");
+
+  session_->StoreConnection.Execute("Update client_remedy set remedydate = #02/01/2025 10:20:00#");
+  const std::unique_ptr<RemedyDialog> edit(RemedyDialog::ForEdit(place_, dialog->SavedId()));
+  Show(*edit);
+  Type(*edit, "remedy", "Water");
+  Press(*edit, "action");
+  EXPECT_EQ(Stored("Select * from client_remedy", "remedy"), "Water");
+  EXPECT_EQ(Stored("Select * from client_remedy", "remedydate").substr(0, 10), "2025-02-01");
 }
 
 TEST_F(DialogTest, AnUnreadDateOfARemedyIsNotSaved) {
@@ -220,6 +270,81 @@ TEST_F(DialogTest, SettingsAreCheckedFieldByFieldAndTakenAtOnce) {
   Press(dialog, "action");
   EXPECT_EQ(session_->State.Orbs[0], 2);
   EXPECT_EQ(session_->State.AstrologerName, "D'Souza");
+}
+
+// A click at an item of the list of pages, as a hand makes it.
+void ClickPage(QWidget& dialog, int page) {
+  auto& options = *dialog.findChild<QListWidget*>("option");
+  QTest::mouseClick(options.viewport(), Qt::LeftButton, {},
+                    options.visualItemRect(options.item(page)).center());
+  QCoreApplication::processEvents();
+}
+
+TEST_F(DialogTest, ABadOrbIsToldHoweverItsFieldIsLeftButHoldsNobodyBack) {
+  SettingsDialog dialog(place_);
+  Show(dialog);
+  ClickPage(dialog, 1);
+  Type(dialog, "Orbit_60", "4");
+  ClickPage(dialog, 2);
+  ClickPage(dialog, 1);
+  EXPECT_EQ(Find<QLabel>(dialog, "caption_Orbit_60").text(), "60 Degree: (56 to 64)");
+
+  Type(dialog, "Orbit_30", "6");
+  messages_.Await("Value cannot be less than 0 or greater than 5.");
+  ClickPage(dialog, 2);
+  EXPECT_EQ(dialog.windowTitle(), "Settings - Orbits");
+  EXPECT_EQ(FocusName(dialog), "Orbit_30");
+
+  messages_.Await(core::kResetOrbsQuestion, core::MessageAnswer::No);
+  Press(dialog, "resetOrbs");
+  EXPECT_EQ(Find<QLineEdit>(dialog, "Orbit_60").text(), "4");
+  messages_.Await(core::kResetOrbsQuestion, core::MessageAnswer::Yes);
+  Press(dialog, "resetOrbs");
+  EXPECT_EQ(Find<QLineEdit>(dialog, "Orbit_60").text(), "5");
+
+  Type(dialog, "Orbit_30", "six");
+  Press(dialog, "cancel");
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(DialogTest, TheFolderAndTheCityThatAreChosenInTheSettingsAreStored) {
+  SettingsDialog dialog(place_);
+  Show(dialog);
+  files_.Chosen = home_.Place.Folder / "charts of mine";
+  Press(dialog, "chooseChartPath");
+  WhenOpen("pickCityDialog", [](QWidget& pick) {
+    QTest::mouseClick(&Find<QTabBar>(pick, "cityViews"), Qt::LeftButton, {},
+                      Find<QTabBar>(pick, "cityViews").tabRect(CityList::AllCities).center());
+    Type(pick, "citySearch", "mumbai");
+    ClickRow(Find<TableView>(pick, "cityList"), 0);
+    Press(pick, "action");
+  });
+  Press(dialog, "chooseCity");
+  const QString city = Find<QLabel>(dialog, "UserCityID").text();
+  Press(dialog, "action");
+  EXPECT_EQ(Stored("Select * from settings", "chartpath"), files_.Chosen.string());
+  EXPECT_EQ(Stored("Select ct.cityname from settings s, city_master ct where s.usercityid = ct.id",
+                   "cityname"),
+            Typed(city));
+  EXPECT_TRUE(city.startsWith("Mumbai"));
+}
+
+TEST_F(DialogTest, AMarkedCityIsThePickedOneAndFocusAloneMarksNone) {
+  PickCityDialog dialog(place_);
+  Show(dialog);
+  QTest::mouseClick(&Find<QTabBar>(dialog, "cityViews"), Qt::LeftButton, {},
+                    Find<QTabBar>(dialog, "cityViews").tabRect(CityList::AllCities).center());
+  auto& list = Find<TableView>(dialog, "cityList");
+  QTest::keyClick(&Find<QWidget>(dialog, "citySearch"), Qt::Key_Tab);
+  EXPECT_EQ(FocusName(dialog), "cityList");
+  EXPECT_FALSE(list.currentIndex().isValid());
+  ClickRow(list, 1);
+  const QPoint at = list.visualRect(list.Model().index(1, 0)).center();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, at);
+  ASSERT_EQ(list.selectionModel()->selectedRows().size(), 1);
+  Press(dialog, "action");
+  EXPECT_EQ(ui::Shown(dialog.Picked().Name), list.Model().index(1, 0).data().toString());
 }
 
 }  // namespace

@@ -154,6 +154,9 @@ TEST_F(HoroscopeWindowTest, OneWindowAClientIsRegisteredFromItsOpeningToItsClosi
   EXPECT_EQ(session_->State.OpenHoroscopes.size(), 1U);
   EXPECT_EQ(window.windowTitle(), "Horoscope for Asha Rao");
   EXPECT_EQ(Find<QLabel>("Date").text(), "5 July 1990 02:30 PM");
+  const chart::HoroscopeCaptions captions =
+      horoscope::CreateHoroscope(*session_, client_)->Model.Captions;
+  EXPECT_EQ(Find<QLabel>("Sunrise").text(), Shown(captions.Sunrise + " / " + captions.Sunset));
   EXPECT_EQ(OpenHoroscope(place_, client_ + 99), nullptr);
   window.close();
   EXPECT_TRUE(session_->State.OpenHoroscopes.empty());
@@ -270,6 +273,8 @@ TEST_F(HoroscopeWindowTest, ADoubleClickOnAPlanetOpensItsSheet) {
   auto* sheet = window_->findChild<PlanetSheetDialog*>();
   ASSERT_NE(sheet, nullptr);
   EXPECT_EQ(sheet->windowTitle(), "Sun (Gemini)");
+  EXPECT_EQ(Find<TableView>("sheetAspecting").Table().Columns.front().Caption, "Planet/House");
+  EXPECT_EQ(Find<TableView>("sheetAspectedBy").Table().Columns.front().Caption, "Planet");
   QTest::keyClick(sheet, Qt::Key_Escape);
   QCoreApplication::sendPostedEvents(sheet, QEvent::DeferredDelete);
 
@@ -333,6 +338,13 @@ TEST_F(HoroscopeWindowTest, RecalculationRefusesWithTheFieldInFocusAndChangesNot
   EXPECT_EQ(Find<QLabel>("movedBirth").text(), "5 July 1990 02:31:00 PM");
   EXPECT_NE(Text("workCusps", 0, 1), ascendant);
   EXPECT_EQ(Find<TableView>("workCusps").Table().Rows[0].Cells[1].Background, "FEFA85");
+  auto& unit = Find<QComboBox>("stepUnit");
+  unit.setFocus();
+  for (const char* moved : {"5 July 1990 03:31:00 PM", "6 July 1990 03:31:00 PM"}) {
+    QTest::keyClick(&unit, Qt::Key_Down);
+    QTest::mouseClick(&Find<QPushButton>("later"), Qt::LeftButton);
+    EXPECT_EQ(Find<QLabel>("movedBirth").text(), moved);
+  }
   QTest::mouseClick(&Find<QPushButton>("backToBirth"), Qt::LeftButton);
   EXPECT_EQ(Text("workCusps", 0, 1), ascendant);
   EXPECT_EQ(horoscope::CreateHoroscope(*session_, client_)->Model.CuspDegree1, "194.67");
@@ -357,6 +369,8 @@ TEST_F(HoroscopeWindowTest, RemediesAreAddedChangedAndDeleted) {
   EXPECT_EQ(Text("RemedyTable", 0, 1), "Blue Yellow");
   QTest::mouseClick(&Find<QPushButton>("deleteRemedy"), Qt::LeftButton);
   EXPECT_EQ(home_.Messages.All().back().Buttons, core::MessageButtons::YesNo);
+  EXPECT_EQ(home_.Messages.All().back().Text,
+            "Are you sure you want to delete the selected Remedy?\n\nAsha Rao");
   EXPECT_EQ(Find<TableView>("RemedyTable").Table().Rows.size(), 1U) << "the question was denied";
 }
 
@@ -372,6 +386,20 @@ TEST_F(HoroscopeWindowTest, ExportWritesTheReportOfWhatIsShownAndOpensIt) {
   EXPECT_NE(test::ReadFile(files_.Opened[0]).find("Asha Rao (Rotated to 7)"), std::string::npos);
   EXPECT_EQ(Find<QListWidget>("pages").currentRow(), 0);
   EXPECT_TRUE(Find<QLabel>("statusText").text().startsWith("Asc = "));
+
+  // The charts of the report are drawn as they are shown.
+  const auto pictures = [this] {
+    std::string bytes;
+    for (const auto& file : std::filesystem::directory_iterator(files_.Opened[0].parent_path())) {
+      bytes += file.path().extension() == ".bmp" ? test::ReadFile(file.path()) : "";
+    }
+    return bytes;
+  };
+  const std::string north = pictures();
+  EXPECT_FALSE(north.empty());
+  QTest::keyClick(window_, Qt::Key_T, Qt::ControlModifier);
+  MenuEntry("exportMenu", "Report: Dasha, Bhukti and Antara").trigger();
+  EXPECT_NE(pictures(), north);
 }
 
 TEST_F(HoroscopeWindowTest, APdfLiesBesideTheReportAndIsOpenedInItsPlace) {
@@ -410,6 +438,7 @@ TEST_F(HoroscopeWindowTest, TheRulingPlanetsAreThoseOfBirthUntilThoseOfNowAreAsk
   EXPECT_EQ(dayLord(), "Day Lord Jupiter") << "born on a Thursday";
   QTest::mouseClick(&Find<QRadioButton>("rulingOfNow"), Qt::LeftButton);
   EXPECT_EQ(dayLord(), "Day Lord Mars") << "today is a Tuesday";
+  EXPECT_EQ(Find<TableView>("RulingPlanets").Model().rowCount(), 7) << "no Part of Fortune";
   QTest::mouseClick(&Find<QRadioButton>("rulingOfBirth"), Qt::LeftButton);
   EXPECT_EQ(dayLord(), "Day Lord Jupiter");
 }

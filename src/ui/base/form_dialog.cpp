@@ -6,10 +6,12 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <utility>
 
 #include "ui/base/message_boxes.h"
 #include "ui/base/moment_edit.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/select_all_text.h"
 #include "ui/base/theme.h"
 
 namespace orvex::ui {
@@ -92,12 +94,15 @@ void FormDialog::reject() {
 void FormDialog::FocusField(const QString& name) {
   if (auto* field = findChild<QWidget*>(name)) {
     field->setFocus(Qt::OtherFocusReason);
-    auto* box = qobject_cast<QComboBox*>(field);
-    auto* line = box != nullptr ? box->lineEdit() : qobject_cast<QLineEdit*>(field);
-    if (line != nullptr) {
-      line->selectAll();
-    }
+    SelectAllText(*field);
   }
+}
+
+void FormDialog::showEvent(QShowEvent* event) {
+  if (!std::exchange(marksTexts_, true)) {
+    SelectAllTextOnFocus(*this);
+  }
+  QDialog::showEvent(event);
 }
 
 void FormDialog::ShowRefusal(const core::Refusal& refusal) {

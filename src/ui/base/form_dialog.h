@@ -60,9 +60,12 @@ class FormDialog : public QDialog {
   core::Session& Session() { return place_.Session; }
   Workplace& Place() { return place_; }
 
+  void showEvent(QShowEvent* event) override;
+
  private:
   Workplace& place_;
   QPushButton* action_ = nullptr;
+  bool marksTexts_ = false;  // the fields stand
   std::int32_t savedId_ = 0;
   std::optional<std::vector<QVariant>> fields_;  // as they were before anything was typed
 };

@@ -1,6 +1,7 @@
 #include "ui/base/table_model.h"
 
 #include <QFont>
+#include <QTextDocument>
 #include <algorithm>
 #include <numeric>
 
@@ -55,9 +56,21 @@ QVariant BoldFont(const core::Cell& cell) {
 
 QString FoldedText(const QString& text) { return Shown(core::FoldedText(Typed(text))); }
 
-void TableModel::SetTable(core::Table table) {
+QString PlainTip(const QString& text) {
+  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
+void TableModel::SetTable(core::Table table) { Reset(std::move(table), {}); }
+
+void TableModel::SetLateRows(std::vector<core::Column> columns, LateRows rows) {
+  Reset({std::move(columns), {}}, std::move(rows));
+}
+
+void TableModel::Reset(core::Table table, LateRows late) {
   beginResetModel();
   table_ = std::move(table);
+  late_ = std::move(late);
+  read_.clear();
   filter_.clear();
   keys_.clear();
   FillShown();
@@ -69,10 +82,8 @@ void TableModel::SetFilter(const QString& text) {
   if (folded == filter_) {
     return;
   }
-  beginResetModel();
   filter_ = folded;
-  FillShown();
-  endResetModel();
+  Rearrange();
 }
 
 std::optional<int> TableModel::ShownRow(std::size_t tableRow) const {
@@ -91,6 +102,9 @@ std::optional<int> TableModel::RowOfTag(const std::string& tag) const {
 }
 
 const std::string& TableModel::TagOf(int shownRow) const {
+  if (late_.Read) {
+    return late_.Tags.at(TableRow(shownRow));
+  }
   const core::Row& row = table_.Rows.at(TableRow(shownRow));
   return row.Tag.empty() ? row.Cells.at(0).Tag : row.Tag;
 }
@@ -103,9 +117,53 @@ int TableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(table_.Columns.size());
 }
 
+const core::Row& TableModel::ShownRowAt(int shownRow) const {
+  const std::size_t row = TableRow(shownRow);
+  if (!late_.Read) {
+    return table_.Rows.at(row);
+  }
+  if (read_.find(row) == read_.end()) {
+    ReadAround(shownRow);
+  }
+  return read_.at(row);
+}
+
+// A screen of rows at once, and no more of them kept than a few screens.
+void TableModel::ReadAround(int shownRow) const {
+  constexpr std::size_t kBlock = 64;
+  constexpr std::size_t kMostKept = 32 * kBlock;
+  if (read_.size() >= kMostKept) {
+    read_.clear();
+  }
+  const std::size_t first = static_cast<std::size_t>(shownRow) / kBlock * kBlock;
+  const std::size_t end = std::min(first + kBlock, shown_.size());
+  const std::vector<std::size_t> wanted(shown_.begin() + static_cast<std::ptrdiff_t>(first),
+                                        shown_.begin() + static_cast<std::ptrdiff_t>(end));
+  std::vector<core::Row> rows = late_.Read(wanted);
+  for (std::size_t i = 0; i < wanted.size(); ++i) {
+    read_[wanted[i]] = std::move(rows.at(i));
+  }
+}
+
+template <typename Visit>
+void TableModel::ForEachRow(Visit visit) const {
+  constexpr std::size_t kBlock = 1000;
+  for (std::size_t row = 0; !late_.Read && row < table_.Rows.size(); ++row) {
+    visit(row, table_.Rows[row]);
+  }
+  for (std::size_t first = 0; late_.Read && first < late_.Tags.size(); first += kBlock) {
+    std::vector<std::size_t> wanted(std::min(kBlock, late_.Tags.size() - first));
+    std::iota(wanted.begin(), wanted.end(), first);
+    const std::vector<core::Row> rows = late_.Read(wanted);
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+      visit(wanted[i], rows.at(i));
+    }
+  }
+}
+
 const core::Cell& TableModel::CellAt(const QModelIndex& index) const {
   static const core::Cell kNone;
-  const core::Row& row = table_.Rows.at(TableRow(index.row()));
+  const core::Row& row = ShownRowAt(index.row());
   const auto column = static_cast<std::size_t>(index.column());
   return column < row.Cells.size() ? row.Cells[column] : kNone;
 }
@@ -119,7 +177,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return Shown(cell.Text);
     case Qt::ToolTipRole:
-      return cell.Tooltip.empty() ? QVariant() : Shown(cell.Tooltip).toHtmlEscaped();
+      return cell.Tooltip.empty() ? QVariant() : PlainTip(Shown(cell.Tooltip));
     case Qt::BackgroundRole:
       return ColorOrNothing(Theme::Background(cell.Background));
     case Qt::ForegroundRole:
@@ -149,7 +207,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     return Shown(column.Caption);
   }
   if (role == Qt::ToolTipRole && !column.Tooltip.empty()) {
-    return Shown(column.Tooltip).toHtmlEscaped();
+    return PlainTip(Shown(column.Tooltip));
   }
   if (role == Qt::TextAlignmentRole) {
     return QVariant::fromValue<Qt::Alignment>(Qt::AlignVCenter |
@@ -161,14 +219,32 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
 void TableModel::sort(int column, Qt::SortOrder order) {
   sortColumn_ = column;
   sortOrder_ = order;
-  beginResetModel();
+  Rearrange();
+}
+
+// A reset would lose the selection and keep those who listen from knowing it.
+void TableModel::Rearrange() {
+  emit layoutAboutToBeChanged({}, VerticalSortHint);
+  const std::vector<std::size_t> before = shown_;
   FillShown();
-  endResetModel();
+  constexpr int kGone = -1;
+  std::vector<int> places(TableRowCount(), kGone);
+  for (std::size_t row = 0; row < shown_.size(); ++row) {
+    places[shown_[row]] = static_cast<int>(row);
+  }
+  const QModelIndexList from = persistentIndexList();
+  QModelIndexList to;
+  for (const QModelIndex& was : from) {
+    const int row = places[before[static_cast<std::size_t>(was.row())]];
+    to << (row == kGone ? QModelIndex() : index(row, was.column()));
+  }
+  changePersistentIndexList(from, to);
+  emit layoutChanged({}, VerticalSortHint);
 }
 
 void TableModel::FillKeys() {
-  keys_.reserve(table_.Rows.size());
-  for (const core::Row& row : table_.Rows) {
+  keys_.reserve(TableRowCount());
+  ForEachRow([this](std::size_t /*row*/, const core::Row& row) {
     QString key;
     for (std::size_t column = 0; column < row.Cells.size(); ++column) {
       if (column < table_.Columns.size() && !IsHidden(table_.Columns[column])) {
@@ -176,7 +252,7 @@ void TableModel::FillKeys() {
       }
     }
     keys_.push_back(std::move(key));
-  }
+  });
 }
 
 void TableModel::FillShown() {
@@ -184,7 +260,7 @@ void TableModel::FillShown() {
   if (!filter_.isEmpty() && keys_.empty()) {
     FillKeys();
   }
-  for (std::size_t row = 0; row < table_.Rows.size(); ++row) {
+  for (std::size_t row = 0; row < TableRowCount(); ++row) {
     if (filter_.isEmpty() || keys_[row].contains(filter_)) {
       shown_.push_back(row);
     }
@@ -197,11 +273,10 @@ void TableModel::SortShown() {
     return;
   }
   const auto column = static_cast<std::size_t>(sortColumn_);
-  std::vector<SortKey> keys(table_.Rows.size());
-  for (const std::size_t row : shown_) {
-    const std::vector<core::Cell>& cells = table_.Rows[row].Cells;
-    keys[row] = column < cells.size() ? KeyOf(cells[column]) : SortKey{};
-  }
+  std::vector<SortKey> keys(TableRowCount());
+  ForEachRow([&keys, column](std::size_t at, const core::Row& row) {
+    keys[at] = column < row.Cells.size() ? KeyOf(row.Cells[column]) : SortKey{};
+  });
   const bool descending = sortOrder_ == Qt::DescendingOrder;
   std::stable_sort(shown_.begin(), shown_.end(), [&](std::size_t left, std::size_t right) {
     return descending ? keys[right] < keys[left] : keys[left] < keys[right];

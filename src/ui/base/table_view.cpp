@@ -55,13 +55,26 @@ TableView::TableView(QWidget* parent)
   connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
     emit TagActivated(Shown(model_->TagOf(index.row())));
   });
+  // The selection model hears of it first.
+  connect(model_, &TableModel::layoutChanged, this, [this] {
+    JoinCurrentRow();
+    ReportChoice();
+    if (currentIndex().isValid()) {
+      scrollTo(currentIndex());
+    }
+  });
 }
 
 void TableView::SetTable(core::Table table) {
   model_->SetTable(std::move(table));
+  LayOutTable();
+  SelectMarked();
+  ReportChoice();
+}
+
+void TableView::LayOutTable() {
   HideColumns();
   SizeToContent();
-  SelectMarked();
 }
 
 void TableView::HideColumns() {
@@ -121,44 +134,17 @@ QString TableView::CaptionOf(int column) const {
 
 void TableView::FreezeFirstColumn() { new FrozenColumn(*this); }
 
-void TableView::SelectMarked() {
-  QItemSelection marked;
-  for (int row = 0; row < model_->rowCount(); ++row) {
-    if (Table().Rows[model_->TableRow(row)].Selected) {
-      marked.select(model_->index(row, 0), model_->index(row, model_->columnCount() - 1));
-    }
-  }
-  if (!marked.isEmpty()) {
-    selectionModel()->select(marked, QItemSelectionModel::ClearAndSelect);
-  }
-}
-
 void TableView::SetEmptyText(const QString& text) {
   emptyText_ = text;
   viewport()->update();
 }
 
-std::string TableView::SelectedTag() const {
-  const QModelIndexList rows = selectionModel()->selectedRows();
-  return rows.isEmpty() ? "" : model_->TagOf(rows.constFirst().row());
-}
-
-bool TableView::SelectTag(const std::string& tag) {
-  const std::optional<int> row = model_->RowOfTag(tag);
-  if (!row) {
-    return false;
+core::Table TableView::ShownTable() const {
+  core::Table shown{Table().Columns, {}};
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    shown.Rows.push_back(model_->ShownRowAt(row));
   }
-  selectRow(*row);
-  setCurrentIndex(model_->index(*row, 0));
-  scrollTo(model_->index(*row, 0), PositionAtCenter);
-  return true;
-}
-
-void TableView::SelectFirst() {
-  if (model_->rowCount() > 0) {
-    selectRow(0);
-    setCurrentIndex(model_->index(0, 0));
-  }
+  return shown;
 }
 
 QString TableView::AsTabbedText() const {
@@ -243,6 +229,13 @@ void TableView::keyPressEvent(QKeyEvent* event) {
     emit TagActivated(Shown(model_->TagOf(currentIndex().row())));
     return;
   }
+  const bool toEnd = event->key() == Qt::Key_End;
+  const bool jumps = (toEnd || event->key() == Qt::Key_Home) &&
+                     (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (jumps && ChoosesRows() && model_->rowCount() > 0) {
+    Choose(toEnd ? model_->rowCount() - 1 : 0);
+    return;
+  }
   QTableView::keyPressEvent(event);
 }
 
@@ -256,7 +249,7 @@ void TableView::FillMenu(QMenu& menu) {
   menu.addAction(selectionModel()->selectedRows().size() > 1 ? tr("&Copy rows") : tr("&Copy table"),
                  QKeySequence::Copy, this, [this] { CopyToClipboard(); });
   if (export_) {
-    menu.addAction(tr("E&xport to spreadsheet…"), this, [this] { export_(Table()); });
+    menu.addAction(tr("E&xport to spreadsheet…"), this, [this] { export_(ShownTable()); });
   }
 }
 
@@ -286,18 +279,11 @@ bool TableView::viewportEvent(QEvent* event) {
     const bool isCut = index.isValid() && index.data(Qt::ToolTipRole).isNull() &&
                        sizeHintForIndex(index).width() > columnWidth(index.column());
     if (isCut) {
-      QToolTip::showText(help->globalPos(), index.data().toString().toHtmlEscaped(), this);
+      QToolTip::showText(help->globalPos(), PlainTip(index.data().toString()), this);
       return true;
     }
   }
   return QTableView::viewportEvent(event);
-}
-
-void TableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  QTableView::currentChanged(current, previous);
-  if (current.row() != previous.row() || !previous.isValid()) {
-    emit TagChosen(current.isValid() ? Shown(model_->TagOf(current.row())) : QString());
-  }
 }
 
 }  // namespace orvex::ui

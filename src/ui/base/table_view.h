@@ -1,5 +1,6 @@
 // A display table in a window: sized to its content, ordered by a click on a header, searched by
-// typing, copied with Ctrl+C.
+// typing, copied with Ctrl+C. In a table of rows the current row is a selected one: the chosen row.
+// It stays chosen while the table is ordered and narrowed, for as long as it is shown.
 #pragma once
 
 #include <QTableView>
@@ -23,6 +24,15 @@ class TableView : public QTableView {
   // Shows a table and selects the rows that it marks as selected. Columns are as wide as what they
   // show; without rows as wide as the table says.
   void SetTable(core::Table table);
+
+  // Shows a table and chooses the row of a tag, the first where none has it; told as one change.
+  void SetTableAndChoose(core::Table table, const std::string& tag = "");
+
+  // The same of rows whose cells are read when they come into sight.
+  void SetLateRowsAndChoose(std::vector<core::Column> columns, LateRows rows,
+                            const std::string& tag = "");
+
+  // Without rows that are read late.
   const core::Table& Table() const { return model_->Table(); }
   TableModel& Model() { return *model_; }
   const TableModel& Model() const { return *model_; }
@@ -33,12 +43,20 @@ class TableView : public QTableView {
   // Narrows the rows as SetFilter of the model does.
   void SetFilter(const QString& text) { model_->SetFilter(text); }
 
-  // The tag of the selected row, "" without one.
+  // The chosen row, as it is shown; nothing without one.
+  std::optional<int> ChosenRow() const;
+
+  // The tag of the chosen row, "" without one.
   std::string SelectedTag() const;
 
   // Selects the row of a tag and brings it into sight. False where no row has it.
   bool SelectTag(const std::string& tag);
   void SelectFirst();
+  // Chooses no row.
+  void ChooseNone();
+
+  // The rows as they are shown, in their order.
+  core::Table ShownTable() const;
 
   // The rows of the selection, or all rows without one, with the captions above: cells between
   // tabs.
@@ -79,7 +97,7 @@ class TableView : public QTableView {
   QSize sizeHint() const override;
 
  signals:
-  // Another row is selected; "" for none.
+  // Another row is chosen, "" for none; told once, when current row and selection stand.
   void TagChosen(const QString& tag);
   // A double click or the Enter key on a row.
   void TagActivated(const QString& tag);
@@ -89,20 +107,30 @@ class TableView : public QTableView {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   bool viewportEvent(QEvent* event) override;
-  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void selectionChanged(const QItemSelection& now, const QItemSelection& before) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
 
  private:
+  void LayOutTable();
+  void ChooseTag(const std::string& tag);
   void SizeToContent();
   void HideColumns();
   void KeepWidth(int column, int width);
   int UsualWidth(int column) const;
   std::optional<int> KeptWidth(int column) const;
   QString CaptionOf(int column) const;
+  bool ChoosesRows() const { return selectionBehavior() == SelectRows; }
   void SelectMarked();
+  void Choose(int row);
+  void JoinCurrentRow();
+  void ReportChoice();
   void FillMenu(QMenu& menu);
 
   TableModel* model_;
   QString emptyText_;
+  QString reported_;  // the tag that was told last
   std::function<void(const core::Table&)> export_;
   std::vector<QAction*> actions_;
   LayoutMemory* memory_ = nullptr;

@@ -58,7 +58,7 @@ void CitiesDialog::Build() {
 void CitiesDialog::Connect() {
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
     list_->SetFilter(text);
-    edit_->setEnabled(false);
+    list_->ChooseNone();
   });
   connect(list_, &TableView::TagChosen, this,
           [this](const QString& tag) { edit_->setEnabled(!tag.isEmpty()); });

@@ -95,6 +95,7 @@ void CityList::FilterOrSearch() {
   } else {
     list_->SetFilter(search_->text());
   }
+  list_->ChooseNone();
 }
 
 void CityList::ShowView(View view) { views_->setCurrentIndex(view); }
@@ -106,9 +107,8 @@ bool CityList::SelectCity(std::int32_t cityId) {
 std::int32_t CityList::SelectedCity() const { return IdOfTag(list_->SelectedTag()).value_or(0); }
 
 const core::Row* CityList::SelectedRow() const {
-  const QModelIndexList rows = list_->selectionModel()->selectedRows();
-  return rows.isEmpty() ? nullptr
-                        : &list_->Table().Rows[list_->Model().TableRow(rows.constFirst().row())];
+  const std::optional<int> row = list_->ChosenRow();
+  return row ? &list_->Table().Rows[list_->Model().TableRow(*row)] : nullptr;
 }
 
 void CityList::SearchFor(const QString& name) {

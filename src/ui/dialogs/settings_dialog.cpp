@@ -24,6 +24,7 @@ SettingsDialog::SettingsDialog(Workplace& place, QWidget* parent)
   general_->Fill(form);
   orbits_->Fill(form);
   profile_->Fill(form);
+  connect(orbits_, &OrbitsPage::FieldWanted, this, &SettingsDialog::FocusField);
   connect(options_, &QListWidget::currentRowChanged, this, &SettingsDialog::ShowPage);
   options_->setCurrentRow(0);
 }
@@ -59,13 +60,17 @@ void SettingsDialog::ShowPage(int page) {
   setWindowTitle(tr("Settings - %1").arg(options_->item(page)->text()));
 }
 
-void SettingsDialog::FocusField(const QString& name) {
+void SettingsDialog::TurnToField(const QString& name) {
   auto* field = findChild<QWidget*>(name);
   for (int page = 0; field != nullptr && page < pages_->count(); ++page) {
     if (pages_->widget(page)->isAncestorOf(field)) {
       options_->setCurrentRow(page);
     }
   }
+}
+
+void SettingsDialog::FocusField(const QString& name) {
+  TurnToField(name);
   FormDialog::FocusField(name);
 }
 
@@ -74,7 +79,11 @@ void SettingsDialog::Save() {
   general_->CopyInto(form);
   orbits_->CopyInto(form);
   profile_->CopyInto(form);
-  Finish(core::SaveSettings(Session(), form));
+  const core::SaveResult saved = core::SaveSettings(Session(), form);
+  if (saved.Refused) {
+    TurnToField(Shown(saved.Refused->Field));  // in sight before the message tells of it
+  }
+  Finish(saved);
 }
 
 }  // namespace orvex::ui

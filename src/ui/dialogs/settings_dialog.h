@@ -23,6 +23,7 @@ class SettingsDialog final : public FormDialog {
   void Build();
   void AddPage(const char* name, QWidget* page);
   void ShowPage(int page);
+  void TurnToField(const QString& name);
   void FocusField(const QString& name) override;
   void Save() override;
 

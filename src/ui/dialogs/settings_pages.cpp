@@ -154,6 +154,8 @@ OrbitsPage::OrbitsPage(Workplace& place, QWidget* parent) : QWidget(parent), pla
     form->addRow(captions_[aspect], orbs_[aspect]);
   }
   QPushButton* reset = PlainButton(tr("&Reset"), "resetOrbs");
+  // A click on it asks nothing of the orb that is left: the box would swallow the click.
+  reset->setFocusPolicy(Qt::TabFocus);
   connect(reset, &QPushButton::clicked, this, [this] { ResetOrbs(); });
   form->addRow(QString(), reset);
 }
@@ -173,7 +175,7 @@ void OrbitsPage::CopyInto(core::SettingsForm& form) const {
 
 bool OrbitsPage::eventFilter(QObject* field, QEvent* event) {
   const auto found = std::find(orbs_.begin(), orbs_.end(), field);
-  if (event->type() == QEvent::FocusOut && found != orbs_.end() && isVisible()) {
+  if (event->type() == QEvent::FocusOut && found != orbs_.end()) {
     const Qt::FocusReason reason = dynamic_cast<QFocusEvent*>(event)->reason();
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
       const auto aspect = static_cast<std::size_t>(found - orbs_.begin());
@@ -185,7 +187,7 @@ bool OrbitsPage::eventFilter(QObject* field, QEvent* event) {
 }
 
 void OrbitsPage::CheckOrb(std::size_t aspect) {
-  if (isAsking_ || !isVisible()) {
+  if (isAsking_ || !window()->isVisible() || TurnsBack()) {
     return;
   }
   const std::string typed = Typed(orbs_[aspect]->text());
@@ -197,8 +199,15 @@ void OrbitsPage::CheckOrb(std::size_t aspect) {
   isAsking_ = true;
   Complain(place_.Session.Shown, refused->Text);
   isAsking_ = false;
-  orbs_[aspect]->setFocus();
+  emit FieldWanted(orbs_[aspect]->objectName());
   orbs_[aspect]->selectAll();
+}
+
+// The focus is on its way out of the dialog or to the defaults, whatever was typed.
+bool OrbitsPage::TurnsBack() const {
+  const QWidget* focus = window()->focusWidget();
+  return focus != nullptr &&
+         (focus->objectName() == "cancel" || focus->objectName() == "resetOrbs");
 }
 
 void OrbitsPage::ResetOrbs() {

@@ -50,12 +50,17 @@ class OrbitsPage final : public QWidget {
   void Fill(const core::SettingsForm& form);
   void CopyInto(core::SettingsForm& form) const;
 
+ signals:
+  // An orb was refused after its page was left; its field is to be in sight again.
+  void FieldWanted(const QString& name);
+
  protected:
   // Checks an orb as its field is left.
   bool eventFilter(QObject* field, QEvent* event) override;
 
  private:
   void CheckOrb(std::size_t aspect);
+  bool TurnsBack() const;
   void ResetOrbs();
 
   Workplace& place_;

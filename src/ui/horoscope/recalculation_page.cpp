@@ -14,6 +14,7 @@
 #include "core/messages.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/select_all_text.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/field_label.h"
@@ -85,6 +86,7 @@ RecalculationPage::RecalculationPage(HoroscopeDocument& document)
   layout->addLayout(LayOutEntries());
   layout->addWidget(LayOutResults(), 1);
   Connect();
+  SelectAllTextOnFocus(*this);
 }
 
 QVBoxLayout* RecalculationPage::LayOutEntries() {
@@ -204,7 +206,7 @@ void RecalculationPage::ShowRefusal(const core::Refusal& refused) {
                                                refused.Icon);
   if (auto* field = findChild<QLineEdit*>(Shown(refused.Field))) {
     field->setFocus();
-    field->selectAll();
+    SelectAllText(*field);
   }
 }
 

@@ -100,7 +100,7 @@ void RemediesPage::Run(RemedyDialog* dialog) {
 void RemediesPage::Delete() {
   core::Session& session = Document().Place().Session;
   const auto remedy = Chosen();
-  if (!remedy || !Ask(session.Shown, practice::kDeleteRemedyQuestion)) {
+  if (!remedy || !Ask(session.Shown, practice::DeleteRemedyQuestion(session, *remedy))) {
     return;
   }
   if (const auto refused = practice::DeleteRemedy(session, *remedy).Refused) {

@@ -27,6 +27,7 @@ ClientCommands::ClientCommands(Workplace& place, ClientLists& lists, QWidget& wi
       EditClient(Make("editClient", tr("&Edit Client…"), tr("F2"), &ClientCommands::RunEditClient)),
       DeleteClient(Make("deleteClient", tr("&Delete Client"), tr("Ctrl+Del"),
                         &ClientCommands::RunDeleteClient)),
+      UndoDelete(Make("undoDelete", {}, QKeySequence::Undo, &ClientCommands::RunUndoDelete)),
       MoveClient(
           Make("moveClient", tr("&Move to Group…"), tr("Ctrl+M"), &ClientCommands::RunMoveClient)),
       AddGroup(Make("addGroup", tr("Add &Group…"), tr("Ctrl+G"), &ClientCommands::RunAddGroup)),
@@ -45,6 +46,7 @@ ClientCommands::ClientCommands(Workplace& place, ClientLists& lists, QWidget& wi
   }
   connect(&lists, &ClientLists::ChoiceChanged, this, &ClientCommands::Follow);
   connect(&lists, &ClientLists::ViewRequested, View, &QAction::trigger);
+  OfferUndo();
 }
 
 QAction* ClientCommands::Make(const char* name, const QString& text, const QKeySequence& keys,
@@ -56,12 +58,37 @@ QAction* ClientCommands::Make(const char* name, const QString& text, const QKeyS
   return action;
 }
 
+void ClientCommands::ActOn(TableView* list) {
+  if (list_ != nullptr) {
+    list_->disconnect(this);
+  }
+  sees_ = true;
+  list_ = list;
+  if (list_ != nullptr) {
+    connect(list_, &TableView::TagChosen, this, &ClientCommands::Follow);
+  }
+  Follow();
+}
+
+void ClientCommands::ActOnNothing() {
+  ActOn(nullptr);
+  sees_ = false;
+  Follow();
+}
+
+std::int32_t ClientCommands::Client() const {
+  if (!sees_) {
+    return 0;
+  }
+  return list_ == nullptr ? lists_.Client() : IdOfTag(list_->SelectedTag()).value_or(0);
+}
+
 void ClientCommands::Follow() {
   const bool hasGroup = lists_.Group() != 0;
-  const bool hasClient = lists_.Client() != 0;
+  const bool hasClient = Client() != 0;
   AddClient->setEnabled(hasGroup);
-  EditGroup->setEnabled(hasGroup);
-  DeleteGroup->setEnabled(hasGroup);
+  EditGroup->setEnabled(hasGroup && OnLists());
+  DeleteGroup->setEnabled(hasGroup && OnLists());
   for (QAction* action : {View, EditClient, DeleteClient}) {
     action->setEnabled(hasClient);
   }
@@ -75,9 +102,10 @@ bool ClientCommands::Refused(const std::optional<core::Refusal>& refused) {
   return refused.has_value();
 }
 
-void ClientCommands::ShowNewClient(std::int32_t clientId) {
+void ClientCommands::ShowNewClient(std::int32_t groupId, std::int32_t clientId) {
+  emit PageWanted();
+  lists_.ShowGroup(groupId, clientId);
   emit ClientsChanged();
-  lists_.SelectClient(clientId);
   OpenHoroscope(place_, clientId);
 }
 
@@ -85,45 +113,76 @@ void ClientCommands::RunAddClient() {
   const std::unique_ptr<ClientDialog> dialog(
       ClientDialog::ForNew(place_, lists_.Group(), &window_));
   if (dialog->exec() == QDialog::Accepted) {
-    if (dialog->GroupId() == lists_.Group()) {
-      lists_.ReloadClients();
-    } else {
-      lists_.ShowGroup(dialog->GroupId());
-    }
-    ShowNewClient(dialog->SavedId());
+    ShowNewClient(dialog->GroupId(), dialog->SavedId());
   }
 }
 
-void ClientCommands::RunView() { OpenHoroscope(place_, lists_.Client()); }
+void ClientCommands::RunView() { OpenHoroscope(place_, Client()); }
 
 void ClientCommands::RunEditClient() {
-  const std::int32_t client = lists_.Client();
+  const std::int32_t client = Client();
   if (Refused(practice::CheckEditClient(place_.Session, client))) {
     return;
   }
   const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, client, &window_));
   if (dialog && dialog->exec() == QDialog::Accepted) {
-    lists_.ReloadClients();
-    lists_.SelectClient(client);
-    emit ClientsChanged();
+    ShowChanged(client);
   }
 }
 
 void ClientCommands::RunDeleteClient() {
-  if (Refused(practice::CheckDeleteClient(place_.Session, lists_.Client())) ||
-      !Ask(place_.Session.Shown, practice::kDeleteClientQuestion) ||
-      Refused(practice::DeleteClient(place_.Session, lists_.Client()).Refused)) {
+  const std::int32_t client = Client();
+  if (Refused(practice::CheckDeleteClient(place_.Session, client)) ||
+      !Ask(place_.Session.Shown, practice::DeleteClientQuestion(place_.Session, client))) {
     return;
   }
-  lists_.ReloadClients();
-  lists_.ClientTable().setFocus();
+  std::optional<practice::KeptClient> kept = practice::KeepClient(place_.Session, client);
+  if (Refused(practice::DeleteClient(place_.Session, client).Refused)) {
+    return;
+  }
+  if (kept) {
+    deleted_.push_back(std::move(*kept));
+    OfferUndo();
+  }
+  TableView& list = list_ == nullptr ? lists_.ClientTable() : *list_;
+  ShowChanged(lists_.Client());
+  list.setFocus();
+}
+
+void ClientCommands::OfferUndo() {
+  UndoDelete->setVisible(!deleted_.empty());
+  UndoDelete->setEnabled(!deleted_.empty());
+  if (!deleted_.empty()) {
+    const QString name = Shown(deleted_.back().ClientName);
+    UndoDelete->setText(tr("&Undo deletion of %1").arg(QString(name).replace('&', "&&")));
+  }
+}
+
+void ClientCommands::RunUndoDelete() {
+  const core::SaveResult back = practice::BringBack(place_.Session, deleted_.back());
+  if (Refused(back.Refused)) {
+    return;
+  }
+  deleted_.pop_back();
+  OfferUndo();
+  lists_.LoadGroups();
+  lists_.ShowGroup(practice::PlaceOfClient(place_.Session, back.Id).GroupId, back.Id);
+  emit ClientsChanged();
+}
+
+// A client has changed or is gone; the client chosen in the lists stays so.
+void ClientCommands::ShowChanged(std::int32_t clientId) {
+  const std::int32_t chosen = OnLists() ? clientId : lists_.Client();
+  lists_.ReloadClients(chosen);
   emit ClientsChanged();
 }
 
 void ClientCommands::RunMoveClient() {
-  MoveDialog dialog(place_, lists_.Client(), lists_.ClientName(), lists_.GroupName(), &window_);
+  const std::int32_t client = Client();
+  const practice::ClientPlace from = practice::PlaceOfClient(place_.Session, client);
+  MoveDialog dialog(place_, client, Shown(from.ClientName), Shown(from.GroupName), &window_);
   if (dialog.exec() == QDialog::Accepted) {
-    lists_.ReloadClients();
+    ShowChanged(client);
   }
 }
 
@@ -147,7 +206,7 @@ void ClientCommands::RunEditGroup() {
 
 void ClientCommands::RunDeleteGroup() {
   if (Refused(practice::CheckDeleteGroup(place_.Session)) ||
-      !Ask(place_.Session.Shown, practice::kDeleteGroupQuestion) ||
+      !Ask(place_.Session.Shown, practice::DeleteGroupQuestion(place_.Session, lists_.Group())) ||
       Refused(practice::DeleteGroup(place_.Session, lists_.Group()).Refused)) {
     return;
   }
@@ -169,8 +228,7 @@ void ClientCommands::RunInstantChart() {
   }
   const core::SaveResult saved = chart::CreateInstantChart(place_.Session);
   if (!Refused(saved.Refused)) {
-    lists_.ShowGroup(place_.Session.State.InstantChartGroupId);
-    ShowNewClient(saved.Id);
+    ShowNewClient(place_.Session.State.InstantChartGroupId, saved.Id);
   }
 }
 

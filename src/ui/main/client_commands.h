@@ -3,8 +3,10 @@
 
 #include <QAction>
 #include <QObject>
+#include <vector>
 
 #include "core/save_result.h"
+#include "practice/deleted_client.h"
 #include "ui/base/workplace.h"
 
 class QWidget;
@@ -12,6 +14,7 @@ class QWidget;
 namespace orvex::ui {
 
 class ClientLists;
+class TableView;
 
 class ClientCommands final : public QObject {
   Q_OBJECT
@@ -19,10 +22,19 @@ class ClientCommands final : public QObject {
  public:
   ClientCommands(Workplace& place, ClientLists& lists, QWidget& window);
 
+  // What the commands act on from now on: the chosen client of a list that is in sight. Of `list`
+  // that is the row's tag; without one, that of the client lists, whose group is then in sight too.
+  void ActOn(TableView* list);
+  void ActOnLists() { ActOn(nullptr); }
+  // Nothing that could be acted on is in sight.
+  void ActOnNothing();
+
   QAction* AddClient;
   QAction* View;
   QAction* EditClient;
   QAction* DeleteClient;
+  // Brings the client back that was deleted last; not in sight without one.
+  QAction* UndoDelete;
   QAction* MoveClient;
   QAction* AddGroup;
   QAction* EditGroup;
@@ -41,22 +53,30 @@ class ClientCommands final : public QObject {
   QAction* Make(const char* name, const QString& text, const QKeySequence& keys,
                 void (ClientCommands::*run)());
   void Follow();
+  bool OnLists() const { return sees_ && list_ == nullptr; }
+  std::int32_t Client() const;
+  void ShowChanged(std::int32_t clientId);
+  void OfferUndo();
   void RunAddClient();
   void RunView();
   void RunEditClient();
   void RunDeleteClient();
+  void RunUndoDelete();
   void RunMoveClient();
   void RunAddGroup();
   void RunEditGroup();
   void RunDeleteGroup();
   void RunInstantChart();
-  void ShowNewClient(std::int32_t clientId);
+  void ShowNewClient(std::int32_t groupId, std::int32_t clientId);
   // Shows a refusal; false where there is none.
   bool Refused(const std::optional<core::Refusal>& refused);
 
   Workplace& place_;
   ClientLists& lists_;
   QWidget& window_;
+  bool sees_ = true;
+  std::vector<practice::KeptClient> deleted_;  // since the program's start, the last one last
+  TableView* list_ = nullptr;                  // null: that of the client lists
 };
 
 }  // namespace orvex::ui

@@ -26,8 +26,8 @@ TableView* Named(const char* name) {
 
 // The name in the first cell of the chosen row.
 QString ChosenName(const TableView& table) {
-  const QModelIndexList rows = table.selectionModel()->selectedRows();
-  return rows.isEmpty() ? QString() : rows.constFirst().data().toString();
+  const std::optional<int> row = table.ChosenRow();
+  return row ? table.Model().index(*row, 0).data().toString() : QString();
 }
 
 QVBoxLayout* Column(QWidget* parent) {
@@ -132,7 +132,7 @@ void ClientLists::ShowNoGroups() {
   emit ChoiceChanged();
 }
 
-void ClientLists::ShowGroup(std::int32_t groupId) {
+void ClientLists::ShowGroup(std::int32_t groupId, std::int32_t clientId) {
   group_ = groupId;
   {
     const QSignalBlocker quietGroups(groups_);
@@ -142,7 +142,9 @@ void ClientLists::ShowGroup(std::int32_t groupId) {
     filter_->clear();
     clients_->SetTable(practice::LoadClientsOfGroup(place_.Session, groupId));
     ShowOrder();
-    clients_->SelectFirst();
+    if (!clients_->SelectTag(Typed(WholeText(clientId)))) {
+      clients_->SelectFirst();
+    }
   }
   filter_->setEnabled(!Clients().Rows.empty());
   emit CountChanged(Shown(practice::ClientCountText(Clients().Rows.size(), false)));
@@ -175,15 +177,15 @@ void ClientLists::ReloadRemedies() {
 }
 
 void ClientLists::FilterClients(const QString& text) {
-  clients_->SetFilter(text);
+  {
+    const QSignalBlocker quiet(clients_);
+    clients_->SetFilter(text);
+    clients_->ChooseNone();
+  }
   ChooseClient(0);
   remedyCaption_->setText(practice::kFilteredRemedyCaption);
   const auto count = static_cast<std::size_t>(clients_->Model().rowCount());
   emit CountChanged(Shown(practice::ClientCountText(count, !text.isEmpty())));
-}
-
-bool ClientLists::SelectClient(std::int32_t clientId) {
-  return clients_->SelectTag(Typed(WholeText(clientId)));
 }
 
 QString ClientLists::GroupName() const { return ChosenName(*groups_); }

@@ -21,12 +21,11 @@ class ClientLists final : public QWidget {
 
   // Reads the groups again; the chosen one stays, else the first is chosen.
   void LoadGroups();
-  // Turns to a group and reads its clients again; the first client is chosen.
-  void ShowGroup(std::int32_t groupId);
-  void ReloadClients() { ShowGroup(Group()); }
+  // Turns to a group and reads its clients again; a client is chosen, the first where it is not
+  // among them.
+  void ShowGroup(std::int32_t groupId, std::int32_t clientId = 0);
+  void ReloadClients(std::int32_t clientId = 0) { ShowGroup(Group(), clientId); }
   void ReloadRemedies();
-  // Chooses a client of the shown group; false where it is not in sight.
-  bool SelectClient(std::int32_t clientId);
 
   std::int32_t Group() const { return group_; }    // 0: there is none
   std::int32_t Client() const { return client_; }  // 0: none is chosen

@@ -10,6 +10,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -89,7 +90,7 @@ void MainWindow::MakeActions() {
 void MainWindow::MakeMenus() {
   QMenu* clients = menuBar()->addMenu(tr("&Clients"));
   clients->addActions({commands_->AddClient, commands_->View, commands_->EditClient,
-                       commands_->DeleteClient, commands_->MoveClient});
+                       commands_->DeleteClient, commands_->UndoDelete, commands_->MoveClient});
   clients->addSeparator();
   clients->addActions({commands_->InstantChart, filter_, find_});
   clients->addSeparator();
@@ -174,9 +175,20 @@ void MainWindow::MakeStatusBar() {
   for (QLabel* panel : {count_, total_}) {
     statusBar()->addWidget(panel);
   }
+  statusBar()->addWidget(MakeUndoButton());
   for (QLabel* panel : {ascendant_, nodes_, disha_, date_}) {
     statusBar()->addPermanentWidget(panel);
   }
+}
+
+QWidget* MainWindow::MakeUndoButton() {
+  auto* undo = new QToolButton;
+  undo->setObjectName("undoButton");
+  undo->setDefaultAction(commands_->UndoDelete);
+  undo->setVisible(commands_->UndoDelete->isVisible());
+  connect(commands_->UndoDelete, &QAction::changed, undo,
+          [this, undo] { undo->setVisible(commands_->UndoDelete->isVisible()); });
+  return undo;
 }
 
 void MainWindow::Connect() {
@@ -194,16 +206,25 @@ void MainWindow::Connect() {
   connect(lists_, &ClientLists::GroupsLoaded, search_, &SearchPage::LoadGroups);
   connect(quit_, &QAction::triggered, this, &QWidget::close);
   connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::MakeRoom);
-  connect(sky_, &SkyPanel::Refreshed, this, [this] { ShowSkyStatus(); });
+  connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::FollowPage);
+  connect(sky_, &SkyPanel::Refreshed, this, [this] {
+    ShowSkyStatus();
+    FollowDay();
+  });
   connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);
   connect(lists_, &ClientLists::CountChanged, count_, &QLabel::setText);
   connect(commands_, &ClientCommands::ClientsChanged, this, [this] {
     ShowBirthdays();
     ShowClientCounts();
+    search_->Reload();
   });
   connect(commands_, &ClientCommands::SettingsWanted, this, [this] { OpenSettings(); });
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->setCurrentWidget(clientsPage_); });
+  for (QAction* action :
+       {commands_->View, commands_->EditClient, commands_->DeleteClient, commands_->MoveClient}) {
+    search_->Results().AddMenuAction(action);
+  }
   for (TableView* list : findChildren<TableView*>()) {
     list->RememberWidths(place_.Layout);
     list->SetExport([this, list](const core::Table& table) {
@@ -213,6 +234,17 @@ void MainWindow::Connect() {
   lists_->ClientTable().SetExport([this](const core::Table& table) {
     ExportTable(place_, *this, table, Typed(lists_->GroupName()));
   });
+}
+
+// A command acts on the list of the page in sight and on none behind it.
+void MainWindow::FollowPage() {
+  if (pages_->currentWidget() == clientsPage_) {
+    commands_->ActOnLists();
+  } else if (pages_->currentWidget() == search_) {
+    commands_->ActOn(&search_->Results());
+  } else {
+    commands_->ActOnNothing();
+  }
 }
 
 // A page takes the room that it asks for; the clients get back what the user gave them.
@@ -249,7 +281,15 @@ void MainWindow::ShowClientCounts() {
   clientsPage_->setCurrentIndex(anyone || lists_->Group() == 0 ? 0 : 1);
 }
 
+// The program is left open over midnight.
+void MainWindow::FollowDay() {
+  if (place_.Session.Time.Today() != birthdaysOf_) {
+    ShowBirthdays();
+  }
+}
+
 void MainWindow::ShowBirthdays() {
+  birthdaysOf_ = place_.Session.Time.Today();
   core::Table birthdays = practice::GetBirthdaysToday(place_.Session);
   birthdayCaption_->setText(Shown(practice::BirthdayCaption(birthdays)));
   const bool any = !birthdays.Rows.empty();

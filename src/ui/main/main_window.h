@@ -39,14 +39,17 @@ class MainWindow final : public QMainWindow {
   void LayOut();
   void Connect();
   void MakeRoom();
+  void FollowPage();
   void Start();
   void MakeMenus();
   void MakeToolBar();
   QWidget* BuildClientsPage();
   QWidget* BuildBirthdays();
   void MakeStatusBar();
+  QWidget* MakeUndoButton();
   void ShowClientCounts();
   void ShowBirthdays();
+  void FollowDay();
   void ShowSkyStatus();
   void OpenSettings();
   void OpenCities();
@@ -64,6 +67,7 @@ class MainWindow final : public QMainWindow {
   SearchPage* search_;
   QSplitter* halves_;
   QList<int> givenSizes_;  // of the halves beside the page of the clients
+  core::DateTime birthdaysOf_{};
   QLabel* birthdayCaption_;
   TableView* birthdays_;
   QLabel* count_;

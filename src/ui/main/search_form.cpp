@@ -16,6 +16,7 @@
 #include "ui/base/named.h"
 #include "ui/base/planet_box.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/select_all_text.h"
 #include "ui/base/theme.h"
 
 namespace orvex::ui {
@@ -83,6 +84,7 @@ SearchForm::SearchForm(const core::Session& session, QWidget* parent)
   FollowMode();
   FollowRanges();
   Connect();
+  SelectAllTextOnFocus(*this);
 }
 
 void SearchForm::FillChoices() {

@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "practice/client_search.h"
 #include "ui/base/export_table.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/moment_edit.h"
@@ -55,7 +54,7 @@ void SearchPage::Connect() {
   connect(form_, &SearchForm::ModeChanged, this, &SearchPage::Clear);
   connect(form_, &SearchForm::SearchRequested, this, &SearchPage::Search);
   connect(search_, &QPushButton::clicked, this, &SearchPage::Search);
-  connect(export_, &QPushButton::clicked, this, [this] { Export(results_->Table()); });
+  connect(export_, &QPushButton::clicked, this, [this] { Export(results_->ShownTable()); });
   connect(results_, &TableView::TagActivated, this, [this](const QString& tag) {
     if (const std::optional<std::int32_t> client = IdOfTag(Typed(tag))) {
       OpenHoroscope(place_, *client);
@@ -67,8 +66,9 @@ void SearchPage::LoadGroups() { form_->LoadGroups(); }
 void SearchPage::FocusText() { form_->FocusText(); }
 
 void SearchPage::Clear() {
+  found_.reset();
   results_->SetEmptyText(tr("Choose what to look for and press Enter."));
-  Show(practice::ResultTable(form_->Mode()), practice::kEmptyResultLine);
+  Show({.Mode = form_->Mode()}, {}, practice::kEmptyResultLine, "");
 }
 
 void SearchPage::Search() {
@@ -79,25 +79,50 @@ void SearchPage::Search() {
     return;
   }
   const practice::SearchFilter filter = form_->Filter();
+  if (!Run(filter, "")) {
+    form_->FocusGroups();
+  }
+}
+
+void SearchPage::Reload() {
+  if (found_) {
+    Run(practice::SearchFilter(*found_), results_->SelectedTag());
+  }
+}
+
+bool SearchPage::Run(const practice::SearchFilter& filter, const std::string& chosen) {
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  practice::SearchResult found = practice::SearchClients(place_.Session, filter);
+  practice::FoundRows found = practice::FindRows(place_.Session, filter);
   QGuiApplication::restoreOverrideCursor();
   if (found.Refused) {
     place_.Session.Shown.ShowMessage(found.Refused->Text, core::MessageButtons::Ok,
                                      found.Refused->Icon);
-    form_->FocusGroups();
-    return;
+    return false;
   }
+  found_ = filter;
   results_->SetEmptyText(filter.Text.find('\'') == std::string::npos
                              ? tr("Nothing fits these filters.")
                              : tr("A text with a quote (') finds nothing: leave the quote out."));
-  Show(std::move(found.Results), Shown(found.ResultLine));
+  Show(filter, std::move(found.Rows), Shown(found.ResultLine), chosen);
+  return true;
 }
 
-void SearchPage::Show(core::Table results, const QString& caption) {
-  const bool any = !results.Rows.empty();
-  results_->SetTable(std::move(results));
-  results_->SelectFirst();
+void SearchPage::Show(const practice::SearchFilter& filter, std::vector<practice::FoundRow> rows,
+                      const QString& caption, const std::string& chosen) {
+  const bool any = !rows.empty();
+  LateRows late;
+  for (const practice::FoundRow& row : rows) {
+    late.Tags.push_back(Typed(WholeText(row.ClientId)));
+  }
+  late.Read = [this, filter, rows = std::move(rows)](const std::vector<std::size_t>& wanted) {
+    std::vector<practice::FoundRow> found;
+    for (const std::size_t row : wanted) {
+      found.push_back(rows.at(row));
+    }
+    return practice::ReadFoundRows(place_.Session, filter, found);
+  };
+  results_->SetLateRowsAndChoose(practice::ResultTable(filter.Mode).Columns, std::move(late),
+                                 chosen);
   caption_->setText(caption);
   export_->setEnabled(any);
   results_->SetExport(any ? [this](const core::Table& table) { Export(table); }

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "core/table.h"
+#include "practice/client_search.h"
 #include "ui/base/workplace.h"
 
 class QLabel;
@@ -24,13 +25,19 @@ class SearchPage final : public QWidget {
   void LoadGroups();
   // Gives the focus to the search text.
   void FocusText();
+  // Clients have changed: what was found is looked for again, and the chosen client stays so.
+  void Reload();
+  TableView& Results() { return *results_; }
 
  private:
   void Build();
   void Connect();
   void Search();
+  // False where it was refused, after the message. Chooses the row of a tag, else the first.
+  bool Run(const practice::SearchFilter& filter, const std::string& chosen);
   void Clear();
-  void Show(core::Table results, const QString& caption);
+  void Show(const practice::SearchFilter& filter, std::vector<practice::FoundRow> rows,
+            const QString& caption, const std::string& chosen);
   void Export(const core::Table& table);
 
   Workplace& place_;
@@ -39,6 +46,7 @@ class SearchPage final : public QWidget {
   QPushButton* export_;
   QLabel* caption_;
   TableView* results_;
+  std::optional<practice::SearchFilter> found_;  // what the results were found by
 };
 
 }  // namespace orvex::ui

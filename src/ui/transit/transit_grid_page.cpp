@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <utility>
 
 #include "core/exact_numbers.h"
 #include "transit/month_name.h"
@@ -181,9 +182,16 @@ void TransitGridPage::Connect() {
 
 void TransitGridPage::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  if (!event->spontaneous()) {
-    build_.start();
+  if (event->spontaneous()) {
+    return;
   }
+  if (!std::exchange(opened_, true)) {
+    const core::DateTime now = place_.Session.Time.Now();
+    month_ = core::PartsOf(now).Month;
+    year_ = core::PartsOf(now).Year;
+    time_->setDateTime(ToField(now));
+  }
+  build_.start();
 }
 
 void TransitGridPage::Refresh() {
@@ -215,6 +223,9 @@ void TransitGridPage::CreateGrid(int month, int year) {
   months_->setCurrentIndex(month - 1);
   years_->setCurrentText(WholeText(year));
   ShowGrid(transit::CreateGrid(place_.Session, view_, month, year));
+  if (mark_ && mark_->Month == month && mark_->Year == year) {
+    ShowMark();
+  }
 }
 
 void TransitGridPage::ShowGrid(transit::MonthGrid month) {
@@ -255,14 +266,25 @@ void TransitGridPage::GoToTag(const std::string& tag) {
 }
 
 void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
+  mark_ = mark;
   CreateGrid(mark.Month, mark.Year);
-  core::Table marked = grid_->Table();
-  if (const auto cell = transit::HighlightCell(marked, mark.DateText, mark.PlanetName)) {
-    grid_->SetTable(std::move(marked));
+  if (const std::optional<transit::CellPlace> cell = ShowMark()) {
     showGraph_->setChecked(false);
     SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();
   }
+}
+
+// A month that is computed anew keeps what was found in it; what is selected stays selected.
+std::optional<transit::CellPlace> TransitGridPage::ShowMark() {
+  const QModelIndex was = grid_->currentIndex();  // its numbers outlive the table
+  core::Table marked = grid_->Table();
+  const auto cell = transit::HighlightCell(marked, mark_->DateText, mark_->PlanetName);
+  if (cell) {
+    grid_->SetTable(std::move(marked));
+    SelectCell(was.row(), was.column());
+  }
+  return cell;
 }
 
 void TransitGridPage::FindTransit() {

@@ -57,6 +57,7 @@ class TransitGridPage final : public QWidget {
   void FollowUserCity();
   void Rebuild();
   void ShowGrid(transit::MonthGrid month);
+  std::optional<transit::CellPlace> ShowMark();
   void SelectCell(int row, int column);
   void GoToTag(const std::string& tag);
   void ChangeCity();
@@ -66,6 +67,8 @@ class TransitGridPage final : public QWidget {
   Workplace& place_;
   transit::GridView view_;
   bool ownCity_ = false;
+  bool opened_ = false;  // it has been in sight
+  std::optional<transit::GridMark> mark_;
   int month_;
   int year_;
   std::string nextTag_;
