@@ -1,6 +1,7 @@
 #include "ui/horoscope/head_pane.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
