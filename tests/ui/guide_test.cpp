@@ -11,6 +11,7 @@
 #include "core/home.h"
 #include "core/text.h"
 #include "support/ui_desk.h"
+#include "ui/base/keys.h"
 #include "ui/base/open_windows.h"
 #include "ui/horoscope/horoscope_window.h"
 #include "ui/main/main_window.h"
@@ -83,6 +84,8 @@ TEST_F(GuideTest, TheKeysOfTheGuideAreThoseOfTheWindows) {
     pages.setCurrentRow(page);
   }
   EXPECT_EQ(Told("Horoscope"), Present(*horoscope));
+  EXPECT_TRUE(core::Contains(core::ReadTextFile(ORVEX_GUIDE_SOURCE "/keys.md"),
+                             Typed(GuideTableOfKeys("Horoscope"))));
 }
 
 TEST_F(GuideTest, TheHelpOpensTheGuideThatIsInstalledWithTheProgram) {

@@ -40,11 +40,14 @@ void WritePages(HoroscopeWindow& window, const std::filesystem::path& folder) {
   auto& pages = *window.findChild<QListWidget*>("pages");
   window.resize(kSmallWidth, kSmallHeight);
   for (int page = 0; page < pages.count(); ++page) {
+    if (!pages.item(page)->flags().testFlag(Qt::ItemIsEnabled)) {
+      continue;
+    }
     pages.setCurrentRow(page);
-    const QString name = pages.item(page)->text().toLower().replace(' ', '-');
+    QString name = pages.item(page)->text().toLower().replace(' ', '-');
     WritePicture(window, folder / (Typed(name) + ".png"));
   }
-  pages.setCurrentRow(0);
+  window.Turn("chart");
   window.ShowPlanetSheet(2);
   WritePicture(*window.findChild<PlanetSheetDialog*>(), folder / "sheet.png");
 }

@@ -13,7 +13,6 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -168,7 +167,7 @@ TEST_F(HoroscopeWindowTest, RotationShowsInTitleHeadAndTablesUntilItIsReset) {
   Open();
   const std::string first = Text("CuspTable", 0, 1);
   const std::string seventh = Text("CuspTable", 6, 1);
-  MenuEntry("rotationMenu", "7").trigger();
+  MenuEntry("rotationMenu", "&7  spouse").trigger();
   EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao (Rotated to 7)");
   EXPECT_EQ(Text("CuspTable", 0, 1), seventh);
   EXPECT_EQ(Find<ChartView>("rashiChart").Picture().Fields[0].Sign, "1");
@@ -192,13 +191,19 @@ TEST_F(HoroscopeWindowTest, TheStyleButtonGoesRoundTheThreeStylesForThisWindowOn
 TEST_F(HoroscopeWindowTest, TheKeysTurnThroughAllPagesAndEveryTableShowsRows) {
   Open();
   auto& pages = Find<QListWidget>("pages");
-  const int last = pages.count() - 1;
-  QTest::keyClick(window_, Qt::Key_PageUp, Qt::ControlModifier);
-  EXPECT_EQ(pages.currentRow(), last);
-  for (int page = 0; page < last; ++page) {
+  // The captions of the groups are passed over.
+  QStringList turned;
+  for (int page = 0; page < 16; ++page) {
+    turned << pages.currentItem()->text();
+    EXPECT_TRUE(pages.currentItem()->flags().testFlag(Qt::ItemIsEnabled));
     QTest::keyClick(window_, Qt::Key_PageDown, Qt::ControlModifier);
-    EXPECT_EQ(pages.currentRow(), page);
   }
+  EXPECT_EQ(turned.join(' '),
+            "Chart Significators Four steps Aspects Periods Timeline Transits Ashtakavarga "
+            "Sequences Birth star Annual chart Lo Shu Vastu Remedies Rectification Chart");
+  QTest::keyClick(window_, Qt::Key_PageUp, Qt::ControlModifier);
+  QTest::keyClick(window_, Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(pages.currentItem()->text(), "Rectification");
   for (const TableView* view : window_->findChildren<TableView*>()) {
     if (view->objectName() != "RemedyTable") {
       EXPECT_FALSE(view->Table().Rows.empty()) << view->objectName().toStdString();
@@ -208,11 +213,11 @@ TEST_F(HoroscopeWindowTest, TheKeysTurnThroughAllPagesAndEveryTableShowsRows) {
 
 TEST_F(HoroscopeWindowTest, APickedPeriodOpensTheListsBelowItAndTheSummaries) {
   Open();
-  Turn("Dasha");
+  Turn("Periods");
   ClickCell("DashaList", 0, 1);
   const auto& bhuktis = Find<TableView>("BhuktiList").Table();
   EXPECT_EQ(bhuktis.Rows.front().Cells.front().Text, "Mercury");
-  EXPECT_EQ(bhuktis.Rows.back().Cells.back().Text, Text("DashaList", 0, 3));
+  EXPECT_EQ(bhuktis.Rows.back().Cells.at(1).Text, Text("DashaList", 0, 3));
   ClickCell("BhuktiList", 3, 0);
   EXPECT_EQ(Text("AntaraList", 0, 0), Text("BhuktiList", 3, 0));
   EXPECT_EQ(Text("DBAPeriods", 0, 2), Text("BhuktiList", 3, 1));
@@ -242,7 +247,7 @@ TEST_F(HoroscopeWindowTest, TheFilterOfTheAspectsOutlivesARotation) {
   QTest::keyClick(&filter, Qt::Key_Down);
   EXPECT_EQ(std::pair(rowsOf("CAFACB"), rowsOf("FACACA")), std::pair(good, std::size_t{0}));
   QTest::keyClick(&filter, Qt::Key_Down);
-  MenuEntry("rotationMenu", "4").trigger();
+  MenuEntry("rotationMenu", "&4  mother").trigger();
   EXPECT_EQ(std::pair(rowsOf("CAFACB"), rowsOf("FACACA")), std::pair(std::size_t{0}, hard));
   EXPECT_EQ(filter.currentText(), "Hard aspects");
 }
@@ -292,6 +297,19 @@ TEST_F(HoroscopeWindowTest, ADoubleClickOnAPlanetOpensItsSheet) {
   EXPECT_EQ(sheet->windowTitle(), "Saturn (Sagittarius)");
 }
 
+TEST_F(HoroscopeWindowTest, AClickOnARowOrAChipChoosesThatPlanetAndASecondOneTakesItOff) {
+  Open();
+  ClickCell("PlanetTable", 1, 1);  // beside the chips of its row
+  EXPECT_EQ(window_->ChosenPlanet(), "VE");
+  ClickCell("PlanetTable", 1, 1);
+  EXPECT_EQ(window_->ChosenPlanet(), "");
+  auto& cusps = Find<TableView>("CuspTable");
+  const QRect cell = cusps.visualRect(cusps.Model().index(0, 3));
+  const QPoint chip(cell.left() + 18, cell.center().y());  // the star lord of the ascendant
+  QTest::mouseClick(cusps.viewport(), Qt::LeftButton, {}, chip);
+  EXPECT_EQ(window_->ChosenPlanet(), "RA");
+}
+
 TEST_F(HoroscopeWindowTest, ThePlanOfPadsShowsItsSectorsAndTheDeitiesThatAreStruck) {
   Open();
   Turn("Vastu");
@@ -311,7 +329,7 @@ TEST_F(HoroscopeWindowTest, ThePlanOfPadsShowsItsSectorsAndTheDeitiesThatAreStru
 
 TEST_F(HoroscopeWindowTest, RecalculationRefusesWithTheFieldInFocusAndChangesNothingStored) {
   Open();
-  Turn("Recalculation");
+  Turn("Rectification");
   const std::string ascendant = Text("workCusps", 0, 1);
   const struct {
     const char* Field;
@@ -379,12 +397,12 @@ TEST_F(HoroscopeWindowTest, ExportWritesTheReportOfWhatIsShownAndOpensIt) {
                              home_.Place.ReportTemplate());
   Open();
   Turn("Vastu");
-  MenuEntry("rotationMenu", "7").trigger();
+  MenuEntry("rotationMenu", "&7  spouse").trigger();
   MenuEntry("exportMenu", "Report: Dasha, Bhukti and Antara").trigger();
   ASSERT_EQ(files_.Opened.size(), 1U)
       << (home_.Messages.All().empty() ? "" : home_.Messages.All().back().Text);
   EXPECT_NE(test::ReadFile(files_.Opened[0]).find("Asha Rao (Rotated to 7)"), std::string::npos);
-  EXPECT_EQ(Find<QListWidget>("pages").currentRow(), 0);
+  EXPECT_EQ(Find<QListWidget>("pages").currentItem()->text(), "Chart");
   EXPECT_TRUE(Find<QLabel>("statusText").text().startsWith("Asc = "));
 
   // The charts of the report are drawn as they are shown.
@@ -436,32 +454,73 @@ TEST_F(HoroscopeWindowTest, TheRulingPlanetsAreThoseOfBirthUntilThoseOfNowAreAsk
     return Text("RulingPlanets", 6, 0) + " " + Text("RulingPlanets", 6, 1);
   };
   EXPECT_EQ(dayLord(), "Day Lord Jupiter") << "born on a Thursday";
-  QTest::mouseClick(&Find<QRadioButton>("rulingOfNow"), Qt::LeftButton);
+  QTest::mouseClick(&Find<QPushButton>("rulingOfNow"), Qt::LeftButton);
   EXPECT_EQ(dayLord(), "Day Lord Mars") << "today is a Tuesday";
   EXPECT_EQ(Find<TableView>("RulingPlanets").Model().rowCount(), 7) << "no Part of Fortune";
-  QTest::mouseClick(&Find<QRadioButton>("rulingOfBirth"), Qt::LeftButton);
+  QTest::mouseClick(&Find<QPushButton>("rulingOfBirth"), Qt::LeftButton);
   EXPECT_EQ(dayLord(), "Day Lord Jupiter");
 }
 
-TEST_F(HoroscopeWindowTest, ThePlanetsStayInSightBesideTheColumnsMovedSideways) {
+// Every chart, planet and cusp in sight at once, at the sizes of small screens.
+TEST_F(HoroscopeWindowTest, ThePageOfTheChartNeedsNoBarOnASmallScreen) {
   Open();
-  TableView& planets = Find<TableView>("PlanetTable");
-  auto& names = *planets.findChild<QTableView*>("frozenColumn");
-  planets.horizontalScrollBar()->setValue(planets.horizontalScrollBar()->maximum());
-  EXPECT_FALSE(
-      planets.visualRect(planets.model()->index(2, 0)).intersects(planets.viewport()->rect()));
-  const QPoint sun = names.visualRect(names.model()->index(2, 0)).center();
-  QTest::mouseClick(names.viewport(), Qt::LeftButton, {}, sun);
-  QTest::mouseDClick(names.viewport(), Qt::LeftButton, {}, sun);
-  ASSERT_NE(window_->findChild<PlanetSheetDialog*>(), nullptr);
-  EXPECT_EQ(window_->findChild<PlanetSheetDialog*>()->windowTitle(), "Sun (Gemini)");
-  const auto first = [&] { return names.model()->index(0, 0).data().toString(); };
-  std::vector<QString> firsts;
-  for (int click = 0; click < 3; ++click) {
-    QTest::mouseClick(names.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(8, 8));
-    firsts.push_back(first());
+  EXPECT_LE(window_->minimumSizeHint().width(), 1000);
+  EXPECT_LE(window_->minimumWidth(), 1000);
+  EXPECT_LE(window_->minimumHeight(), 600);
+  for (const QSize size : {QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080)}) {
+    window_->resize(size);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(window_->size(), size);
+    for (const char* name : {"PlanetTable", "CuspTable", "RulingPlanets"}) {
+      auto& view = Find<TableView>(name);
+      EXPECT_TRUE(view.isVisible()) << name;
+      const int last = view.Model().rowCount() - 1;
+      EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.Model().index(last, 1))))
+          << name << " at " << size.width();
+      EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0) << name << " at " << size.width();
+      EXPECT_EQ(view.verticalScrollBar()->maximum(), 0) << name << " at " << size.width();
+    }
+    const auto& planets = Find<TableView>("PlanetTable");
+    for (const int column : {0, 1, 4, 5, 6, 7, 8, 9, 13}) {
+      EXPECT_FALSE(planets.isColumnHidden(column)) << column << " at " << size.width();
+    }
+    EXPECT_TRUE(Find<ChartView>("chalitChart").isVisible());
   }
-  EXPECT_EQ(firsts, (std::vector<QString>{"Jupiter", "Venus", "Ketu"}));
+  // As small as it goes: one chart and one table, and the buttons turn to the others.
+  window_->resize(960, 540);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(window_->size(), QSize(960, 540));
+  EXPECT_FALSE(Find<TableView>("CuspTable").isVisible());
+  QTest::mouseClick(&Find<QPushButton>("showCusps"), Qt::LeftButton);
+  EXPECT_TRUE(Find<TableView>("CuspTable").isVisible());
+  EXPECT_FALSE(Find<TableView>("PlanetTable").isVisible());
+}
+
+TEST_F(HoroscopeWindowTest, TheWholeTableIsOneKeyAwayAndTheKeyTurnsBack) {
+  Open();
+  const auto& planets = Find<TableView>("PlanetTable");
+  EXPECT_TRUE(planets.isColumnHidden(16));
+  QTest::keyClick(window_, Qt::Key_F4);
+  for (int column = 0; column < planets.Model().columnCount(); ++column) {
+    EXPECT_FALSE(planets.isColumnHidden(column)) << column;
+  }
+  QTest::keyClick(window_, Qt::Key_F4);
+  EXPECT_TRUE(planets.isColumnHidden(16));
+}
+
+TEST_F(HoroscopeWindowTest, AnAmberHeadShowsTheWayBackAndTheMenuTicksTheHouse) {
+  Open();
+  EXPECT_FALSE(Find<QWidget>("backToFirstHouse").isVisible());
+  MenuEntry("rotationMenu", "&7  spouse").trigger();
+  QStringList ticked;
+  for (const QAction* house : Find<QMenu>("rotationMenu").actions()) {
+    ticked += house->isChecked() ? QStringList(house->text()) : QStringList();
+  }
+  EXPECT_EQ(ticked, QStringList("&7  spouse"));
+  EXPECT_EQ(Find<QLabel>("rotatedTo").text(), "Rotated to 7");
+  QTest::mouseClick(&Find<QWidget>("backToFirstHouse"), Qt::LeftButton);
+  EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao");
+  EXPECT_FALSE(Find<QWidget>("backToFirstHouse").isVisible());
 }
 
 TEST_F(HoroscopeWindowTest, AColumnKeepsTheWidthThatItWasGiven) {
@@ -475,15 +534,22 @@ TEST_F(HoroscopeWindowTest, AColumnKeepsTheWidthThatItWasGiven) {
   EXPECT_NE(Find<TableView>("CuspTable").columnWidth(3), 177);
 }
 
-TEST_F(HoroscopeWindowTest, TheDivisionsCloseOnEscape) {
+TEST_F(HoroscopeWindowTest, TheDivisionsStandBesideTheWindowAndCloseOnEscape) {
   Open();
-  bool seen = false;
-  WhenOpen("divisionalCharts", [&seen](QDialog& dialog) {
-    seen = dialog.findChild<ChartView*>("dashamsha") != nullptr;
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-  });
   QTest::keyClick(window_, Qt::Key_D, Qt::ControlModifier);
-  EXPECT_TRUE(seen);
+  auto& dialog = Find<QDialog>("divisionalCharts");
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_FALSE(dialog.isModal());
+  const auto ascendant = [&] {
+    return dialog.findChild<ChartView*>("dashamsha")->Picture().Fields[0].Sign;
+  };
+  const std::string before = ascendant();
+  MenuEntry("rotationMenu", "&4  mother").trigger();
+  EXPECT_EQ(ascendant(), before) << "the divisions are those of the birth";
+  QTest::keyClick(window_, Qt::Key_T, Qt::ControlModifier);
+  EXPECT_EQ(dialog.findChild<ChartView*>("dashamsha")->Picture().Style, 'E');
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  EXPECT_FALSE(dialog.isVisible());
 }
 
 TEST_F(HoroscopeWindowTest, AQueryHidesTheRectificationAndShowsItsQuestion) {

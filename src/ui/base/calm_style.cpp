@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTableView>
 
 #include "ui/base/theme.h"
 
@@ -55,9 +56,12 @@ void DrawRowGround(QPainter& painter, const QStyleOptionViewItem& option) {
   } else if (option.backgroundBrush.style() != Qt::NoBrush) {
     painter.fillRect(option.rect, option.backgroundBrush);
   }
-  const bool first = option.viewItemPosition == QStyleOptionViewItem::Beginning ||
-                     option.viewItemPosition == QStyleOptionViewItem::OnlyOne ||
-                     option.viewItemPosition == QStyleOptionViewItem::Invalid;
+  // Tables do not say where in its row a cell stands.
+  const auto* table = qobject_cast<const QTableView*>(option.widget);
+  const bool first = table != nullptr
+                         ? table->horizontalHeader()->visualIndex(option.index.column()) == 0
+                         : option.viewItemPosition != QStyleOptionViewItem::Middle &&
+                               option.viewItemPosition != QStyleOptionViewItem::End;
   if (chosen && first) {
     QRect bar = option.rect;
     bar.setWidth(line::kChosen);

@@ -76,7 +76,7 @@ std::vector<CellDelegate::Placed> CellDelegate::LayOut(const QStyleOptionViewIte
   const bool underlined = IsUnderlined(index.column());
   for (CellPiece& piece : PiecesOf(option.text)) {
     if (piece.Code.isEmpty()) {
-      add(piece.Word, option.font, false, kind != CellKind::Chip);
+      add(piece.Word, option.font, false, piece.Word == "None");
       left += kGap;
       continue;
     }

@@ -106,9 +106,10 @@ void ChartView::PaintRings(QPainter& painter) const {
 
 void ChartView::mouseReleaseEvent(QMouseEvent* event) {
   const QString code = CodeOfWord(CodeAt(event->position()));
-  if (event->button() == Qt::LeftButton && !code.isEmpty()) {
+  if (event->button() == Qt::LeftButton && !code.isEmpty() && !secondClick_) {
     emit CodeClicked(code);
   }
+  secondClick_ = false;
 }
 
 // Paper is light, whatever the windows are.
@@ -130,6 +131,7 @@ void ChartView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
+  secondClick_ = true;
   const QString code = CodeAt(event->position());
   if (!code.isEmpty()) {
     emit CodeActivated(code);

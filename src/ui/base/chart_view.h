@@ -50,6 +50,7 @@ class ChartView final : public QWidget {
   int smallestSide_;
   report::ChartPicture picture_;
   QString chosen_;
+  bool secondClick_ = false;  // the release that follows ends a double click
 };
 
 }  // namespace orvex::ui

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
+#include "ui/base/cell_text.h"
 #include "ui/base/room_plan.h"
 
 namespace orvex::ui {
@@ -134,6 +135,26 @@ void TablePlan::ShareHeight() {
   }
 }
 
+// The chip at a point; beside the chips, the planet that the row is about.
+void TablePlan::Click(const QPoint& at) {
+  const QModelIndex index = view_.indexAt(at);
+  if (!index.isValid()) {
+    return;
+  }
+  QStyleOptionViewItem option;
+  option.rect = view_.visualRect(index);
+  option.font = view_.font();
+  QString code = cells_->CodeAt(option, index, at);
+  const ColumnPlan& first = columns_.front();
+  const int name = first.Kind == CellKind::Chip ? ColumnOf(first.Caption) : -1;
+  if (code.isEmpty() && name >= 0) {
+    code = CodeOfWord(index.siblingAtColumn(name).data().toString());
+  }
+  if (!code.isEmpty()) {
+    emit CodeClicked(code);
+  }
+}
+
 bool TablePlan::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && watched == view_.viewport()) {
     ShareWidth();
@@ -142,18 +163,14 @@ bool TablePlan::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
     view_.horizontalHeader()->viewport()->update();
   }
-  if (event->type() == QEvent::MouseButtonRelease && watched == view_.viewport()) {
-    const QPoint at = static_cast<QMouseEvent*>(event)->position().toPoint();
-    const QModelIndex index = view_.indexAt(at);
-    if (index.isValid()) {
-      QStyleOptionViewItem option;
-      option.rect = view_.visualRect(index);
-      option.font = view_.font();
-      const QString code = cells_->CodeAt(option, index, at);
-      if (!code.isEmpty()) {
-        emit CodeClicked(code);
-      }
+  if (watched == view_.viewport() && event->type() == QEvent::MouseButtonDblClick) {
+    secondClick_ = true;
+  }
+  if (watched == view_.viewport() && event->type() == QEvent::MouseButtonRelease) {
+    if (!secondClick_) {
+      Click(static_cast<QMouseEvent*>(event)->position().toPoint());
     }
+    secondClick_ = false;
   }
   return QObject::eventFilter(watched, event);
 }

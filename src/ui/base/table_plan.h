@@ -38,7 +38,7 @@ class TablePlan final : public QObject {
  signals:
   // The whole table is shown, or the plan again.
   void AllShown(bool all);
-  // A chip was clicked.
+  // A chip was clicked, or a row that is about a planet.
   void CodeClicked(const QString& code);
 
  protected:
@@ -51,12 +51,14 @@ class TablePlan final : public QObject {
   void PlaceColumns();
   void ShareWidth();
   void ShareHeight();
+  void Click(const QPoint& at);
 
   TableView& view_;
   std::vector<ColumnPlan> columns_;
   RowBounds rows_;
   CellDelegate* cells_;
   bool all_ = false;
+  bool secondClick_ = false;  // the release that follows ends a double click
 };
 
 }  // namespace orvex::ui

@@ -1,6 +1,8 @@
 #include "ui/horoscope/catalogue_table.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <stdexcept>
@@ -33,7 +35,11 @@ std::optional<std::size_t> PlanetOfText(const chart::HoroscopeModel& model, cons
 }
 
 CatalogueTable::CatalogueTable(HoroscopeDocument& document, const char* name)
-    : document_(document), entry_(EntryOf(name)), view_(new TableView) {
+    : document_(document),
+      entry_(EntryOf(name)),
+      title_(MakeHeading(entry_.Title)),
+      titleLine_(new QHBoxLayout),
+      view_(new TableView) {
   view_->setObjectName(name);
   view_->setAccessibleName(entry_.Title);
   OfferExport(document_.Place(), *view_);
@@ -41,9 +47,27 @@ CatalogueTable::CatalogueTable(HoroscopeDocument& document, const char* name)
   connect(view_, &TableView::TagActivated, this, [this] { Activate(view_->currentIndex()); });
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(kGrid / 2);
-  layout->addWidget(MakeHeading(entry_.Title));
+  layout->setSpacing(0);
+  titleLine_->setContentsMargins(0, 0, 0, 0);
+  titleLine_->addWidget(title_, 0, Qt::AlignVCenter);
+  titleLine_->addStretch(1);
+  title_->setMinimumHeight(height::kSmallField);
+  layout->addLayout(titleLine_);
   layout->addWidget(view_, 1);
+}
+
+TablePlan& CatalogueTable::SetPlan(std::vector<ColumnPlan> columns, RowBounds rows) {
+  plan_ = new TablePlan(*view_, std::move(columns), rows);
+  connect(plan_, &TablePlan::CodeClicked, &document_, &HoroscopeDocument::ChoosePlanet);
+  connect(&document_, &HoroscopeDocument::PlanetChosen, plan_, &TablePlan::SetChosen);
+  plan_->SetChosen(document_.ChosenPlanet());
+  return *plan_;
+}
+
+int CatalogueTable::HeightOfHead() const {
+  const int head =
+      view_->horizontalHeader()->isHidden() ? 0 : view_->horizontalHeader()->sizeHint().height();
+  return titleLine_->sizeHint().height() + head;
 }
 
 void CatalogueTable::Activate(const QModelIndex& index) {
@@ -62,6 +86,10 @@ void CatalogueTable::ShowTable(const core::Table& table) {
   QHeaderView& header = *view_->horizontalHeader();
   header.setStretchLastSection(false);
   view_->SetTable(table);
+  if (plan_ != nullptr) {
+    plan_->Fit();
+    return;
+  }
   header.setStretchLastSection(!table.Columns.empty() && !table.Columns.back().Centred);
   if (growsRows_) {
     view_->resizeRowsToContents();

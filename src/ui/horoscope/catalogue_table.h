@@ -3,10 +3,13 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
+class QLabel;
+
 #include "horoscope/catalogue.h"
 #include "ui/base/export_table.h"
 #include "ui/base/labels.h"
-#include "ui/base/table_view.h"
+#include "ui/base/table_plan.h"
 #include "ui/horoscope/horoscope_document.h"
 
 namespace orvex::ui {
@@ -26,6 +29,17 @@ class CatalogueTable final : public QWidget {
 
   TableView& View() { return *view_; }
 
+  // Shows first what the plan names. Its chips choose the planet of the document and wear its ring.
+  TablePlan& SetPlan(std::vector<ColumnPlan> columns, RowBounds rows = {});
+  TablePlan* Plan() { return plan_; }
+
+  // The line with the title, for what stands at its right.
+  QHBoxLayout& TitleLine() { return *titleLine_; }
+  QLabel& Title() { return *title_; }
+
+  // The height in pixels of what stands above the rows.
+  int HeightOfHead() const;
+
   // Rows as high as their texts, for cells of several lines.
   void GrowRows() { growsRows_ = true; }
 
@@ -42,7 +56,10 @@ class CatalogueTable final : public QWidget {
 
   HoroscopeDocument& document_;
   const horoscope::TableEntry& entry_;
+  QLabel* title_;
+  QHBoxLayout* titleLine_;
   TableView* view_;
+  TablePlan* plan_ = nullptr;
   bool growsRows_ = false;
 };
 

@@ -1,14 +1,18 @@
-// The first page: the two charts beside the tables of planets, cusps and ruling planets.
+// The first page: both charts, all planets and all cusps without a bar, and beside them the ruling
+// planets and the birth. In a small window one chart and one table, with switches.
 #pragma once
 
 #include "ui/base/chart_view.h"
 #include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/horoscope_page.h"
 
-class QRadioButton;
-class QSplitter;
+class QHBoxLayout;
+class QPushButton;
 
 namespace orvex::ui {
+
+class BirthPanel;
+class Segments;
 
 class ChartPage final : public HoroscopePage {
   Q_OBJECT
@@ -21,20 +25,40 @@ class ChartPage final : public HoroscopePage {
   // The ruling planets of the birth, as reports have them.
   void ShowRulingPlanetsOfBirth();
 
+  // Whether the captions of the birth are in sight.
+  bool ShowsBirth() const;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
-  QSplitter* LayOutCharts();
-  QSplitter* LayOutTables();
-  QWidget* LayOutRulingPlanets();
+  QWidget* LayOutCharts();
+  QWidget* LayOutTables();
+  QWidget* LayOutSide();
+  void PlanTables();
   void Connect();
+  void Arrange();
+  void ArrangeCharts(int side, bool one);
+  void ArrangeTables(bool one);
   void ShowRulingPlanets();
+  void ShowAllColumns(bool all);
 
   ChartView* rashi_;
   ChartView* chalit_;
   CatalogueTable* planets_;
   CatalogueTable* cusps_;
   CatalogueTable* ruling_;
-  QRadioButton* ofBirth_;
-  QRadioButton* ofNow_;
+  BirthPanel* birth_;
+  Segments* style_;
+  Segments* whichChart_;
+  Segments* whichTable_;
+  Segments* whose_;
+  QPushButton* allColumns_;
+  QLabel* rashiTitle_;
+  QLabel* chalitTitle_;
+  QWidget* charts_ = nullptr;
+  QWidget* side_ = nullptr;
+  QWidget* rulingHome_ = nullptr;
 };
 
 }  // namespace orvex::ui

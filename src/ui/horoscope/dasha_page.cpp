@@ -1,16 +1,27 @@
 #include "ui/horoscope/dasha_page.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
 #include <QScopedValueRollback>
-#include <QSplitter>
-#include <QVBoxLayout>
+#include <QToolTip>
 
+#include "ui/base/keys.h"
+#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
-#include "ui/horoscope/tables_page.h"
+#include "ui/base/theme.h"
+#include "ui/horoscope/life_strip.h"
+#include "ui/horoscope/period_columns.h"
 
 namespace orvex::ui {
 
 namespace {
+
+constexpr int kListRows = 10;   // with the head
+constexpr int kCountRows = 12;  // with head and title
+constexpr int kDateWidth = 130;
 
 // The row that the list marks becomes the current one, so that the arrow keys go on from there.
 void StandOnMarkedRow(TableView& view) {
@@ -26,44 +37,119 @@ void StandOnMarkedRow(TableView& view) {
 
 DashaPage::DashaPage(HoroscopeDocument& document)
     : HoroscopePage(document),
+      strip_(new LifeStrip(document)),
       lists_{new CatalogueTable(document, "DashaList"), new CatalogueTable(document, "BhuktiList"),
              new CatalogueTable(document, "AntaraList"),
              new CatalogueTable(document, "SookshmaList")},
       periods_(new CatalogueTable(document, "DBAPeriods")),
-      houses_(new CatalogueTable(document, "DBAHouseCount")) {
-  auto* halves = new QSplitter(Qt::Vertical);
-  halves->setObjectName("dashaHalves");
-  halves->addWidget(LayOutLists());
-  halves->addWidget(LayOutSummaries());
+      houses_(new CatalogueTable(document, "DBAHouseCount")),
+      date_(Named(new QLineEdit, "goToDate")) {
+  PlanTables();
+  AddTools();
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(halves, 1);
-  document.Place().Layout.Remember(*halves);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
+  layout->setSpacing(space::kXs);
+  layout->addWidget(strip_);
+  layout->addLayout(LayOutLists(), kListRows);
+  layout->addLayout(LayOutSummaries(), kCountRows);
+  setMinimumSize(1, 1);
   for (std::size_t level = 0; level < lists_.size(); ++level) {
     Connect(level);
   }
+  connect(strip_, &LifeStrip::PeriodChosen, this, &DashaPage::OpenLater);
 }
 
-QSplitter* DashaPage::LayOutLists() {
-  auto* lists = new QSplitter(Qt::Horizontal);
-  lists->setObjectName("dashaLists");
-  for (CatalogueTable* list : lists_) {
-    list->KeepOrder();
-    list->View().setSelectionMode(QAbstractItemView::SingleSelection);
-    lists->addWidget(list);
+void DashaPage::PlanTables() {
+  const RowBounds tight{height::kGridRow, height::kMostRow, true};
+  for (std::size_t level = 0; level < lists_.size(); ++level) {
+    CatalogueTable& list = *lists_.at(level);
+    list.KeepOrder();
+    list.View().setSelectionMode(QAbstractItemView::SingleSelection);
+    TablePlan& plan = list.SetPlan({{"Planet", CellKind::Chip, 116, 0},
+                                    {"End Date", CellKind::Age, 84, 0},
+                                    {kAgeColumn, CellKind::Age, 60, 1},
+                                    {kStartColumn, CellKind::Age, 84, 2}},
+                                   tight);
+    plan.Cells().SetMarks([this, &list](const QModelIndex& index) {
+      const core::Row& row = list.View().Table().Rows.at(list.View().Model().TableRow(index.row()));
+      const core::DateTime today = Document().Place().Session.Time.Today();
+      return StateOf(row, today) == PeriodState::Runs ? QStringList{tr("now")} : QStringList();
+    });
   }
-  Document().Place().Layout.Remember(*lists);
+  periods_->KeepOrder();
+  periods_->SetPlan({{"Description", CellKind::Text, 96, 0},
+                     {"Dasha", CellKind::Lord, 110, 0},
+                     {"Bhukti", CellKind::Lord, 110, 0},
+                     {"Antara", CellKind::Lord, 110, 0},
+                     {"Sookshma", CellKind::Lord, 110, 0}},
+                    tight);
+  houses_->KeepOrder();
+  std::vector<ColumnPlan> counts = {{"House", CellKind::Text, 130, 0}};
+  for (int house = 1; house <= static_cast<int>(chart::kHouses); ++house) {
+    counts.push_back({Typed(WholeText(house)), CellKind::Heat, 26, 0});
+  }
+  houses_->SetPlan(std::move(counts), tight);
+}
+
+void DashaPage::AddTools() {
+  date_->setPlaceholderText(tr("Go to a date"));
+  date_->setAccessibleName(date_->placeholderText());
+  date_->setToolTip(tr("A date such as 5.9.2031, 2031-09-05 or 5 Sep 2031"));
+  date_->setFixedWidth(kDateWidth * Theme::TextSize() / 100);
+  connect(date_, &QLineEdit::returnPressed, this, &DashaPage::GoToTyped);
+  QPushButton* running = MakeButton("runningPeriods", tr("Running periods"));
+  running->setFixedHeight(height::kSmallField);
+  running->setShortcut(KeysOf("Horoscope", "running"));
+  running->setToolTip(WithKeys(running->text(), running->shortcut()));
+  connect(running, &QPushButton::clicked, this,
+          [this] { GoTo(Document().Place().Session.Time.Today()); });
+  periods_->TitleLine().addWidget(date_);
+  periods_->TitleLine().addWidget(running);
+}
+
+QHBoxLayout* DashaPage::LayOutLists() {
+  auto* lists = new QHBoxLayout;
+  lists->setSpacing(space::kM);
+  for (CatalogueTable* list : lists_) {
+    lists->addWidget(list, 1);
+  }
   return lists;
 }
 
-QSplitter* DashaPage::LayOutSummaries() {
-  auto* summaries = new QSplitter(Qt::Horizontal);
-  summaries->setObjectName("dashaSummaries");
-  for (CatalogueTable* table : {periods_, houses_}) {
-    table->KeepOrder();
-    summaries->addWidget(table);
-  }
-  Document().Place().Layout.Remember(*summaries);
+QHBoxLayout* DashaPage::LayOutSummaries() {
+  auto* summaries = new QHBoxLayout;
+  summaries->setSpacing(space::kXl);
+  summaries->addWidget(periods_, 6);
+  summaries->addWidget(houses_, 5);
   return summaries;
+}
+
+void DashaPage::GoToTyped() {
+  constexpr std::array<const char*, 6> kForms = {"yyyy-MM-dd", "d.M.yyyy",   "d/M/yyyy",
+                                                 "d-M-yyyy",   "d MMM yyyy", "d MMMM yyyy"};
+  for (const char* form : kForms) {
+    const QDate day = QLocale::c().toDate(date_->text().simplified(), form);
+    if (day.isValid()) {
+      GoTo(core::DateOnly(FromField(QDateTime(day, QTime(), Qt::UTC))));
+      return;
+    }
+  }
+  date_->selectAll();
+  QToolTip::showText(date_->mapToGlobal(QPoint(0, date_->height())), date_->toolTip(), date_);
+}
+
+// Chooses what runs on a day, level by level; a day outside the lists chooses nothing.
+void DashaPage::GoTo(core::DateTime day) {
+  for (std::size_t level = 0; level < lists_.size(); ++level) {
+    const chart::DashaTree& tree = Model().Periods;
+    const std::array<const core::Table*, 4> lists = {&tree.DashaList, &tree.BhuktiList,
+                                                     &tree.AntaraList, &tree.SookshmaList};
+    const std::optional<std::size_t> row = RowRunningOn(*lists.at(level), day);
+    if (!row) {
+      return;
+    }
+    Document().SelectPeriod(static_cast<chart::DashaLevel>(level), *row);
+  }
 }
 
 void DashaPage::Connect(std::size_t level) {
@@ -84,11 +170,21 @@ void DashaPage::OpenLater(std::size_t level, std::size_t row) {
       Qt::QueuedConnection);
 }
 
+// A list with its ages under the path that leads to it.
+void DashaPage::ShowList(std::size_t level) {
+  const chart::DashaTree& tree = Model().Periods;
+  const std::array<const core::Table*, 4> lists = {&tree.DashaList, &tree.BhuktiList,
+                                                   &tree.AntaraList, &tree.SookshmaList};
+  const core::DateTime today = Document().Place().Session.Time.Today();
+  lists_.at(level)->ShowTable(WithAges(*lists.at(level), Model().Birth, today));
+  StandOnMarkedRow(lists_.at(level)->View());
+}
+
 void DashaPage::ShowModel() {
   const QScopedValueRollback<bool> showing(showing_, true);
-  for (CatalogueTable* list : lists_) {
-    list->ShowModel();
-    StandOnMarkedRow(list->View());
+  strip_->ShowModel();
+  for (std::size_t level = 0; level < lists_.size(); ++level) {
+    ShowList(level);
   }
   periods_->ShowModel();
   houses_->ShowModel();

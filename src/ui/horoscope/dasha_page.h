@@ -1,4 +1,5 @@
-// The four lists of periods, each opened from the one above it, and their summaries.
+// The strip of the life, the four lists of periods, each opened from the one above it, and their
+// summaries: the selected periods and how often they name each house.
 #pragma once
 
 #include <array>
@@ -6,9 +7,12 @@
 #include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/horoscope_page.h"
 
-class QSplitter;
+class QLineEdit;
+class QHBoxLayout;
 
 namespace orvex::ui {
+
+class LifeStrip;
 
 class DashaPage final : public HoroscopePage {
   Q_OBJECT
@@ -19,14 +23,21 @@ class DashaPage final : public HoroscopePage {
   void ShowModel() override;
 
  private:
-  QSplitter* LayOutLists();
-  QSplitter* LayOutSummaries();
+  QHBoxLayout* LayOutLists();
+  QHBoxLayout* LayOutSummaries();
+  void PlanTables();
+  void AddTools();
+  void ShowList(std::size_t level);
+  void GoTo(core::DateTime day);
+  void GoToTyped();
   void Connect(std::size_t level);
   void OpenLater(std::size_t level, std::size_t row);
 
+  LifeStrip* strip_;
   std::array<CatalogueTable*, 4> lists_;
   CatalogueTable* periods_;
   CatalogueTable* houses_;
+  QLineEdit* date_;
   bool showing_ = false;  // the model is being shown: a row that becomes current was not picked
 };
 

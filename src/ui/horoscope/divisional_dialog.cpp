@@ -13,31 +13,34 @@ namespace orvex::ui {
 
 namespace {
 
-ChartView* MakeChart(const char* name, const chart::BirthTables& birth, char style,
-                     vedic::Division division, const char* title) {
-  auto* chart = new ChartView(name);
-  chart->SetPicture(report::DivisionPicture(vedic::BuildDivision(birth, division), style, title));
-  return chart;
+void ShowDivision(ChartView& chart, const chart::BirthTables& birth, char style,
+                  vedic::Division division, const char* title) {
+  chart.SetPicture(report::DivisionPicture(vedic::BuildDivision(birth, division), style, title));
 }
 
 }  // namespace
 
 DivisionalDialog::DivisionalDialog(const horoscope::OpenedHoroscope& opened, char style,
                                    QWidget* parent)
-    : QDialog(parent) {
+    : QDialog(parent),
+      navamsha_(new ChartView("navamsha")),
+      dashamsha_(new ChartView("dashamsha")) {
   setObjectName("divisionalCharts");
-  setWindowTitle(tr("Divisional charts of %1").arg(Shown(opened.Model.Name)));
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   grid->setHorizontalSpacing(kMargin);
   grid->addWidget(MakeHeading("Navamsha (D9):"), 0, 0);
   grid->addWidget(MakeHeading("Dashamsha (D10):"), 0, 1);
-  grid->addWidget(
-      MakeChart("navamsha", opened.Birth, style, vedic::Division::Navamsha, "Navamsha (D9)"), 1, 0);
-  grid->addWidget(
-      MakeChart("dashamsha", opened.Birth, style, vedic::Division::Dashamsha, "Dashamsha (D10)"), 1,
-      1);
+  grid->addWidget(navamsha_, 1, 0);
+  grid->addWidget(dashamsha_, 1, 1);
   grid->setRowStretch(1, 1);
+  ShowModel(opened, style);
+}
+
+void DivisionalDialog::ShowModel(const horoscope::OpenedHoroscope& opened, char style) {
+  setWindowTitle(tr("Divisional charts of %1").arg(Shown(opened.Model.Name)));
+  ShowDivision(*navamsha_, opened.Birth, style, vedic::Division::Navamsha, "Navamsha (D9)");
+  ShowDivision(*dashamsha_, opened.Birth, style, vedic::Division::Dashamsha, "Dashamsha (D10)");
 }
 
 }  // namespace orvex::ui

@@ -7,6 +7,8 @@
 
 namespace orvex::ui {
 
+class ChartView;
+
 class DivisionalDialog final : public QDialog {
   Q_OBJECT
 
@@ -14,6 +16,13 @@ class DivisionalDialog final : public QDialog {
   // Of the birth, whatever house is rotated to first. In the style 'N', 'E' or 'S'. The Escape key
   // closes it.
   DivisionalDialog(const horoscope::OpenedHoroscope& opened, char style, QWidget* parent);
+
+  // Shows the charts anew, in another style.
+  void ShowModel(const horoscope::OpenedHoroscope& opened, char style);
+
+ private:
+  ChartView* navamsha_;
+  ChartView* dashamsha_;
 };
 
 }  // namespace orvex::ui

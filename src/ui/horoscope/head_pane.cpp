@@ -1,107 +1,165 @@
 #include "ui/horoscope/head_pane.h"
 
-#include <QGridLayout>
-#include <array>
+#include <QAction>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPainter>
+#include <QToolButton>
 
+#include "ui/base/elided_label.h"
+#include "ui/base/keys.h"
+#include "ui/base/labels.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
-#include "ui/horoscope/field_label.h"
-#include "ui/horoscope/tables_page.h"
+#include "ui/horoscope/periods_label.h"
 
 namespace orvex::ui {
 
 namespace {
 
-using C = chart::HoroscopeCaptions;
+constexpr const char* kBetween = " · ";
+constexpr int kIcon = 16;
 
-// A name and the captions that stand behind it; the second only where one follows on the first.
-struct HeadField {
-  const char* Name;
-  std::string C::*Value;
-  const char* Label;
-  std::string C::*Between = nullptr;
-};
-
-constexpr int kRowsOfHead = 4;
-
-// Column by column.
-// clang-format off
-constexpr std::array<HeadField, 16> kFields = {{
-    {"Date",          &C::Date,          QT_TRANSLATE_NOOP("HeadPane", "Born")},
-    {"City",          &C::City,          QT_TRANSLATE_NOOP("HeadPane", "Place"), &C::Offset},
-    {"Latitude",      &C::Latitude,      QT_TRANSLATE_NOOP("HeadPane", "Lat./Long."), &C::Longitude},
-    {"Sunrise",       &C::Sunrise,       QT_TRANSLATE_NOOP("HeadPane", "Sun"), &C::Sunset},
-    {"Nakshatra",     &C::Nakshatra,     QT_TRANSLATE_NOOP("HeadPane", "Star")},
-    {"Tithi",         &C::Tithi,         QT_TRANSLATE_NOOP("HeadPane", "Tithi")},
-    {"YogaKaran",     &C::YogaKaran,     QT_TRANSLATE_NOOP("HeadPane", "Yoga - Karan")},
-    {"AscendantSign", &C::AscendantSign, QT_TRANSLATE_NOOP("HeadPane", "Ascendant")},
-    {"VarnaGana",     &C::VarnaGana,     QT_TRANSLATE_NOOP("HeadPane", "Varna - Gana")},
-    {"NadiYoni",      &C::NadiYoni,      QT_TRANSLATE_NOOP("HeadPane", "Nadi - Yoni")},
-    {"VasyaRajju",    &C::VasyaRajju,    QT_TRANSLATE_NOOP("HeadPane", "Vasya - Rajju")},
-    {"BadhakHouse",   &C::BadhakHouse,   QT_TRANSLATE_NOOP("HeadPane", "Badhak house")},
-    {"PartOfFortune", &C::PartOfFortune, QT_TRANSLATE_NOOP("HeadPane", "Fortune")},
-    {"BhriguBindu",   &C::BhriguBindu,   QT_TRANSLATE_NOOP("HeadPane", "Bhrigu Bindu")},
-    {"Numerology",    &C::Numerology,    QT_TRANSLATE_NOOP("HeadPane", "Numbers")},
-    {"DashaBalance",  &C::DashaBalance,  QT_TRANSLATE_NOOP("HeadPane", "Balance")},
-}};
-// clang-format on
-
-// Between two captions of one field.
-QString SeparatorOf(const HeadField& field) {
-  return field.Between == &C::Offset ? QString() : QStringLiteral(" / ");
+void SetInk(QWidget& widget, const QColor& color) {
+  QPalette palette = widget.palette();
+  if (palette.color(QPalette::WindowText) != color) {
+    palette.setColor(QPalette::WindowText, color);
+    widget.setPalette(palette);
+  }
 }
 
-QString ValueOf(const C& captions, const HeadField& field) {
-  QString value = Shown(captions.*field.Value);
-  if (field.Between != nullptr) {
-    value += SeparatorOf(field) + Shown(captions.*field.Between);
-  }
-  return value;
+QString Joined(const QStringList& texts) {
+  QStringList filled = texts;
+  filled.removeAll(QString());
+  return filled.join(kBetween);
 }
 
 }  // namespace
 
-HeadPane::HeadPane(HoroscopeDocument& document) : document_(document) {
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(kGrid, kGrid / 2, kGrid, kGrid / 2);
-  grid->setVerticalSpacing(2);
-  grid->setHorizontalSpacing(kGrid);
-  AddCaptions(*grid);
-  AddLine(*grid, kRowsOfHead);
+HeadPane::HeadPane(HoroscopeDocument& document)
+    : document_(document),
+      name_(new ElidedLabel("headName")),
+      birth_(new ElidedLabel("headBirth")),
+      rotated_(new QLabel),
+      reset_(new QToolButton),
+      facts_(new ElidedLabel("headFacts")),
+      periods_(new PeriodsLabel(document)),
+      question_(new ElidedLabel("HoraryQuestion")) {
+  setObjectName("head");
+  auto* lines = new QVBoxLayout(this);
+  lines->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
+  lines->setSpacing(2);
+  lines->addLayout(first_ = MakeFirstLine());
+  lines->addLayout(MakeSecondLine());
+  lines->addWidget(question_);
+  setMinimumHeight(height::kWindowHead);
 }
 
-void HeadPane::AddCaptions(QGridLayout& grid) {
-  for (std::size_t i = 0; i < kFields.size(); ++i) {
-    const HeadField& field = kFields.at(i);
-    const int row = static_cast<int>(i) % kRowsOfHead;
-    const int column = static_cast<int>(i) / kRowsOfHead * 3;
-    values_.push_back(MakeCaptionLabel(field.Name));
-    grid.addWidget(new FieldLabel(tr(field.Label)), row, column);
-    grid.addWidget(values_.back(), row, column + 1);
-    grid.setColumnMinimumWidth(column + 2, kGrid);
-    grid.setColumnStretch(column + 2, 1);
+QHBoxLayout* HeadPane::MakeFirstLine() {
+  auto* line = new QHBoxLayout;
+  line->setSpacing(space::kXs);
+  name_->setFont(Theme::Serif(type::kName));
+  line->addWidget(name_);
+  line->addSpacing(space::kS);
+  line->addWidget(birth_);
+  line->addStretch(1);
+  return line;
+}
+
+QHBoxLayout* HeadPane::MakeSecondLine() {
+  auto* line = new QHBoxLayout;
+  line->setSpacing(space::kS);
+  rotated_->setObjectName("rotatedTo");
+  rotated_->setFont(Theme::Text(type::kSmall, QFont::DemiBold));
+  rotated_->setFrameShape(QFrame::Box);
+  rotated_->setContentsMargins(space::kXs, 0, space::kXs, 0);
+  reset_->setObjectName("backToFirstHouse");
+  reset_->setText(tr("Reset to First House"));
+  reset_->setToolTip(WithKeys(reset_->text(), KeysOf("Horoscope", "resetRotation")));
+  reset_->setAutoRaise(true);
+  connect(reset_, &QToolButton::clicked, this, &HeadPane::ResetWanted);
+  for (QWidget* small : {static_cast<QWidget*>(facts_), static_cast<QWidget*>(periods_),
+                         static_cast<QWidget*>(question_), static_cast<QWidget*>(reset_)}) {
+    small->setFont(Theme::Text(type::kSmall));
+  }
+  line->addWidget(rotated_);
+  line->addWidget(reset_);
+  line->addWidget(facts_, 1);
+  line->addWidget(periods_);
+  return line;
+}
+
+QToolButton* HeadPane::AddButton(QAction* action) {
+  auto* button = new QToolButton;
+  button->setObjectName(action->objectName() + "Button");
+  button->setDefaultAction(action);
+  button->setAutoRaise(true);
+  button->setIconSize({kIcon, kIcon});
+  button->setMinimumHeight(height::kSmallField);
+  button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  button->setAccessibleName(QString(action->text()).remove('&'));
+  button->setFocusPolicy(Qt::TabFocus);
+  if (action->menu() != nullptr) {
+    button->setPopupMode(QToolButton::InstantPopup);
+    connect(action, &QAction::triggered, button, &QToolButton::showMenu);
+  }
+  first_->addWidget(button);
+  buttons_.push_back(button);
+  return button;
+}
+
+void HeadPane::AddBefore(QWidget* widget) { first_->insertWidget(0, widget); }
+
+void HeadPane::SetNarrow(bool narrow) {
+  for (QToolButton* button : buttons_) {
+    const bool plain = narrow || button->defaultAction()->text().isEmpty();
+    button->setToolButtonStyle(plain ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
   }
 }
 
-void HeadPane::AddLine(QGridLayout& grid, int row) {
-  periods_ = MakeCaptionLabel("CurrentDBA");
-  QFont font = periods_->font();
-  font.setWeight(QFont::DemiBold);
-  periods_->setFont(font);
-  question_ = MakeCaptionLabel("HoraryQuestion");
-  question_->setWordWrap(true);
-  grid.addWidget(periods_, row, 0, 1, -1);
-  grid.addWidget(question_, row + 1, 0, 1, -1);
-}
+bool HeadPane::IsRotated() const { return document_.Model().RotatedTo != 1; }
 
 void HeadPane::ShowModel() {
   const chart::HoroscopeModel& model = document_.Model();
-  for (std::size_t i = 0; i < kFields.size(); ++i) {
-    values_.at(i)->setText(ValueOf(model.Captions, kFields.at(i)));
-  }
-  periods_->setText(Shown(model.Captions.CurrentDBA));
+  const chart::HoroscopeCaptions& captions = model.Captions;
+  name_->setText(Shown(model.Name));
+  birth_->setText(Joined({Shown(captions.Date), Shown(captions.City) + Shown(captions.Offset)}));
+  rotated_->setText(tr("Rotated to %1").arg(model.RotatedTo));
+  rotated_->setVisible(IsRotated());
+  reset_->setVisible(IsRotated());
+  facts_->setText(
+      Joined({tr("Ascendant %1").arg(Shown(captions.AscendantSign)), Shown(captions.Nakshatra),
+              Shown(captions.Tithi), Shown(captions.YogaKaran)}));
+  periods_->setText(Shown(captions.CurrentDBA));
   question_->setText(Shown(model.HoraryQuestion));
   question_->setVisible(model.Horary && !model.HoraryQuestion.empty());
+  const Tokens& t = Theme::Now();
+  SetInk(*facts_, t.Ink2);
+  SetInk(*rotated_, t.Amber);
+  QPalette link = reset_->palette();
+  if (link.color(QPalette::ButtonText) != t.Accent) {
+    link.setColor(QPalette::ButtonText, t.Accent);
+    reset_->setPalette(link);
+  }
+  update();
+}
+
+void HeadPane::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::ApplicationPaletteChange) {
+    ShowModel();
+  }
+}
+
+void HeadPane::paintEvent(QPaintEvent* /*event*/) {
+  const Tokens& t = Theme::Now();
+  QPainter painter(this);
+  painter.fillRect(rect(), IsRotated() ? t.AmberGround : t.Ground);
+  if (IsRotated()) {
+    painter.fillRect(QRect(0, 0, line::kWarning, height()), t.Amber);
+  }
+  painter.fillRect(QRect(0, height() - line::kHair, width(), line::kHair), t.Rule2);
 }
 
 }  // namespace orvex::ui

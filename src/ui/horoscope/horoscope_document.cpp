@@ -7,6 +7,7 @@
 #include "chart/transit_now.h"
 #include "panchang/sky_view.h"
 #include "practice/remedies.h"
+#include "ui/base/qt_text.h"
 #include "ui/painting/picture_files.h"
 
 namespace orvex::ui {
@@ -18,7 +19,17 @@ constexpr int kPictureSide = 720;
 }  // namespace
 
 HoroscopeDocument::HoroscopeDocument(Workplace& place, horoscope::OpenedHoroscope opened)
-    : place_(place), opened_(std::move(opened)), style_(place.Session.State.DefaultChartType) {}
+    : place_(place), opened_(std::move(opened)), style_(place.Session.State.DefaultChartType) {
+  const core::Table& antaras = Model().Periods.AntaraList;
+  if (const auto row = chart::SelectedRow(antaras)) {
+    runningEnd_ = Shown(antaras.At(*row, chart::PeriodColumn::EndDate).Text);
+  }
+}
+
+void HoroscopeDocument::ChoosePlanet(const QString& code) {
+  chosen_ = chosen_ == code ? QString() : code;
+  emit PlanetChosen(chosen_);
+}
 
 void HoroscopeDocument::SetStyle(char style) {
   style_ = style;

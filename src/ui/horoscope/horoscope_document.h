@@ -38,6 +38,14 @@ class HoroscopeDocument final : public QObject {
 
   void SelectPeriod(chart::DashaLevel level, std::size_t row);
 
+  // The end of the Antara that ran when the horoscope was opened; "" where none did.
+  const QString& RunningEnd() const { return runningEnd_; }
+
+  // The planet that is marked in every chart and table, by its code; "" for none. A second choice
+  // of the same planet takes the mark off.
+  const QString& ChosenPlanet() const { return chosen_; }
+  void ChoosePlanet(const QString& code);
+
   AspectFilter Filter() const { return filter_; }
   void FilterAspects(AspectFilter filter);
 
@@ -55,6 +63,7 @@ class HoroscopeDocument final : public QObject {
 
  signals:
   void Changed();
+  void PlanetChosen(const QString& code);
 
  private:
   void ApplyFilter();
@@ -62,6 +71,8 @@ class HoroscopeDocument final : public QObject {
   Workplace& place_;
   horoscope::OpenedHoroscope opened_;
   char style_;
+  QString chosen_;
+  QString runningEnd_;
   AspectFilter filter_ = AspectFilter::All;
 };
 

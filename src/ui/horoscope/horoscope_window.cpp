@@ -1,27 +1,35 @@
 #include "ui/horoscope/horoscope_window.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
+#include <QComboBox>
 #include <QMenu>
+#include <QPrinter>
+#include <QScreen>
 #include <QStatusBar>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 
 #include "report/pdf.h"
+#include "ui/base/elided_label.h"
 #include "ui/base/guide.h"
+#include "ui/base/icon.h"
+#include "ui/base/keys.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
+#include "ui/dialogs/client_dialog.h"
+#include "ui/horoscope/birth_panel.h"
 #include "ui/horoscope/chart_page.h"
+#include "ui/horoscope/chart_print.h"
 #include "ui/horoscope/divisional_dialog.h"
 #include "ui/horoscope/head_pane.h"
+#include "ui/horoscope/neighbour_client.h"
 #include "ui/horoscope/page_stack.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
-#include "ui/horoscope/tables_page.h"
 
 namespace orvex::ui {
 
@@ -29,7 +37,8 @@ namespace {
 
 constexpr int kUsualWidth = 160 * kGrid;
 constexpr int kUsualHeight = 90 * kGrid;
-constexpr double kStatusText = 0.9;  // the positions of all planets fit a small screen
+constexpr int kRoomForList = 1100;  // below, the pages are a box in the head
+constexpr int kBirthWidth = 240;
 
 struct StyleName {
   char Style;
@@ -41,6 +50,21 @@ constexpr std::array<StyleName, 3> kStyles = {{
     {'E', QT_TRANSLATE_NOOP("HoroscopeWindow", "East Indian")},
     {'S', QT_TRANSLATE_NOOP("HoroscopeWindow", "South Indian")},
 }};
+
+// Who is read from a house, where a word says it.
+constexpr std::array<const char*, 12> kRelations = {
+    "",
+    "",
+    QT_TRANSLATE_NOOP("HoroscopeWindow", "younger sibling"),
+    QT_TRANSLATE_NOOP("HoroscopeWindow", "mother"),
+    QT_TRANSLATE_NOOP("HoroscopeWindow", "child"),
+    "",
+    QT_TRANSLATE_NOOP("HoroscopeWindow", "spouse"),
+    "",
+    QT_TRANSLATE_NOOP("HoroscopeWindow", "father"),
+    "",
+    QT_TRANSLATE_NOOP("HoroscopeWindow", "elder sibling"),
+    ""};
 
 struct DetailName {
   report::ReportDetail Detail;
@@ -64,13 +88,14 @@ std::size_t PlaceOfStyle(char style) {
 
 HoroscopeWindow::HoroscopeWindow(Workplace& place, horoscope::OpenedHoroscope opened)
     : document_(place, std::move(opened)),
-      tools_(new QToolBar),
       head_(new HeadPane(document_)),
       pages_(new PageStack(document_)),
-      status_(MakeCaptionLabel("statusText")) {
+      birth_(new BirthPanel(document_)),
+      status_(new ElidedLabel("statusText")) {
   setObjectName("horoscopeWindow");
   setAttribute(Qt::WA_DeleteOnClose);
-  MakeActions();
+  MakeHeadActions();
+  MakeMoreActions();
   LayOut();
   Connect();
   ShowModel();
@@ -99,74 +124,124 @@ void HoroscopeWindow::changeEvent(QEvent* event) {
   }
 }
 
+void HoroscopeWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  const bool narrow = width() < kRoomForList * Theme::TextSize() / 100;
+  pages_->SetNarrow(narrow);
+  head_->SetNarrow(narrow);
+}
+
 void HoroscopeWindow::LayOut() {
-  tools_->setObjectName("tools");
-  tools_->setMovable(false);
-  addToolBar(tools_);
   setContextMenuPolicy(Qt::NoContextMenu);
+  head_->AddBefore(pages_->Box());
+  birth_->setFixedWidth(kBirthWidth * Theme::TextSize() / 100);
+  birth_->hide();
+  auto* body = new QHBoxLayout;
+  body->setSpacing(space::kS);
+  body->addWidget(pages_, 1);
+  body->addWidget(birth_);
   auto* middle = new QWidget;
+  middle->setMinimumSize(1, 1);
   auto* layout = new QVBoxLayout(middle);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(head_);
-  layout->addWidget(pages_, 1);
+  layout->addLayout(body, 1);
   setCentralWidget(middle);
-  QFont font = status_->font();
-  font.setPointSizeF(font.pointSizeF() * kStatusText);
-  status_->setFont(font);
+  setMinimumSize(window::kLeastWidth, window::kLeastHeight);
+  status_->setFont(Theme::Text(type::kHead));
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
   if (!document_.Place().Layout.RestoreWindow(*this)) {
     resize(kUsualWidth, kUsualHeight);
+  }
+  if (const QScreen* on = screen()) {
+    resize(size().boundedTo(on->availableSize()));
   }
 }
 
 void HoroscopeWindow::Connect() {
   connect(&document_, &HoroscopeDocument::Changed, this, &HoroscopeWindow::ShowModel);
   connect(pages_, &PageStack::PlanetActivated, this, &HoroscopeWindow::ShowPlanetSheet);
+  connect(head_, &HeadPane::ResetWanted, this, [this] { document_.Rotate(1); });
 }
 
-QAction* HoroscopeWindow::AddAction(const QString& text, const QString& name,
-                                    const QKeySequence& keys) {
-  QAction* action = tools_->addAction(text);
+QAction* HoroscopeWindow::AddAction(const QString& text, const char* name, const char* icon) {
+  auto* action = new QAction(text, this);
   action->setObjectName(name);
-  action->setShortcut(keys);
-  action->setToolTip(tr("%1 (%2)").arg(QString(text).remove('&').remove(u'…'),
-                                       keys.toString(QKeySequence::NativeText)));
+  action->setShortcut(KeysOf("Horoscope", name));
+  action->setToolTip(WithKeys(text, action->shortcut()));
+  if (icon != nullptr) {
+    action->setIcon(Icon(icon));
+  }
+  addAction(action);
   return action;
 }
 
-void HoroscopeWindow::AddMenu(const QString& text, QMenu* menu, const QKeySequence& keys) {
-  QAction* action = AddAction(text, menu->objectName() + "Button", keys);
-  action->setMenu(menu);
-  auto* button = static_cast<QToolButton*>(tools_->widgetForAction(action));
-  button->setPopupMode(QToolButton::InstantPopup);
-  connect(action, &QAction::triggered, button, &QToolButton::showMenu);
+// The buttons of the head.
+void HoroscopeWindow::MakeHeadActions() {
+  QAction* rotate = AddAction(tr("&Rotate"), "rotationMenu", "rotate");
+  rotate->setMenu(rotationMenu_ = MakeRotationMenu());
+  QAction* divisions = AddAction(tr("&Divisional charts"), "divisions", "divisions");
+  connect(divisions, &QAction::triggered, this, &HoroscopeWindow::ShowDivisions);
+  auto* print = new QAction(Icon("print"), tr("&Print"), this);
+  print->setObjectName("print");
+  connect(print, &QAction::triggered, this, &HoroscopeWindow::PrintCharts);
+  QAction* exporting = AddAction(tr("E&xport"), "exportMenu", "export");
+  exporting->setMenu(MakeExportMenu());
+  auto* more = new QAction(Icon("menu"), QString(), this);
+  more->setObjectName("more");
+  more->setToolTip(tr("More"));
+  more->setMenu(more_ = new QMenu(this));
+  more_->setObjectName("moreMenu");
+  for (QAction* action : {rotate, divisions, print, exporting, more}) {
+    head_->AddButton(action)->setAccessibleName(WithKeys(action->toolTip(), {}));
+  }
 }
 
-void HoroscopeWindow::MakeActions() {
-  style_ = AddAction(tr("&Style"), "nextStyle", Qt::CTRL | Qt::Key_T);
-  style_->setMenu(MakeStyleMenu());
-  static_cast<QToolButton*>(tools_->widgetForAction(style_))
-      ->setPopupMode(QToolButton::MenuButtonPopup);
-  connect(style_, &QAction::triggered, this, &HoroscopeWindow::NextStyle);
-  AddMenu(tr("&Rotate"), MakeRotationMenu(), Qt::CTRL | Qt::Key_R);
-  connect(AddAction(tr("&Divisional charts"), "divisions", Qt::CTRL | Qt::Key_D),
-          &QAction::triggered, this, &HoroscopeWindow::ShowDivisions);
-  rectify_ = AddAction(tr("Rectify birth &time"), "rectify", Qt::CTRL | Qt::Key_B);
-  rectify_->setVisible(!document_.Model().Horary);
-  connect(rectify_, &QAction::triggered, this, [this] { Turn("recalculation"); });
-  AddMenu(tr("E&xport"), MakeExportMenu(), Qt::CTRL | Qt::Key_E);
-  QAction* close = AddAction(tr("&Close"), "close", Qt::CTRL | Qt::Key_W);
-  connect(close, &QAction::triggered, this, &QWidget::close);
-  auto* help = new QAction(tr("Help"), this);
-  help->setShortcut(QKeySequence::HelpContents);
-  connect(help, &QAction::triggered, this, [this] { OpenGuide(document_.Place()); });
-  addAction(help);
+// What is done seldom, in the last menu.
+void HoroscopeWindow::MakeMoreActions() {
+  const auto add = [this](const QString& text, const char* name, auto deed) {
+    QAction* action = AddAction(text, name);
+    connect(action, &QAction::triggered, this, deed);
+    more_->addAction(action);
+    return action;
+  };
+  style_ = add(tr("Next &style"), "nextStyle", &HoroscopeWindow::NextStyle);
+  more_->addMenu(MakeStyleMenu());
+  birthPanel_ = add(tr("&Birth"), "birthPanel", [this] { ShowBirthPanel(birth_->isHidden()); });
+  QAction* rectify = add(tr("Rectify birth &time"), "rectify", [this] { Turn("recalculation"); });
+  rectify->setVisible(!document_.Model().Horary);
+  rectify->setEnabled(!document_.Model().Horary);
+  more_->addSeparator();
+  add(tr("&Edit client"), "editClient", &HoroscopeWindow::EditClient);
+  add(tr("&Previous client"), "previousClient", [this] { GoToClient(-1); });
+  add(tr("&Next client"), "nextClient", [this] { GoToClient(1); });
+  more_->addMenu(MakeWindowsMenu());
+  more_->addSeparator();
+  add(tr("&Guide"), "guide", [this] { OpenGuide(document_.Place()); });
+  add(tr("&Close"), "close", [this] { close(); });
+}
+
+QMenu* HoroscopeWindow::MakeWindowsMenu() {
+  auto* menu = new QMenu(tr("Open &windows"), this);
+  menu->setObjectName("windowsMenu");
+  connect(menu, &QMenu::aboutToShow, this, [menu] {
+    menu->clear();
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      if (auto* open = qobject_cast<HoroscopeWindow*>(widget); open && open->isVisible()) {
+        menu->addAction(open->windowTitle().replace('&', "&&"), open, [open] {
+          open->raise();
+          open->activateWindow();
+        });
+      }
+    }
+  });
+  return menu;
 }
 
 QMenu* HoroscopeWindow::MakeStyleMenu() {
-  auto* menu = new QMenu(this);
+  auto* menu = new QMenu(tr("Style of &charts"), this);
   menu->setObjectName("styleMenu");
   for (const StyleName& style : kStyles) {
     menu->addAction(tr(style.Name), this, [this, style] { document_.SetStyle(style.Style); });
@@ -177,14 +252,21 @@ QMenu* HoroscopeWindow::MakeStyleMenu() {
 QMenu* HoroscopeWindow::MakeRotationMenu() {
   auto* menu = new QMenu(this);
   menu->setObjectName("rotationMenu");
+  auto* houses = new QActionGroup(this);
   for (int house = 1; house <= static_cast<int>(chart::kHouses); ++house) {
-    menu->addAction(WholeText(house), this, [this, house] { document_.Rotate(house); });
+    // The digit works as a key; who reads it stands behind.
+    const QString relation = tr(kRelations.at(static_cast<std::size_t>(house - 1)));
+    QAction* action = menu->addAction(
+        (house < 10 ? "&" : "") + WholeText(house) + (relation.isEmpty() ? "" : "  " + relation),
+        this, [this, house] { document_.Rotate(house); });
+    action->setCheckable(true);
+    action->setData(house);
+    houses->addAction(action);
   }
   menu->addSeparator();
-  QAction* reset =
-      menu->addAction(tr("Reset to First House"), this, [this] { document_.Rotate(1); });
-  reset->setShortcut(Qt::CTRL | Qt::Key_0);
-  addAction(reset);
+  QAction* reset = AddAction(tr("Reset to First House"), "resetRotation");
+  connect(reset, &QAction::triggered, this, [this] { document_.Rotate(1); });
+  menu->addAction(reset);
   return menu;
 }
 
@@ -211,11 +293,16 @@ void HoroscopeWindow::NextStyle() {
 void HoroscopeWindow::ShowModel() {
   const chart::HoroscopeCaptions& captions = document_.Model().Captions;
   setWindowTitle(Shown(captions.Title));
-  style_->setText(tr("&Style: %1").arg(tr(kStyles.at(PlaceOfStyle(document_.Style())).Name)));
+  for (QAction* house : rotationMenu_->actions()) {
+    house->setChecked(house->data().toInt() == document_.Model().RotatedTo);
+  }
   head_->ShowModel();
+  birth_->ShowModel();
   pages_->ShowModel();
   status_->setText(Shown(captions.StatusBar));
 }
+
+void HoroscopeWindow::ShowBirthPanel(bool shown) { birth_->setVisible(shown); }
 
 void HoroscopeWindow::Turn(const QString& page) { pages_->Turn(page); }
 
@@ -227,8 +314,49 @@ void HoroscopeWindow::ShowPlanetSheet(std::size_t row) {
 }
 
 void HoroscopeWindow::ShowDivisions() {
-  DivisionalDialog divisions(document_.Opened(), document_.Style(), this);
-  divisions.exec();
+  auto* divisions = findChild<DivisionalDialog*>();
+  if (divisions == nullptr) {
+    divisions = new DivisionalDialog(document_.Opened(), document_.Style(), this);
+    divisions->setAttribute(Qt::WA_DeleteOnClose);
+    connect(&document_, &HoroscopeDocument::Changed, divisions,
+            [this, divisions] { divisions->ShowModel(document_.Opened(), document_.Style()); });
+  }
+  divisions->show();
+  divisions->raise();
+  divisions->activateWindow();
+}
+
+// Both charts on a page under the title, which tells a rotation.
+void HoroscopeWindow::PrintCharts() {
+  QPrinter printer(QPrinter::HighResolution);
+  if (document_.Place().Files.ChoosePrinter(this, printer)) {
+    PrintChartPage(printer, document_.Model(), document_.Style());
+  }
+}
+
+// A client whose horoscope is open is not edited: the window closes and opens itself again.
+void HoroscopeWindow::EditClient() {
+  Workplace& place = document_.Place();
+  const std::int32_t client = ClientId();
+  close();
+  QMetaObject::invokeMethod(
+      qApp,
+      [&place, client] {
+        const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place, client));
+        if (dialog) {
+          dialog->exec();
+          OpenHoroscope(place, client);
+        }
+      },
+      Qt::QueuedConnection);
+}
+
+void HoroscopeWindow::GoToClient(int by) {
+  Workplace& place = document_.Place();
+  const std::optional<std::int32_t> next = NeighbourClient(place.Session, document_.Model(), by);
+  if (next && OpenHoroscope(place, *next) != nullptr) {
+    close();
+  }
 }
 
 void HoroscopeWindow::Export(report::ReportDetail detail, bool asPdf) {

@@ -6,12 +6,12 @@
 
 #include "ui/horoscope/horoscope_document.h"
 
-class QLabel;
 class QMenu;
-class QToolBar;
 
 namespace orvex::ui {
 
+class BirthPanel;
+class ElidedLabel;
 class HeadPane;
 class PageStack;
 
@@ -26,6 +26,9 @@ class HoroscopeWindow final : public QMainWindow {
 
   std::int32_t ClientId() const { return document_.Model().ClientId; }
 
+  // The planet that is marked everywhere, by its code; "" for none.
+  const QString& ChosenPlanet() const { return document_.ChosenPlanet(); }
+
   // Turns to the page of that name, such as "dasha".
   void Turn(const QString& page);
 
@@ -35,30 +38,39 @@ class HoroscopeWindow final : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void LayOut();
   void Connect();
-  QAction* AddAction(const QString& text, const QString& name, const QKeySequence& keys);
-  void AddMenu(const QString& text, QMenu* menu, const QKeySequence& keys);
-  void MakeActions();
+  QAction* AddAction(const QString& text, const char* name, const char* icon = nullptr);
+  void MakeHeadActions();
+  void MakeMoreActions();
   QMenu* MakeStyleMenu();
   QMenu* MakeRotationMenu();
   QMenu* MakeExportMenu();
+  QMenu* MakeWindowsMenu();
   void NextStyle();
   void ShowModel();
   void ShowDivisions();
+  void ShowBirthPanel(bool shown);
+  void PrintCharts();
+  void EditClient();
+  void GoToClient(int by);
   void Export(report::ReportDetail detail, bool asPdf);
   std::filesystem::path WriteReport(report::ReportDetail detail, bool asPdf);
   void Unregister();
 
   HoroscopeDocument document_;
-  QToolBar* tools_;
   HeadPane* head_;
   PageStack* pages_;
-  QLabel* status_;
+  BirthPanel* birth_;
+  ElidedLabel* status_;
+  QMenu* more_ = nullptr;
+  QMenu* styleMenu_ = nullptr;
+  QMenu* rotationMenu_ = nullptr;
   QAction* style_ = nullptr;
-  QAction* rectify_ = nullptr;
+  QAction* birthPanel_ = nullptr;
 };
 
 // The window of a client in front of the others: the open one, else a new one, which deletes itself

@@ -1,11 +1,15 @@
 #include "ui/horoscope/page_stack.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <array>
 
+#include "ui/base/keys.h"
+#include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/annual_page.h"
 #include "ui/horoscope/aspects_page.h"
@@ -47,119 +51,199 @@ HoroscopePage* MakeSequences(HoroscopeDocument& document) {
   return new TablesPage(document, {"sequences", {}, {{"BnnTable", "KarakaTable"}}});
 }
 
+constexpr std::array<const char*, 4> kGroups = {
+    QT_TRANSLATE_NOOP("PageStack", "Read"), QT_TRANSLATE_NOOP("PageStack", "Time"),
+    QT_TRANSLATE_NOOP("PageStack", "Tables"), QT_TRANSLATE_NOOP("PageStack", "Client")};
+
+enum Group { Read, Time, Tables, Client };
+
+// A page that fits every window by itself; the others get bars where the room is short.
+enum class Fits { Always, WithBars };
+
 struct PageEntry {
   const char* Name;
   const char* Title;
+  int InGroup;
+  Fits Room;
   HoroscopePage* (*Make)(HoroscopeDocument& document);
 };
 
 // clang-format off
 constexpr std::array<PageEntry, 15> kPages = {{
-    {"chart",         QT_TRANSLATE_NOOP("PageStack", "Chart"),         &Make<ChartPage>},
-    {"significators", QT_TRANSLATE_NOOP("PageStack", "Significators"), &MakeSignificators},
-    {"fourStep",      QT_TRANSLATE_NOOP("PageStack", "Four steps"),    &MakeFourStep},
-    {"dasha",         QT_TRANSLATE_NOOP("PageStack", "Dasha"),         &Make<DashaPage>},
-    {"timeline",      QT_TRANSLATE_NOOP("PageStack", "Timeline"),      &Make<TimelinePage>},
-    {"aspects",       QT_TRANSLATE_NOOP("PageStack", "Aspects"),       &Make<AspectsPage>},
-    {"ashtakavarga",  QT_TRANSLATE_NOOP("PageStack", "Ashtakavarga"),  &MakeAshtakavarga},
-    {"vastu",         QT_TRANSLATE_NOOP("PageStack", "Vastu"),         &Make<VastuPage>},
-    {"sequences",     QT_TRANSLATE_NOOP("PageStack", "Sequences"),     &MakeSequences},
-    {"annual",        QT_TRANSLATE_NOOP("PageStack", "Annual chart"),  &Make<AnnualPage>},
-    {"loShu",         QT_TRANSLATE_NOOP("PageStack", "Lo Shu"),        &Make<LoShuPage>},
-    {"birthStar",     QT_TRANSLATE_NOOP("PageStack", "Birth star"),    &Make<BirthStarPage>},
-    {"remedies",      QT_TRANSLATE_NOOP("PageStack", "Remedies"),      &Make<RemediesPage>},
-    {"recalculation", QT_TRANSLATE_NOOP("PageStack", "Recalculation"), &Make<RecalculationPage>},
-    {"transit",       QT_TRANSLATE_NOOP("PageStack", "Transit now"),   &Make<TransitPage>},
+    {"chart",         QT_TRANSLATE_NOOP("PageStack", "Chart"),         Read,   Fits::Always,   &Make<ChartPage>},
+    {"significators", QT_TRANSLATE_NOOP("PageStack", "Significators"), Read,   Fits::WithBars, &MakeSignificators},
+    {"fourStep",      QT_TRANSLATE_NOOP("PageStack", "Four steps"),    Read,   Fits::WithBars, &MakeFourStep},
+    {"aspects",       QT_TRANSLATE_NOOP("PageStack", "Aspects"),       Read,   Fits::WithBars, &Make<AspectsPage>},
+    {"dasha",         QT_TRANSLATE_NOOP("PageStack", "Periods"),       Time,   Fits::Always,   &Make<DashaPage>},
+    {"timeline",      QT_TRANSLATE_NOOP("PageStack", "Timeline"),      Time,   Fits::WithBars, &Make<TimelinePage>},
+    {"transit",       QT_TRANSLATE_NOOP("PageStack", "Transits"),      Time,   Fits::WithBars, &Make<TransitPage>},
+    {"ashtakavarga",  QT_TRANSLATE_NOOP("PageStack", "Ashtakavarga"),  Tables, Fits::WithBars, &MakeAshtakavarga},
+    {"sequences",     QT_TRANSLATE_NOOP("PageStack", "Sequences"),     Tables, Fits::WithBars, &MakeSequences},
+    {"birthStar",     QT_TRANSLATE_NOOP("PageStack", "Birth star"),    Tables, Fits::WithBars, &Make<BirthStarPage>},
+    {"annual",        QT_TRANSLATE_NOOP("PageStack", "Annual chart"),  Tables, Fits::WithBars, &Make<AnnualPage>},
+    {"loShu",         QT_TRANSLATE_NOOP("PageStack", "Lo Shu"),        Tables, Fits::WithBars, &Make<LoShuPage>},
+    {"vastu",         QT_TRANSLATE_NOOP("PageStack", "Vastu"),         Tables, Fits::WithBars, &Make<VastuPage>},
+    {"remedies",      QT_TRANSLATE_NOOP("PageStack", "Remedies"),      Client, Fits::WithBars, &Make<RemediesPage>},
+    {"recalculation", QT_TRANSLATE_NOOP("PageStack", "Rectification"), Client, Fits::WithBars, &Make<RecalculationPage>},
 }};
 // clang-format on
+
+constexpr int kPlaceRole = Qt::UserRole;
+
+std::optional<std::size_t> PlaceOf(const QListWidgetItem* item) {
+  const QVariant place = item == nullptr ? QVariant() : item->data(kPlaceRole);
+  return place.isValid() ? std::optional(static_cast<std::size_t>(place.toInt())) : std::nullopt;
+}
 
 }  // namespace
 
 PageStack::PageStack(HoroscopeDocument& document)
     : document_(document),
       list_(new QListWidget),
+      box_(new QComboBox),
       stack_(new QStackedWidget),
       slots_(kPages.size()) {
   LayOut();
   Connect();
   Turn(document.Place().Layout.ChosenEntry(*list_));
-  if (list_->currentRow() < 0) {
-    list_->setCurrentRow(0);
+  if (!PlaceOf(list_->currentItem())) {
+    Turn(kPages.front().Name);
   }
 }
 
 void PageStack::LayOut() {
   list_->setObjectName("pages");
   list_->setAccessibleName(tr("Pages"));
+  list_->setFrameShape(QFrame::NoFrame);
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-  for (const PageEntry& entry : kPages) {
-    auto* item = new QListWidgetItem(tr(entry.Title), list_);
-    item->setSizeHint(list_->fontMetrics().size(Qt::TextSingleLine, item->text()) +
-                      QSize(2 * kGrid, kGrid));
-    stack_->addWidget(new QWidget);
+  box_->setObjectName("pageBox");
+  box_->setAccessibleName(tr("Pages"));
+  for (int group = 0; group < static_cast<int>(kGroups.size()); ++group) {
+    AddGroup(group);
   }
-  list_->setFixedWidth(list_->sizeHintForColumn(0) + 2 * list_->frameWidth());
+  list_->setFixedWidth(list_->sizeHintForColumn(0) + space::kXl + space::kS);
+  // A page never makes the window larger than the screen.
+  stack_->setMinimumSize(1, 1);
   auto* layout = new QHBoxLayout(this);
-  layout->setContentsMargins(kGrid, 0, 0, 0);
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(list_);
   layout->addWidget(stack_, 1);
 }
 
+// A caption, which cannot be chosen, and the pages under it.
+void PageStack::AddGroup(int group) {
+  auto* caption = new QListWidgetItem(tr(kGroups.at(static_cast<std::size_t>(group))), list_);
+  caption->setFlags(Qt::NoItemFlags);
+  caption->setFont(Theme::Text(type::kHead, QFont::DemiBold));
+  caption->setSizeHint({0, list_->fontMetrics().height() + space::kS});
+  for (std::size_t place = 0; place < kPages.size(); ++place) {
+    if (kPages.at(place).InGroup == group) {
+      AddPage(place);
+    }
+  }
+}
+
+void PageStack::AddPage(std::size_t place) {
+  auto* item = new QListWidgetItem(tr(kPages.at(place).Title), list_);
+  item->setData(kPlaceRole, static_cast<int>(place));
+  item->setSizeHint(list_->fontMetrics().size(Qt::TextSingleLine, item->text()) +
+                    QSize(2 * space::kM, space::kXs + 1));
+  box_->addItem(item->text(), static_cast<int>(place));
+  stack_->addWidget(new QWidget);
+}
+
+void PageStack::SetNarrow(bool narrow) {
+  list_->setVisible(!narrow);
+  box_->setVisible(narrow);
+}
+
 void PageStack::Connect() {
-  connect(list_, &QListWidget::currentRowChanged, this, &PageStack::ShowPage);
-  const auto move = [this](const QKeySequence& keys, int by) {
-    connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, by] { Move(by); });
+  connect(list_, &QListWidget::currentRowChanged, this, &PageStack::TurnToRow);
+  connect(box_, &QComboBox::activated, this, [this](int entry) {
+    Turn(kPages.at(static_cast<std::size_t>(box_->itemData(entry).toInt())).Name);
+  });
+  const auto move = [this](const char* name, int by) {
+    auto* keys = new QShortcut(KeysOf("Horoscope", name), this);
+    connect(keys, &QShortcut::activated, this, [this, by] { Move(by); });
   };
-  move(QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1);
-  move(QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1);
+  move("nextPage", 1);
+  move("previousPage", -1);
 }
 
 void PageStack::Turn(const QString& name) {
-  for (std::size_t i = 0; i < kPages.size(); ++i) {
-    if (name == kPages.at(i).Name) {
-      list_->setCurrentRow(static_cast<int>(i));
+  for (int row = 0; row < list_->count(); ++row) {
+    const std::optional<std::size_t> place = PlaceOf(list_->item(row));
+    if (place && name == kPages.at(*place).Name) {
+      list_->setCurrentRow(row);
     }
   }
 }
 
 void PageStack::Move(int by) {
-  const int pages = list_->count();
-  list_->setCurrentRow((list_->currentRow() + by + pages) % pages);
+  const int rows = list_->count();
+  int row = list_->currentRow();
+  do {
+    row = (row + by + rows) % rows;
+  } while (!PlaceOf(list_->item(row)));
+  list_->setCurrentRow(row);
 }
 
-HoroscopePage* PageStack::Current() const {
-  return slots_.at(static_cast<std::size_t>(list_->currentRow())).Page;
-}
+HoroscopePage* PageStack::Current() const { return slots_.at(current_).Page; }
 
 ChartPage& PageStack::FirstPage() {
-  list_->setCurrentRow(0);
+  Turn(kPages.front().Name);
   return static_cast<ChartPage&>(*slots_.front().Page);
 }
 
-void PageStack::ShowPage(int index) {
-  const auto place = static_cast<std::size_t>(index);
+void PageStack::TurnToRow(int row) {
+  if (const std::optional<std::size_t> place = PlaceOf(list_->item(row))) {
+    ShowPage(*place);
+  }
+}
+
+HoroscopePage* PageStack::MakePage(std::size_t place) {
+  const PageEntry& entry = kPages.at(place);
+  HoroscopePage* page = entry.Make(document_);
+  page->setObjectName(entry.Name);
+  connect(page, &HoroscopePage::PlanetActivated, this, &PageStack::PlanetActivated);
+  QWidget* shown = page;
+  if (entry.Room == Fits::WithBars) {
+    auto* bars = new QScrollArea;
+    bars->setFrameShape(QFrame::NoFrame);
+    bars->setWidgetResizable(true);
+    bars->setFocusPolicy(Qt::NoFocus);
+    bars->setWidget(page);
+    shown = bars;
+  }
+  const int index = static_cast<int>(place);
+  delete stack_->widget(index);
+  stack_->insertWidget(index, shown);
+  return page;
+}
+
+void PageStack::ShowPage(std::size_t place) {
   Slot& slot = slots_.at(place);
   if (slot.Page == nullptr) {
-    slot.Page = kPages.at(place).Make(document_);
-    slot.Page->setObjectName(kPages.at(place).Name);
-    connect(slot.Page, &HoroscopePage::PlanetActivated, this, &PageStack::PlanetActivated);
-    delete stack_->widget(index);
-    stack_->insertWidget(index, slot.Page);
+    slot.Page = MakePage(place);
   }
   if (slot.Stale) {
     slot.Stale = false;
     slot.Page->ShowModel();
   }
-  stack_->setCurrentIndex(index);
+  current_ = place;
+  stack_->setCurrentIndex(static_cast<int>(place));
+  box_->setCurrentIndex(box_->findData(static_cast<int>(place)));
   document_.Place().Layout.KeepChosenEntry(*list_, kPages.at(place).Name);
+  emit Turned();
 }
 
 void PageStack::ShowModel() {
   for (Slot& slot : slots_) {
     slot.Stale = true;
   }
-  ShowPage(list_->currentRow());
+  ShowPage(current_);
 }
 
 }  // namespace orvex::ui

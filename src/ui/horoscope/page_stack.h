@@ -6,6 +6,7 @@
 
 #include "ui/horoscope/horoscope_page.h"
 
+class QComboBox;
 class QListWidget;
 class QStackedWidget;
 
@@ -23,6 +24,10 @@ class PageStack final : public QWidget {
   void Turn(const QString& name);
   HoroscopePage* Current() const;
 
+  // The pages as a box, for windows in which the list has no room.
+  QComboBox* Box() { return box_; }
+  void SetNarrow(bool narrow);
+
   // The first page, which reports are made from.
   ChartPage& FirstPage();
 
@@ -31,11 +36,17 @@ class PageStack final : public QWidget {
 
  signals:
   void PlanetActivated(std::size_t row);
+  // Another page came into sight.
+  void Turned();
 
  private:
   void LayOut();
   void Connect();
-  void ShowPage(int index);
+  void AddGroup(int group);
+  void AddPage(std::size_t place);
+  HoroscopePage* MakePage(std::size_t place);
+  void TurnToRow(int row);
+  void ShowPage(std::size_t place);
   void Move(int by);
 
   struct Slot {
@@ -45,8 +56,10 @@ class PageStack final : public QWidget {
 
   HoroscopeDocument& document_;
   QListWidget* list_;
+  QComboBox* box_;
   QStackedWidget* stack_;
-  std::vector<Slot> slots_;
+  std::vector<Slot> slots_;  // in the order of the pages
+  std::size_t current_ = 0;
 };
 
 }  // namespace orvex::ui
