@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <memory>
@@ -65,6 +66,31 @@ class ClientDialogTest : public test::DeskTest {
     return texts;
   }
 };
+
+TEST_F(ClientDialogTest, AFieldThatGetsTheFocusMarksItsTextByKeyMouseAndRefusal) {
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, AddClient()));
+  Show(*dialog);
+  const auto marked = [&dialog](const char* field) {
+    return Find<QLineEdit>(*dialog, field).selectedText();
+  };
+  EXPECT_EQ(marked("fullName"), "Asha Rao");
+  Type(*dialog, "offset", "28");
+  auto& name = Find<QLineEdit>(*dialog, "fullName");
+  const QPoint middle(name.width() / 2, name.height() / 2);
+  QTest::mouseClick(&name, Qt::LeftButton, {}, middle);
+  EXPECT_EQ(name.selectedText(), "Asha Rao");
+  QTest::mouseClick(&name, Qt::LeftButton, {}, middle);
+  EXPECT_EQ(name.selectedText(), "") << "a second click sets the cursor";
+
+  auto& comments = Find<QPlainTextEdit>(*dialog, "comments");
+  QTest::keyClicks(&comments, "two words");
+  QTest::mouseClick(comments.viewport(), Qt::LeftButton, {}, {20, 10});
+  EXPECT_EQ(comments.textCursor().selectedText(), "two words");
+
+  Press(*dialog, "action");
+  EXPECT_EQ(FocusName(*dialog), "offset");
+  EXPECT_EQ(marked("offset"), "28");
+}
 
 TEST_F(ClientDialogTest, ABirthIsAddedWithKeysAlone) {
   const auto dialog = OpenNew();

@@ -10,6 +10,7 @@
 #include "chart/client_saving.h"
 #include "core/home.h"
 #include "core/text.h"
+#include "support/data_folder.h"
 #include "support/ui_desk.h"
 #include "ui/base/keys.h"
 #include "ui/base/open_windows.h"
@@ -84,7 +85,7 @@ TEST_F(GuideTest, TheKeysOfTheGuideAreThoseOfTheWindows) {
     pages.setCurrentRow(page);
   }
   EXPECT_EQ(Told("Horoscope"), Present(*horoscope));
-  EXPECT_TRUE(core::Contains(core::ReadTextFile(ORVEX_GUIDE_SOURCE "/keys.md"),
+  EXPECT_TRUE(core::Contains(core::ReadTextFile(test::GuideSource() / "keys.md"),
                              Typed(GuideTableOfKeys("Horoscope"))));
 }
 

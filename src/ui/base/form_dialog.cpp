@@ -81,6 +81,9 @@ void FormDialog::showEvent(QShowEvent* event) {
   if (!fields_) {
     NoteFields();
   }
+  if (!std::exchange(marksTexts_, true)) {
+    SelectAllTextOnFocus(*this);
+  }
   QDialog::showEvent(event);
 }
 
@@ -96,13 +99,6 @@ void FormDialog::FocusField(const QString& name) {
     field->setFocus(Qt::OtherFocusReason);
     SelectAllText(*field);
   }
-}
-
-void FormDialog::showEvent(QShowEvent* event) {
-  if (!std::exchange(marksTexts_, true)) {
-    SelectAllTextOnFocus(*this);
-  }
-  QDialog::showEvent(event);
 }
 
 void FormDialog::ShowRefusal(const core::Refusal& refusal) {

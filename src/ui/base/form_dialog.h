@@ -60,8 +60,6 @@ class FormDialog : public QDialog {
   core::Session& Session() { return place_.Session; }
   Workplace& Place() { return place_; }
 
-  void showEvent(QShowEvent* event) override;
-
  private:
   Workplace& place_;
   QPushButton* action_ = nullptr;

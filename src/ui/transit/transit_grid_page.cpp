@@ -189,7 +189,7 @@ void TransitGridPage::showEvent(QShowEvent* event) {
     const core::DateTime now = place_.Session.Time.Now();
     month_ = core::PartsOf(now).Month;
     year_ = core::PartsOf(now).Year;
-    time_->setDateTime(ToField(now));
+    time_->SetTime(core::TimeOfDayOf(now));
   }
   build_.start();
 }
