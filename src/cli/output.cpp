@@ -80,9 +80,7 @@ Json TableJson(const core::Table& table) {
   return json;
 }
 
-void PrintJson(const Json& document) {
-  PutData(document.dump(1, ' ', false, Json::error_handler_t::replace) + "\n");
-}
+void PrintJson(const Json& document) { PutData(document.Printed() + "\n"); }
 
 void PrintTable(const core::Table& table) {
   std::vector<std::size_t> widths(table.Columns.size());

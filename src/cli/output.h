@@ -2,14 +2,12 @@
 #pragma once
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
 #include <string>
 
+#include "cli/json_document.h"
 #include "core/table.h"
 
 namespace orvex::cli {
-
-using Json = nlohmann::ordered_json;
 
 // A cell as interchange: its text and what else it has.
 Json CellJson(const core::Cell& cell);

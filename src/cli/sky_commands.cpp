@@ -68,7 +68,7 @@ void RunSky(Context& context) {
     return;
   }
   for (const auto& [name, caption] : captions.items()) {
-    std::cout << name << ": " << caption.get<std::string>() << "\n";
+    std::cout << name << ": " << caption.text() << "\n";
   }
   for (const core::Table* table : {&view.Panchang, &view.SkyPlanets, &view.SkyRulingPlanets,
                                    &view.DayHoras, &view.NightHoras, &view.SkyHouses}) {
