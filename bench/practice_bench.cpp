@@ -8,6 +8,7 @@
 #include "bench_home.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "exchange/exchange_import.h"
 #include "practice/birthdays.h"
 #include "practice/client_import.h"
 #include "practice/client_list.h"
@@ -141,6 +142,34 @@ void ImportOf10000Lines(benchmark::State& state) {
   }
 }
 BENCHMARK(ImportOf10000Lines)->Unit(benchmark::kSecond)->Iterations(1);
+
+// Each birth has a place of its own, half of them one that no city is named for.
+std::string AafOf10000Births() {
+  std::string text;
+  for (int birth = 0; birth < 10000; ++birth) {
+    const std::string minutes = core::PaddedWhole(birth % 60, 2);
+    text += "#A93:Client," + core::PaddedWhole(birth, 5) + ",f,5.7.1990,14:" + minutes +
+            (birth % 2 == 0 ? ",Pune,IN" : ",Village " + core::PaddedWhole(birth, 5) + ",IN") +
+            "\n#B93:*,18N" + minutes + ":" + core::PaddedWhole(birth / 60 % 60, 2) +
+            ",73E51,5hE30,0\n";
+  }
+  return text;
+}
+
+void ImportOf10000AafBirths(benchmark::State& state) {
+  const auto goOn = [](std::size_t, std::size_t) { return true; };
+  for (auto _ : state) {
+    BenchHome home;
+    const auto session = home.Start(core::StartMode::Writer);
+    const auto file = session->Place.Folder / "births.aaf";
+    core::WriteFileSafely(file, AafOf10000Births());
+    const exchange::ImportPlan plan =
+        exchange::PlanImport(*session, {{file}, 1, ORVEX_DATA_FOLDER}, goOn);
+    state.counters["saved"] = static_cast<double>(
+        exchange::SaveImport(*session, plan, exchange::WithRefused::SaveNothing, goOn));
+  }
+}
+BENCHMARK(ImportOf10000AafBirths)->Unit(benchmark::kSecond)->Iterations(1);
 
 }  // namespace
 }  // namespace orvex::bench

@@ -8,7 +8,7 @@ if(failed)
   message(FATAL_ERROR "${SOURCE} could not be read")
 endif()
 # The pages link to one another as they stand in the source tree.
-string(REGEX REPLACE "href=\"([a-z-]+)\\.md([\"#])" "href=\"\\1.html\\2" BODY "${BODY}")
+string(REGEX REPLACE "href=\"(guide/)?([a-z-]+)\\.md([\"#])" "href=\"\\2.html\\3" BODY "${BODY}")
 # Headings are led to by their words.
 while(BODY MATCHES "<h2>([^<]*)</h2>")
   set(words "${CMAKE_MATCH_1}")

@@ -4,6 +4,8 @@
 
 #include "cli/context.h"
 #include "cli/output.h"
+#include "exchange/exchange_files.h"
+#include "exchange/exchange_preview.h"
 #include "practice/client_import.h"
 
 namespace orvex::cli {
@@ -14,6 +16,7 @@ struct ImportOptions {
   std::string File;
   std::optional<std::string> Group;
   bool DryRun = false;
+  bool LeaveOut = false;
 };
 
 std::string ReadWhole(const std::string& file) {
@@ -44,7 +47,69 @@ void PrintReport(const practice::ImportReport& report, bool json) {
   }
 }
 
+bool TellBirths(std::size_t done, std::size_t all) {
+  std::cerr << done << " of " << all << " births\n";
+  return true;
+}
+
+void PrintPlan(const exchange::ImportPlan& plan, std::size_t imported, const Context& context,
+               bool withTable) {
+  if (context.Json) {
+    Json document = {
+        {"imported", imported}, {"alreadyStored", plan.StoredCount()}, {"refused", Json::array()}};
+    for (const exchange::RefusedBirth& refused : plan.Refused) {
+      document["refused"].push_back(
+          {{"file", refused.File}, {"line", refused.Line}, {"reason", refused.Reason}});
+    }
+    if (withTable) {
+      document["tables"] = {{"Births", TableJson(exchange::PreviewTable(plan))}};
+    }
+    PrintJson(document);
+  } else {
+    if (withTable) {
+      PrintTable(exchange::PreviewTable(plan));
+    }
+    std::cout << exchange::CountText(imported, plan) << "\n";
+  }
+  for (const exchange::RefusedBirth& refused : plan.Refused) {
+    std::cerr << refused.File << " line " << refused.Line << ": " << refused.Reason << "\n";
+  }
+}
+
+exchange::ImportPlan PlanOf(core::Session& session, const ImportOptions& options) {
+  try {
+    return exchange::PlanImport(
+        session, {{options.File}, GroupFor(session, options.Group), core::ShippedDataFolder()},
+        TellBirths);
+  } catch (const core::StoreError&) {
+    throw;
+  } catch (const std::runtime_error& unread) {
+    throw CommandFailed(unread.what());
+  }
+}
+
+// Files of births of other programs: all of them or, where a line is refused, none.
+void RunExchange(Context& context, const ImportOptions& options) {
+  core::Session& session = options.DryRun ? context.Reading() : context.Writing();
+  const exchange::ImportPlan plan = PlanOf(session, options);
+  const auto refused =
+      options.LeaveOut ? exchange::WithRefused::LeaveOut : exchange::WithRefused::SaveNothing;
+  const bool isAll = options.LeaveOut || plan.Refused.empty();
+  const std::size_t imported = !isAll ? 0
+                               : options.DryRun
+                                   ? plan.NewCount()
+                                   : exchange::SaveImport(session, plan, refused, TellBirths);
+  PrintPlan(plan, imported, context, options.DryRun);
+  if (!isAll || plan.Births.empty()) {
+    throw CommandFailed("Nothing was imported, because lines were refused.");
+  }
+}
+
 void RunImport(Context& context, const ImportOptions& options) {
+  if (exchange::IsExchangeSource(options.File)) {
+    RunExchange(context, options);
+    return;
+  }
   core::Session& session = options.DryRun ? context.Reading() : context.Writing();
   const practice::ImportRequest request{ReadWhole(options.File), GroupFor(session, options.Group),
                                         options.DryRun};
@@ -61,11 +126,15 @@ void RunImport(Context& context, const ImportOptions& options) {
 
 void AddImportCommand(Command app, Context& context) {
   auto options = std::make_shared<ImportOptions>();
-  Command command = AddCommand(app, "import", "take clients from a CSV file",
-                               [&context, options] { RunImport(context, *options); });
-  command.add_option("FILE", options->File, "the CSV file").required();
+  Command command = AddCommand(
+      app, "import", "take clients from a CSV, AAF, .jhd or .mtx file, or a folder of these three",
+      [&context, options] { RunImport(context, *options); });
+  command.add_option("FILE", options->File, "the file, or a folder of .aaf, .jhd and .mtx files")
+      .required();
   command.add_option("--group", options->Group,
                      "id of the group of lines that name none; else the first by name");
+  command.add_flag("--leave-out-refused", options->LeaveOut,
+                   "of AAF, .jhd and .mtx: import the others where lines are refused");
   command.add_flag("--dry-run", options->DryRun, "check everything, write nothing");
 }
 

@@ -177,8 +177,8 @@ void TakeQuery(const Line& line, chart::ClientForm& form) {
   TakeIfGiven(number, form.HoraryNumber);
 }
 
-CsvClient ReadLine(const core::Session& session, const Line& line, std::int32_t groupId) {
-  CsvClient client;
+IncomingClient ReadLine(const core::Session& session, const Line& line, std::int32_t groupId) {
+  IncomingClient client;
   chart::ClientForm& form = client.Form;
   form.FullName = line.Text(CsvColumn::Name);
   form.Birth = BirthOf(line);
@@ -235,10 +235,10 @@ CsvPlaces PlacesOf(const std::vector<std::string>& captions) {
   return places;
 }
 
-std::variant<CsvClient, std::string> ClientOfLine(const core::Session& session,
-                                                  const CsvPlaces& places,
-                                                  const std::vector<std::string>& fields,
-                                                  std::int32_t groupId) {
+std::variant<IncomingClient, std::string> ClientOfLine(const core::Session& session,
+                                                       const CsvPlaces& places,
+                                                       const std::vector<std::string>& fields,
+                                                       std::int32_t groupId) {
   try {
     return ReadLine(session, Line(places, fields), groupId);
   } catch (const LineRefusal& refusal) {

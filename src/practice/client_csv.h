@@ -7,8 +7,8 @@
 #include <variant>
 #include <vector>
 
-#include "chart/client_saving.h"
 #include "core/session.h"
+#include "practice/client_intake.h"
 
 namespace orvex::practice {
 
@@ -36,12 +36,6 @@ inline constexpr std::size_t kCsvColumnCount = 16;
 // would run are guarded (core/csv.h).
 std::string ClientsAsCsv(const core::Session& session, std::optional<std::int32_t> groupId);
 
-// A client of a file as the dialog would hold it.
-struct CsvClient {
-  chart::ClientForm Form;
-  std::int32_t GroupId = 0;
-};
-
 // Where each column stands in the file; nothing for one that is not there.
 using CsvPlaces = std::vector<std::optional<std::size_t>>;
 
@@ -50,9 +44,9 @@ using CsvPlaces = std::vector<std::optional<std::size_t>>;
 CsvPlaces PlacesOf(const std::vector<std::string>& captions);
 
 // The client of a line, or why it is none. `groupId` is the group of lines that name none.
-std::variant<CsvClient, std::string> ClientOfLine(const core::Session& session,
-                                                  const CsvPlaces& places,
-                                                  const std::vector<std::string>& fields,
-                                                  std::int32_t groupId);
+std::variant<IncomingClient, std::string> ClientOfLine(const core::Session& session,
+                                                       const CsvPlaces& places,
+                                                       const std::vector<std::string>& fields,
+                                                       std::int32_t groupId);
 
 }  // namespace orvex::practice

@@ -2,12 +2,9 @@
 
 #include <algorithm>
 #include <optional>
-#include <set>
 #include <stdexcept>
 
 #include "core/csv.h"
-#include "core/exact_numbers.h"
-#include "core/text.h"
 #include "core/unicode_text.h"
 #include "practice/client_csv.h"
 
@@ -16,41 +13,6 @@ namespace orvex::practice {
 namespace {
 
 constexpr std::size_t kProgressEvery = 200;
-constexpr std::size_t kLongestName = 100;
-
-// What makes two records the same client: name, moment, place, query and group.
-std::string Identity(const std::vector<std::string>& parts) { return core::Join(parts, "\n"); }
-
-std::string IdentityOf(const CsvClient& client) {
-  const chart::ClientForm& form = client.Form;
-  const auto number = [](const std::string& text) {
-    return core::DoubleText(core::ToDouble(text));
-  };
-  return Identity({core::FirstCharacters(core::Trim(form.FullName), kLongestName),
-                   core::StoredDateTimeText(form.Birth), number(form.Latitude),
-                   number(form.Longitude), number(form.Offset),
-                   form.Horary ? number(form.HoraryNumber) : "0", core::WholeText(client.GroupId)});
-}
-
-std::set<std::string> StoredIdentities(const core::Store& store) {
-  std::set<std::string> stored;
-  for (core::Result row =
-           store.Query("Select fullname, birthdate, latitude, longitude, offset, horaryno, groupid "
-                       "from client_master");
-       !row.AtEnd(); row.Next()) {
-    stored.insert(Identity({row.Text("fullname"), row.Text("birthdate"), row.Text("latitude"),
-                            row.Text("longitude"), row.Text("offset"), row.Text("horaryno"),
-                            row.Text("groupid")}));
-  }
-  return stored;
-}
-
-bool HasAllHouses(const chart::ChartResult& chart) {
-  return std::all_of(chart.Planets.begin(), chart.Planets.end(),
-                     [](const chart::PlanetRow& planet) {
-                       return planet.RashiHouse.has_value() && planet.ChalitHouse.has_value();
-                     });
-}
 
 // One import on its way through the lines.
 class Import {
@@ -59,7 +21,7 @@ class Import {
       : session_(session),
         request_(request),
         places_(std::move(places)),
-        stored_(StoredIdentities(session.StoreConnection)) {}
+        intake_(session, WholeIdentity) {}
 
   void Take(const core::CsvRecord& record) {
     if (std::optional<std::string> reason = TryTake(record.Fields)) {
@@ -84,23 +46,21 @@ class Import {
     if (const auto* reason = std::get_if<std::string>(&read)) {
       return *reason;
     }
-    return TryStore(std::get<CsvClient>(read));
+    return TryStore(std::get<IncomingClient>(read));
   }
 
-  std::optional<std::string> TryStore(const CsvClient& client) {
-    const chart::CheckedChart checked = chart::CheckAndCompute(session_, client.Form);
-    if (checked.Refused) {
-      return checked.Refused->Text;
+  std::optional<std::string> TryStore(const IncomingClient& client) {
+    const auto checked = intake_.Check(client);
+    if (const auto* reason = std::get_if<std::string>(&checked)) {
+      return *reason;
     }
-    if (!HasAllHouses(checked.Chart)) {
-      return core::kCouldNotUpdate;
-    }
-    if (stored_.contains(IdentityOf(client))) {
+    if (intake_.IsStored(client)) {
       ++report_.AlreadyStored;
       return std::nullopt;
     }
     if (!request_.DryRun) {
-      chart::InsertClientRows(session_, {client.Form, client.GroupId, checked.Chart});
+      chart::InsertClientRows(session_,
+                              {client.Form, client.GroupId, std::get<chart::ChartResult>(checked)});
     }
     ++report_.Imported;
     return std::nullopt;
@@ -109,7 +69,7 @@ class Import {
   core::Session& session_;
   const ImportRequest& request_;
   CsvPlaces places_;
-  std::set<std::string> stored_;
+  ClientIntake intake_;
   ImportReport report_;
 };
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/session.h"
+#include "practice/client_intake.h"
 
 namespace orvex::practice {
 
@@ -14,11 +15,6 @@ struct ImportRequest {
   std::string Text;          // of the file
   std::int32_t GroupId = 0;  // of lines that name no group
   bool DryRun = false;       // check and compute, write nothing
-};
-
-struct RefusedLine {
-  std::size_t Line = 0;  // of the file, from 1
-  std::string Reason;
 };
 
 struct ImportReport {

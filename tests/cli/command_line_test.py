@@ -157,6 +157,43 @@ class CommandLine(CommandLineTest):
         status, printed, _ = self.call("import", file)
         self.assertEqual((status, printed), (0, "0 imported, 2 already stored, 1 refused\n"))
 
+    def test_births_come_from_exchange_files_and_go_out_as_aaf(self):
+        folder = os.path.join(os.path.dirname(self.home), "in")
+        os.mkdir(folder)
+        good = "#A93:Kumar,Ravi,m,5.7.1990,14:30,Pune,IN\n#B93:*,18N31,73E51,5hE00,0\n"
+        for name, text in (("a.aaf", good), ("b.aaf", good.replace("Ravi", "Asha") + "bad\n")):
+            with open(os.path.join(folder, name), "w", encoding="utf-8") as stream:
+                stream.write(text)
+        status, out, err = self.call("import", folder, "--json")
+        self.assertEqual((status, json.loads(out)), (1, {
+            "imported": 0, "alreadyStored": 0, "refused": [
+                {"file": "b.aaf", "line": 3, "reason": "the line begins with no tag such as #A93:"}]}))
+        self.assertIn("b.aaf line 3: ", err)
+        self.assertIn("Nothing was imported, because lines were refused.\n", err)
+        file = os.path.join(folder, "a.aaf")
+        status, out, _ = self.call("import", file, "--dry-run", "--json")
+        births = json.loads(out)["tables"]["Births"]
+        captions = [column["caption"] for column in births["columns"]]
+        cells = {name: cell["text"] for name, cell in zip(captions, births["rows"][0]["cells"])}
+        self.assertEqual((status, cells["Offset in File"], cells["Offset of Clocks"]),
+                         (0, "5", "5.5"))
+        self.assertEqual(json.loads(self.succeed("client", "list", "--json"))["rows"], [])
+        status, out, _ = self.call("import", folder, "--leave-out-refused")
+        self.assertEqual((status, out), (0, "1 imported, 0 already stored, 1 refused\n"))
+        status, out, _ = self.call("import", file)
+        self.assertEqual((status, out), (0, "0 imported, 1 already stored, 0 refused\n"))
+        written = []
+        for words in (["client", "1"], ["clients", "--group", "1"], ["search", "--gender", "M"]):
+            target = os.path.join(folder, words[0] + ".AAF")
+            self.assertEqual(self.succeed("export", *words, "--file", target), target + "\n")
+            with open(target, encoding="utf-8") as stream:
+                written.append(stream.read())
+        self.assertIn("#A93:Kumar,Ravi,m,5.7.1990,14:30,Pune,IN\n", written[0])
+        self.assertEqual(written, written[:1] * 3)
+        for words in (["client", "9", "--file", target], ["client", "1", "--file", "x.xlsx"],
+                      ["birthdays", "--file", target]):
+            self.assertEqual(self.call("export", *words)[0], 1, words)
+
     def test_a_deleted_client_comes_back_with_a_backup(self):
         self.succeed("client", "add", "--name", "A", *BIRTH)
         backup = self.succeed("backup").strip()
