@@ -38,7 +38,9 @@ Json CaptionsJson(const panchang::SkyCaptions& captions) {
           {"Sunrise", captions.Sunrise},
           {"Sunset", captions.Sunset},
           {"Ganapathi", captions.Ganapathi},
-          {"GanapathiRuling", captions.GanapathiRuling}};
+          {"GanapathiRuling", captions.GanapathiRuling},
+          {"AscendantNext", captions.AscendantNext},
+          {"MoonNext", captions.MoonNext}};
 }
 
 Json ChartsJson(const report::ChartCells& cells) {

@@ -15,6 +15,7 @@
 #include "panchang/current_hora.h"
 #include "panchang/day_tables.h"
 #include "panchang/kaals.h"
+#include "panchang/next_change.h"
 #include "panchang/sky_planets.h"
 #include "panchang/tithi.h"
 
@@ -310,6 +311,12 @@ void Recompute(core::Session& session, SkyView& view, core::DateTime now, const 
   MarkCombustInHouses(view.SkyPlanets, view.SkyHouses);
   WriteSkyLords(reference, view.SkyPlanets);
   WriteDignities(reference, view.SkyPlanets);
+
+  core::Attempt([&] {
+    captions.AscendantNext = NextChangeText(session, exact::Point::Ascendant, now);
+    captions.MoonNext = NextChangeText(session, exact::Point::Moon, now);
+    session.Ephemeris.Close();
+  });
 }
 
 }  // namespace

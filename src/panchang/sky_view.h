@@ -53,6 +53,8 @@ struct SkyCaptions {
   std::string Sunset;  // the end of the twelfth day hora
   std::string Ganapathi;
   std::string GanapathiRuling;
+  std::string AscendantNext;  // the next change of its lords, as NextChangeText
+  std::string MoonNext;
 };
 
 // Lives as long as its window does: each recomputation rewrites it in place, and what a step leaves

@@ -11,6 +11,7 @@
 
 #include "chart/client_saving.h"
 #include "core/cell_colors.h"
+#include "core/settings.h"
 #include "practice/groups.h"
 #include "support/ui_desk.h"
 #include "ui/base/theme.h"
@@ -222,6 +223,10 @@ TEST_F(DialogTest, SettingsAreCheckedFieldByFieldAndTakenAtOnce) {
   SettingsDialog dialog(place_);
   Show(dialog);
   EXPECT_EQ(dialog.windowTitle(), "Settings - General");
+  auto& moment = Find<QComboBox>(dialog, "BirthMoment");
+  EXPECT_EQ(moment.currentText(), "Local mean time");
+  moment.setFocus();
+  QTest::keyClick(&moment, Qt::Key_C);
   auto& options = Find<QListWidget>(dialog, "option");
   options.setCurrentRow(1);
   EXPECT_EQ(dialog.windowTitle(), "Settings - Orbits");
@@ -244,6 +249,7 @@ TEST_F(DialogTest, SettingsAreCheckedFieldByFieldAndTakenAtOnce) {
   Press(dialog, "action");
   EXPECT_EQ(session_->State.Orbs[0], 2);
   EXPECT_EQ(session_->State.AstrologerName, "D'Souza");
+  EXPECT_EQ(core::BirthMomentOf(*session_), 'C');
 }
 
 // A click at an item of the list of pages, as a hand makes it.

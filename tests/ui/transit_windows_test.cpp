@@ -50,6 +50,34 @@ TEST_F(TransitWindowTest, TheGridShowsTodayRetrogradesAndTheWayToOtherMonths) {
   EXPECT_EQ(Text(*page, "monthLabel"), "November 2026");
 }
 
+TEST_F(TransitWindowTest, TheChangesOfTheMonthAndOfADayStandBesideTheTables) {
+  const auto page = OpenGrid();
+  Press(*page, "showGraph");
+  Press(*page, "showChanges");
+  EXPECT_FALSE(Find<QPushButton>(*page, "showGraph").isChecked());
+  auto& changes = Find<TableView>(*page, "changes");
+  EXPECT_TRUE(changes.isVisible());
+  EXPECT_TRUE(CellText(*page, "changes", 0, 0).endsWith(" Nov 2026"));
+  QStringList texts;
+  for (int row = 0; row < changes.Model().rowCount(); ++row) {
+    texts << CellText(*page, "changes", row, 0) + ' ' + CellText(*page, "changes", row, 3);
+  }
+  // Entries of the almanac of that month: the Sun's sankranti and Mercury's station.
+  EXPECT_TRUE(texts.contains("16 Nov 2026 Sun enters Scorpio"));
+  EXPECT_TRUE(texts.contains("13 Nov 2026 Mercury turns direct"));
+
+  Press(*page, "nextMonth");
+  EXPECT_TRUE(CellText(*page, "changes", 0, 0).endsWith(" Dec 2026"));
+  Press(*page, "showChanges");
+  EXPECT_TRUE(Find<TableView>(*page, "grid").isVisible());
+
+  TransitDetailsDialog details(place_, transit::Planet::Sun, test::Moment("2026-11-16 00:00:00"));
+  Show(details);
+  EXPECT_EQ(CellText(details, "changes", 1, 3), "Sun enters Scorpio");
+  Press(details, "nextDay");
+  EXPECT_EQ(CellText(details, "changes", 0, 3), "Sun enters the sub of Mars");
+}
+
 TEST_F(TransitWindowTest, TheGridEndsWithTheYears1500And2500) {
   const auto page = OpenGrid();
   GoTo(*page, "January", "1500");

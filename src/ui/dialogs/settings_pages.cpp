@@ -63,6 +63,7 @@ GeneralPage::GeneralPage(Workplace& place, QWidget* parent)
       chartType_(ChoiceBox("DefaultChartType", core::kChartTypeChoices)),
       degree_(ChoiceBox("StatusBarDegreeCalc", core::kDegreeChoices)),
       sort_(ChoiceBox("SortByField", core::kSortChoices)),
+      birthMoment_(ChoiceBox("BirthMoment", core::kBirthMomentChoices)),
       group_(Named<QComboBox>("ICGroupID")),
       chartPath_(Named<QLineEdit>("ChartPath")),
       city_(Named<QLabel>("UserCityID")) {
@@ -79,6 +80,7 @@ void GeneralPage::Build() {
   form->addRow(tr("Chart path:"), BuildChartPath());
   form->addRow(tr("Current city:"), BuildCity());
   form->addRow(tr("&Instant chart group:"), group_);
+  form->addRow(tr("&Births west of Greenwich:"), BuildBirthMoment());
 }
 
 QWidget* GeneralPage::BuildChartPath() {
@@ -93,6 +95,21 @@ QWidget* GeneralPage::BuildCity() {
   QPushButton* button = PlainButton(tr("C&hange…"), "chooseCity");
   connect(button, &QPushButton::clicked, this, [this] { ChooseCity(); });
   return BesideButton(city_, button);
+}
+
+QWidget* GeneralPage::BuildBirthMoment() {
+  auto* words = new QLabel(
+      tr("The moment of the stored chart: by the local mean time of the longitude, or by the "
+         "clock's time less its offset, as the sky was. A chart that is stored changes only when "
+         "its client is saved again."));
+  words->setWordWrap(true);
+  auto* part = new QWidget;
+  auto* layout = new QVBoxLayout(part);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(birthMoment_);
+  layout->addWidget(words);
+  birthMoment_->setAccessibleDescription(words->text());
+  return part;
 }
 
 void GeneralPage::FillGroups() {
@@ -125,6 +142,7 @@ void GeneralPage::Fill(const core::SettingsForm& form) {
   chartType_->setCurrentText(Shown(form.DefaultChartType));
   degree_->setCurrentText(Shown(form.StatusBarDegreeCalc));
   sort_->setCurrentText(Shown(form.SortBy));
+  birthMoment_->setCurrentText(Shown(form.BirthMoment));
   chartPath_->setText(Shown(form.ChartPath));
   cityId_ = form.UserCityId;
   city_->setText(Shown(form.UserCityName));
@@ -136,6 +154,7 @@ void GeneralPage::CopyInto(core::SettingsForm& form) const {
   form.DefaultChartType = Typed(chartType_->currentText());
   form.StatusBarDegreeCalc = Typed(degree_->currentText());
   form.SortBy = Typed(sort_->currentText());
+  form.BirthMoment = Typed(birthMoment_->currentText());
   form.ChartPath = Typed(chartPath_->text());
   form.UserCityId = cityId_;
   form.UserCityName = Typed(city_->text());

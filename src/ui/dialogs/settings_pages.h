@@ -28,6 +28,7 @@ class GeneralPage final : public QWidget {
   void FillGroups();
   QWidget* BuildChartPath();
   QWidget* BuildCity();
+  QWidget* BuildBirthMoment();
   void ChooseChartPath();
   void ChooseCity();
 
@@ -36,6 +37,7 @@ class GeneralPage final : public QWidget {
   QComboBox* chartType_;
   QComboBox* degree_;
   QComboBox* sort_;
+  QComboBox* birthMoment_;
   QComboBox* group_;
   QLineEdit* chartPath_;
   QLabel* city_;

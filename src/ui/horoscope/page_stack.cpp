@@ -16,6 +16,7 @@
 #include "ui/horoscope/birth_star_page.h"
 #include "ui/horoscope/chart_page.h"
 #include "ui/horoscope/dasha_page.h"
+#include "ui/horoscope/exact_page.h"
 #include "ui/horoscope/lo_shu_page.h"
 #include "ui/horoscope/recalculation_page.h"
 #include "ui/horoscope/remedies_page.h"
@@ -69,11 +70,12 @@ struct PageEntry {
 };
 
 // clang-format off
-constexpr std::array<PageEntry, 15> kPages = {{
+constexpr std::array<PageEntry, 16> kPages = {{
     {"chart",         QT_TRANSLATE_NOOP("PageStack", "Chart"),         Read,   Fits::Always,   &Make<ChartPage>},
     {"significators", QT_TRANSLATE_NOOP("PageStack", "Significators"), Read,   Fits::WithBars, &MakeSignificators},
     {"fourStep",      QT_TRANSLATE_NOOP("PageStack", "Four steps"),    Read,   Fits::WithBars, &MakeFourStep},
     {"aspects",       QT_TRANSLATE_NOOP("PageStack", "Aspects"),       Read,   Fits::WithBars, &Make<AspectsPage>},
+    {"exact",         QT_TRANSLATE_NOOP("PageStack", "To the second"), Read,   Fits::WithBars, &Make<ExactPage>},
     {"dasha",         QT_TRANSLATE_NOOP("PageStack", "Periods"),       Time,   Fits::Always,   &Make<DashaPage>},
     {"timeline",      QT_TRANSLATE_NOOP("PageStack", "Timeline"),      Time,   Fits::WithBars, &Make<TimelinePage>},
     {"transit",       QT_TRANSLATE_NOOP("PageStack", "Transits"),      Time,   Fits::WithBars, &Make<TransitPage>},

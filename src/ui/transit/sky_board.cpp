@@ -57,6 +57,7 @@ SkyBoard::SkyBoard(Workplace& place, Side side)
       city_(PlainLabel("skyCity")),
       moon_(PlainLabel("skyMoon")),
       ganapathi_(PlainLabel("skyGanapathiRuling")),
+      next_(PlainLabel("skyNextChange")),
       chart_(new ChartView("skyChart", kSmallestChart)),
       panchang_(MakeTable("panchang", tr("Panchang"))),
       planets_(MakeTable("skyPlanets", tr("Sky View"))) {
@@ -100,6 +101,7 @@ QWidget* SkyBoard::BuildHeader() {
   grid->addWidget(city_, 1, 0);
   grid->addWidget(moon_, 1, 1, Qt::AlignRight);
   grid->addWidget(ganapathi_, 2, 0, 1, 2, Qt::AlignRight);
+  grid->addWidget(next_, 3, 0, 1, 2);
   grid->setColumnStretch(1, 1);
   return strip;
 }
@@ -165,6 +167,7 @@ void SkyBoard::ShowHeader(const panchang::SkyCaptions& captions) {
   moon_->setText(Shown(captions.MoonStatus));
   moon_->setToolTip(Shown(captions.GanapathiRuling));
   ganapathi_->setText(Shown(captions.GanapathiRuling));
+  next_->setText(Shown(captions.AscendantNext + "\n" + captions.MoonNext).trimmed());
 }
 
 }  // namespace orvex::ui

@@ -41,6 +41,7 @@ class SkyBoard final : public QWidget {
   QLabel* city_;
   QLabel* moon_;
   QLabel* ganapathi_;  // what rules the tithi
+  QLabel* next_;       // when the Ascendant and the Moon change their lords
   ChartView* chart_;
   TableView* panchang_;
   TableView* planets_;

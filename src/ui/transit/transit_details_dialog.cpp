@@ -44,6 +44,7 @@ TransitDetailsDialog::TransitDetailsDialog(Workplace& place, transit::Planet pla
       tables_(new QStackedWidget),
       hours_(TimeTable(place, "hours")),
       minutes_(TimeTable(place, "minutes")),
+      changes_(TimeTable(place, "changes")),
       picker_(new TimeEdit("picker", TimeEdit::Shows::Minutes)),
       go_(MakeButton("go", tr("&Go"))),
       sky_(new SkyBoard(place, SkyBoard::Side::Horas)) {
@@ -94,7 +95,13 @@ QWidget* TransitDetailsDialog::BuildPlanet() {
   column->addWidget(title_);
   column->addLayout(days);
   column->addLayout(hour);
-  column->addWidget(tables_, 1);
+  auto* changes = MakeHeading(tr("Changes of this day"));
+  changes->setBuddy(changes_);
+  changes_->setAccessibleName(changes->text());
+  changes_->SetEmptyText(tr("No change of sign, star or sub on this day"));
+  column->addWidget(tables_, 3);
+  column->addWidget(changes);
+  column->addWidget(changes_, 1);
   return half;
 }
 
@@ -150,6 +157,7 @@ void TransitDetailsDialog::ShowDay(transit::Planet planet, core::DateTime date) 
   next_->setText(Shown(details.NextDay.Caption));
   next_->setEnabled(details.NextDay.Enabled);
   today_->setVisible(details.TodayLink);
+  changes_->SetTable(details.Changes);
   ShowHours();
   ShowSky();
 }

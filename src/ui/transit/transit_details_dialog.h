@@ -51,6 +51,7 @@ class TransitDetailsDialog final : public QDialog {
   QStackedWidget* tables_;
   TableView* hours_;
   TableView* minutes_;
+  TableView* changes_;
   TimeEdit* picker_;
   QPushButton* go_;
   SkyBoard* sky_;

@@ -21,6 +21,7 @@
 #include "ui/dialogs/pick_city_dialog.h"
 #include "ui/graphs/month_graph_view.h"
 #include "ui/transit/find_transit_dialog.h"
+#include "ui/transit/month_changes.h"
 #include "ui/transit/transit_details_dialog.h"
 
 namespace orvex::ui {
@@ -72,8 +73,10 @@ TransitGridPage::TransitGridPage(Workplace& place)
       city_(MakeButton("changeCity", tr("Change c&ity…"))),
       title_(MakeCaptionLabel("gridTitle")),
       showGraph_(MakeButton("showGraph", tr("Gra&ph"))),
+      showChanges_(MakeButton("showChanges", tr("Cha&nges"))),
       grid_(new TableView),
       graph_(new MonthGraphView(place)),
+      changes_(new MonthChanges(place)),
       views_(new QStackedWidget) {
   setObjectName("transitGrid");
   FillLists();
@@ -114,6 +117,7 @@ void TransitGridPage::LayOut() {
   layout->addWidget(title_);
   views_->addWidget(grid_);
   views_->addWidget(BuildGraph());
+  views_->addWidget(changes_);
   layout->addWidget(views_, 1);
 }
 
@@ -147,8 +151,10 @@ QHBoxLayout* TransitGridPage::BuildChoices() {
     row->addWidget(widget);
   }
   row->addStretch();
-  showGraph_->setCheckable(true);
-  row->addWidget(showGraph_);
+  for (QPushButton* view : {showGraph_, showChanges_}) {
+    view->setCheckable(true);
+    row->addWidget(view);
+  }
   row->addWidget(find_);
   return row;
 }
@@ -172,7 +178,12 @@ void TransitGridPage::Connect() {
   });
   connect(city_, &QPushButton::clicked, this, &TransitGridPage::ChangeCity);
   connect(find_, &QPushButton::clicked, this, &TransitGridPage::FindTransit);
-  connect(showGraph_, &QPushButton::toggled, this, &TransitGridPage::TurnToGraph);
+  connect(showGraph_, &QPushButton::toggled, this, [this](bool graph) {
+    showGraph_->setText(graph ? tr("Ta&ble") : tr("Gra&ph"));
+    TurnTo(graph ? View::Graph : View::Table);
+  });
+  connect(showChanges_, &QPushButton::toggled, this,
+          [this](bool changes) { TurnTo(changes ? View::Changes : View::Table); });
   connect(graph_, &MonthGraphView::CellChosen, this, [this](std::size_t row, std::size_t column) {
     OpenDetails(grid_->Model().index(static_cast<int>(row), static_cast<int>(column)));
   });
@@ -244,6 +255,7 @@ void TransitGridPage::ShowGrid(transit::MonthGrid month) {
   thisMonthTag_ = month.ThisMonth.Tag;
   grid_->setAccessibleName(tr("Planetary Transit") + ' ' + monthLabel_->text());
   graph_->ShowGrid(month);
+  changes_->SetMonth(month_, year_, view_.ZoneHours);
   grid_->SetTable(std::move(month.Grid));
   if (was.isValid()) {
     SelectCell(std::min(was.row(), grid_->Model().rowCount() - 1), was.column());
@@ -270,6 +282,7 @@ void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
   CreateGrid(mark.Month, mark.Year);
   if (const std::optional<transit::CellPlace> cell = ShowMark()) {
     showGraph_->setChecked(false);
+    showChanges_->setChecked(false);
     SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();
   }
@@ -294,9 +307,16 @@ void TransitGridPage::FindTransit() {
   }
 }
 
-void TransitGridPage::TurnToGraph(bool graph) {
-  views_->setCurrentIndex(graph ? 1 : 0);
-  showGraph_->setText(graph ? tr("Ta&ble") : tr("Gra&ph"));
+// Each of the two buttons turns to its view and back to the table; pressed, it releases the other.
+void TransitGridPage::TurnTo(View view) {
+  if (view != View::Table) {
+    showGraph_->setChecked(view == View::Graph);
+    showChanges_->setChecked(view == View::Changes);
+  }
+  const View shown = showGraph_->isChecked()     ? View::Graph
+                     : showChanges_->isChecked() ? View::Changes
+                                                 : View::Table;
+  views_->setCurrentIndex(static_cast<int>(shown));
 }
 
 void TransitGridPage::ChangeCity() {

@@ -18,6 +18,7 @@ class QStackedWidget;
 namespace orvex::ui {
 
 class LinkButton;
+class MonthChanges;
 class MonthGraphView;
 class TableView;
 class TimeEdit;
@@ -48,6 +49,8 @@ class TransitGridPage final : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
+  enum class View { Table, Graph, Changes };
+
   void LayOut();
   QHBoxLayout* BuildMonths();
   QHBoxLayout* BuildChoices();
@@ -61,7 +64,7 @@ class TransitGridPage final : public QWidget {
   void SelectCell(int row, int column);
   void GoToTag(const std::string& tag);
   void ChangeCity();
-  void TurnToGraph(bool graph);
+  void TurnTo(View view);
   void OpenDetails(const QModelIndex& cell);
 
   Workplace& place_;
@@ -87,8 +90,10 @@ class TransitGridPage final : public QWidget {
   QPushButton* city_;
   QLabel* title_;
   QPushButton* showGraph_;
+  QPushButton* showChanges_;
   TableView* grid_;
   MonthGraphView* graph_;
+  MonthChanges* changes_;
   QStackedWidget* views_;
 };
 

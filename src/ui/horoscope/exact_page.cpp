@@ -1,0 +1,123 @@
+#include "ui/horoscope/exact_page.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "core/settings.h"
+#include "horoscope/exact_reading.h"
+#include "ui/base/export_table.h"
+#include "ui/base/message_boxes.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/segments.h"
+#include "ui/base/theme.h"
+#include "ui/horoscope/field_label.h"
+
+namespace orvex::ui {
+
+namespace {
+
+// clang-format off
+const std::vector<ColumnPlan> kCuspColumns = {
+    {"House",        CellKind::Text,  46, 0},
+    {"Position",     CellKind::Text, 104, 0},
+    {"Longitude",    CellKind::Text,  88, 4},
+    {"Sign Lord",    CellKind::Text,  76, 3},
+    {"Star Lord",    CellKind::Text,  76, 0},
+    {"Sub Lord",     CellKind::Text,  76, 0},
+    {"Sub Sub Lord", CellKind::Text,  86, 1},
+    {"Since",        CellKind::Text,  64, 0},
+    {"Until",        CellKind::Text,  64, 0},
+    {"Stored",       CellKind::Text, 130, 2}};
+
+const std::vector<ColumnPlan> kPlanetColumns = {
+    {"Planet",       CellKind::Chip, 104, 0},
+    {"R",            CellKind::Text,  26, 0},
+    {"Position",     CellKind::Text, 104, 0},
+    {"Longitude",    CellKind::Text,  88, 4},
+    {"House",        CellKind::Text,  46, 0},
+    {"Sign Lord",    CellKind::Text,  76, 3},
+    {"Star Lord",    CellKind::Text,  76, 0},
+    {"Sub Lord",     CellKind::Text,  76, 0},
+    {"Sub Sub Lord", CellKind::Text,  86, 1},
+    {"To Border",    CellKind::Text,  86, 0},
+    {"Stored",       CellKind::Text, 130, 2}};
+// clang-format on
+
+}  // namespace
+
+ExactPage::ExactPage(HoroscopeDocument& document)
+    : HoroscopePage(document),
+      ayanamsa_(new Segments({{"readKp", tr("&KP")}, {"readKpNew", tr("KP &new")}})),
+      captions_(MakeCaptionLabel("exactCaptions")),
+      message_(MakeCaptionLabel("exactMessage")) {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
+  layout->setSpacing(space::kXs);
+  layout->addLayout(LayOutHead());
+  cusps_ = AddTable("ExactCusps", tr("Cusps to the second"), kCuspColumns, *layout);
+  message_->setWordWrap(true);
+  layout->addWidget(message_);
+  planets_ = AddTable("ExactPlanets", tr("Planets to the second"), kPlanetColumns, *layout);
+  // The twelve rows and the nine share the height.
+  layout->setStretchFactor(cusps_, 14);
+  layout->setStretchFactor(planets_, 11);
+}
+
+QHBoxLayout* ExactPage::LayOutHead() {
+  ayanamsa_->setAccessibleName(tr("Ayanamsa"));
+  ayanamsa_->Choose(static_cast<int>(exact::ReadingOf(Document().Place().Session)));
+  connect(ayanamsa_, &Segments::ChosenChanged, this,
+          [this](int part) { ChooseReading(static_cast<exact::Reading>(part)); });
+  captions_->setWordWrap(true);
+  auto* head = new QHBoxLayout;
+  head->addWidget(new FieldLabel(tr("Ayanamsa")));
+  head->addWidget(ayanamsa_);
+  head->addWidget(captions_, 1);
+  return head;
+}
+
+TableView* ExactPage::AddTable(const char* name, const QString& title,
+                               const std::vector<ColumnPlan>& columns, QVBoxLayout& layout) {
+  auto* view = new TableView;
+  view->setObjectName(name);
+  view->setAccessibleName(title);
+  view->setSortingEnabled(false);
+  OfferExport(Document().Place(), *view);
+  auto* plan = new TablePlan(*view, columns);
+  connect(plan, &TablePlan::CodeClicked, &Document(), &HoroscopeDocument::ChoosePlanet);
+  connect(&Document(), &HoroscopeDocument::PlanetChosen, plan, &TablePlan::SetChosen);
+  plan->SetChosen(Document().ChosenPlanet());
+  plans_.push_back(plan);
+  layout.addWidget(view);
+  return view;
+}
+
+// The choice is that of the program, for this client and the next.
+void ExactPage::ChooseReading(exact::Reading reading) {
+  core::Session& session = Document().Place().Session;
+  const core::SaveResult saved = core::SaveExactAyanamsa(session, exact::ReadingName(reading));
+  if (saved.Refused) {
+    Complain(session.Shown, saved.Refused->Text);
+  }
+  ShowModel();
+}
+
+void ExactPage::ShowModel() {
+  const horoscope::OpenedHoroscope& opened = Document().Opened();
+  const horoscope::ExactReading reading =
+      horoscope::ReadToTheSecond(Document().Place().Session, opened.Model, opened.Birth,
+                                 static_cast<exact::Reading>(ayanamsa_->Chosen()));
+  captions_->setText(
+      tr("%1   %2   Stored chart: %3   Tinted: the stored chart says otherwise.")
+          .arg(Shown(reading.Ayanamsa), Shown(reading.Moment), Shown(reading.StoredMoment)));
+  message_->setText(Shown(reading.Message));
+  message_->setVisible(!reading.Message.empty());
+  cusps_->setVisible(reading.Message.empty());
+  cusps_->SetTable(reading.Cusps);
+  planets_->SetTable(reading.Planets);
+  for (TablePlan* plan : plans_) {
+    plan->Fit();
+  }
+}
+
+}  // namespace orvex::ui
