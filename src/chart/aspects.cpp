@@ -1,5 +1,6 @@
 #include "chart/aspects.h"
 
+#include <algorithm>
 #include <array>
 
 #include "chart/vastu_direction.h"
@@ -17,18 +18,20 @@ struct SpecialAspects {
   const char* Planet;
   const char* Code;
   HouseColumn First;
+  int FirstPlaces;
   const char* FirstName;
   HouseColumn Second;
+  int SecondPlaces;
   const char* SecondName;
   std::string HoroscopeCaptions::*Caption;
 };
 
 constexpr std::array<SpecialAspects, 3> kSpecialAspects = {
-    {{"Saturn", "SA", HouseColumn::Asp3, "3rd", HouseColumn::Asp10, "10th",
+    {{"Saturn", "SA", HouseColumn::Asp3, 3, "3rd", HouseColumn::Asp10, 10, "10th",
       &HoroscopeCaptions::SaturnAspects},
-     {"Mars", "MA", HouseColumn::Asp4, "4th", HouseColumn::Asp8, "8th",
+     {"Mars", "MA", HouseColumn::Asp4, 4, "4th", HouseColumn::Asp8, 8, "8th",
       &HoroscopeCaptions::MarsAspects},
-     {"Jupiter", "JU", HouseColumn::Asp5, "5th", HouseColumn::Asp9, "9th",
+     {"Jupiter", "JU", HouseColumn::Asp5, 5, "5th", HouseColumn::Asp9, 9, "9th",
       &HoroscopeCaptions::JupiterAspects}}};
 
 std::string AspectPiece(const char* name, const std::string& planets) {
@@ -133,6 +136,19 @@ std::string AspectedPlanets(const HoroscopeModel& model, std::size_t houseRow, H
 std::string AspectedBy(const HoroscopeModel& model, const std::string& code, HouseColumn aspect) {
   const std::optional<std::size_t> house = HouseOfCode(model, code);
   return house ? AspectedPlanets(model, *house, aspect) : "";
+}
+
+bool AspectsPlace(const std::string& planet, int places) {
+  constexpr int kOpposite = 7;
+  if (planet == "Rahu" || planet == "Ketu") {
+    return false;
+  }
+  const auto* special =
+      std::find_if(kSpecialAspects.begin(), kSpecialAspects.end(),
+                   [&planet](const SpecialAspects& row) { return planet == row.Planet; });
+  return places == kOpposite ||
+         (special != kSpecialAspects.end() &&
+          (places == special->FirstPlaces || places == special->SecondPlaces));
 }
 
 void HouseAspectSummary(HoroscopeModel& model) {

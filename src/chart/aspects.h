@@ -15,6 +15,11 @@ std::string AspectedPlanets(const HoroscopeModel& model, std::size_t houseRow, H
 // The planets that a planet aspects by such a column; "" for a planet without a house.
 std::string AspectedBy(const HoroscopeModel& model, const std::string& code, HouseColumn aspect);
 
+// Whether a planet of that name aspects the sign or house `places` on (its own is 1) as a whole:
+// every planet but the nodes the 7th, Saturn also the 3rd and 10th, Mars the 4th and 8th, Jupiter
+// the 5th and 9th.
+bool AspectsPlace(const std::string& planet, int places);
+
 // The captions of the houses that Saturn, Mars and Jupiter aspect beside the seventh.
 void HouseAspectSummary(HoroscopeModel& model);
 

@@ -1,5 +1,7 @@
 #include "chart/dasha_tree.h"
 
+#include <algorithm>
+
 #include "chart/dasha.h"
 #include "chart/dasha_periods.h"
 
@@ -38,7 +40,34 @@ struct TreeBuilder {
   }
 };
 
+// The last of the periods that holds a date, both ends counted in; nothing where none does.
+std::optional<Period> LastHolding(const std::vector<Period>& periods, core::DateTime date) {
+  const auto found = std::find_if(periods.rbegin(), periods.rend(), [date](const Period& period) {
+    return period.Start <= date && date <= period.End;
+  });
+  return found == periods.rend() ? std::nullopt : std::optional(*found);
+}
+
 }  // namespace
+
+std::optional<std::array<std::string, 3>> LordsRunningOn(const core::ReferenceData& reference,
+                                                         const HoroscopeModel& model,
+                                                         core::DateTime date) {
+  const DashaCycle cycle = DashaCycleOf(reference);
+  const core::DateTime day = core::DateOnly(date);
+  const std::optional<Period> dasha = LastHolding(ListedDashas(cycle, model), day);
+  if (!dasha) {
+    return std::nullopt;
+  }
+  const std::optional<Period> bhukti = LastHolding(BhuktiPeriods(cycle, *dasha), day);
+  if (!bhukti) {
+    return std::nullopt;
+  }
+  const std::optional<Period> antara = LastHolding(AntaraPeriods(cycle, *dasha, *bhukti), day);
+  return antara ? std::optional(
+                      std::array{dasha->Planet.Name, bhukti->Planet.Name, antara->Planet.Name})
+                : std::nullopt;
+}
 
 std::vector<TreeRow> FullDashaTree(const core::ReferenceData& reference,
                                    const HoroscopeModel& model, TreeDepth depth) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,5 +24,11 @@ struct TreeRow {
 // The whole tree of the Dasha list: 81, 729 or 6561 rows in order. Empty where the list is.
 std::vector<TreeRow> FullDashaTree(const core::ReferenceData& reference,
                                    const HoroscopeModel& model, TreeDepth depth);
+
+// The lords of Dasha, Bhukti and Antara that run on a date; on the day on which two periods touch,
+// those of the later one. Nothing before the first period and after the last.
+std::optional<std::array<std::string, 3>> LordsRunningOn(const core::ReferenceData& reference,
+                                                         const HoroscopeModel& model,
+                                                         core::DateTime date);
 
 }  // namespace orvex::chart

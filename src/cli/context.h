@@ -100,6 +100,12 @@ void AddSkyCommands(Command app, Context& context);         // sky, hora
 void AddReportCommands(Command app, Context& context);      // report
 void AddDivisionalCommands(Command app, Context& context);  // divisional
 void AddExactCommands(Command app, Context& context);       // exact, crossings
+void AddMattersCommands(Command app, Context& context);     // matters
+void AddMatterCommand(Command app, Context& context);       // matter
+void AddRulersCommand(Command app, Context& context);       // rulers
+void AddTriggersCommand(Command app, Context& context);     // triggers
+void AddBenchCommand(Command app, Context& context);        // bench
+void AddEventCommands(Command app, Context& context);       // event
 void AddTransitCommands(Command app, Context& context);     // grid, transit, find
 
 }  // namespace orvex::cli

@@ -1,12 +1,11 @@
 #include <iostream>
 
 #include "cli/chart_style.h"
+#include "cli/city_place.h"
 #include "cli/context.h"
 #include "cli/output.h"
-#include "core/exact_numbers.h"
 #include "exact/crossings_table.h"
 #include "horoscope/exact_reading.h"
-#include "practice/cities.h"
 #include "transit/crossings_calendar.h"
 
 namespace orvex::cli {
@@ -66,28 +65,6 @@ void RunExact(Context& context, const ExactOptions& options) {
         {{"ExactCusps", TableJson(reading.Cusps)}, {"ExactPlanets", TableJson(reading.Planets)}}}});
 }
 
-// Where the clocks of the search stand: the user city, or the one that an option names.
-struct SearchCity {
-  exact::Place Where;
-  std::chrono::seconds Offset{};
-};
-
-SearchCity CityOf(core::Session& session, const std::string& option) {
-  const core::ApplicationState& state = session.State;
-  if (option.empty()) {
-    return {
-        {static_cast<double>(state.UserCityLatitude), static_cast<double>(state.UserCityLongitude)},
-        exact::OffsetOf(static_cast<double>(state.UserCityOffset))};
-  }
-  const std::optional<practice::CityForm> city =
-      practice::OpenEditCity(session, WholeOption("--city", option));
-  if (!city) {
-    throw CommandFailed("");
-  }
-  return {{core::ToDouble(city->Latitude), core::ToDouble(city->Longitude)},
-          exact::OffsetOf(core::ToDouble(city->Offset))};
-}
-
 exact::Depth DepthOf(const std::string& option) {
   if (option == "sign") {
     return exact::Depth::Sign;
@@ -99,7 +76,7 @@ exact::Depth DepthOf(const std::string& option) {
 }
 
 exact::CrossingSearch SearchOf(core::Session& session, const CrossingOptions& options,
-                               const SearchCity& city) {
+                               const CityPlace& city) {
   const std::optional<exact::Point> point = exact::PointOfName(options.Point);
   if (!point) {
     throw CommandFailed("POINT takes the name of a planet or Ascendant.");
@@ -110,13 +87,13 @@ exact::CrossingSearch SearchOf(core::Session& session, const CrossingOptions& op
   search.Where = city.Where;
   search.Down = DepthOf(options.Depth);
   search.From = options.From.empty() ? session.Time.Now() - userOffset
-                                     : MomentOption("--from", options.From) - city.Offset;
+                                     : MomentOption("--from", options.From) - city.Clock;
   const bool ascendant = *point == exact::Point::Ascendant;
   search.To = options.To.empty()
                   ? core::DateAdd(ascendant ? core::DateInterval::Days : core::DateInterval::Months,
-                                  1, search.From + city.Offset) -
-                        city.Offset
-                  : MomentOption("--to", options.To) - city.Offset;
+                                  1, search.From + city.Clock) -
+                        city.Clock
+                  : MomentOption("--to", options.To) - city.Clock;
   if (search.To <= search.From) {
     throw CommandFailed("--to takes a moment after --from.");
   }
@@ -125,20 +102,14 @@ exact::CrossingSearch SearchOf(core::Session& session, const CrossingOptions& op
 
 void RunCrossings(Context& context, const CrossingOptions& options) {
   core::Session& session = context.Reading();
-  const SearchCity city = CityOf(session, options.City);
+  const CityPlace city = CityPlaceOf(session, options.City);
   const exact::CrossingSearch search = SearchOf(session, options, city);
   const exact::ExactZodiac zodiac(session.Reference);
   const exact::ExactSky sky(session.Ephemeris, ReadingFor(session, options.Ayanamsa),
                             session.State.RahuKetuCalculation);
   const std::vector<exact::Crossing> crossings = exact::Crossings(sky, zodiac, search);
-  if (!options.IcsFile.empty()) {
-    const auto stamp =
-        session.Time.Now() - exact::OffsetOf(static_cast<double>(session.State.UserCityOffset));
-    core::WriteFileSafely(
-        options.IcsFile,
-        transit::CalendarText(transit::CrossingEvents(zodiac, search, crossings), stamp));
-  }
-  const core::Table table = exact::CrossingsTable(zodiac, crossings, city.Offset);
+  WriteCalendar(session, options.IcsFile, transit::CrossingEvents(zodiac, search, crossings));
+  const core::Table table = exact::CrossingsTable(zodiac, crossings, city.Clock);
   if (context.Json) {
     PrintJson({{"tables", {{"Crossings", TableJson(table)}}}});
   } else {

@@ -112,6 +112,12 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddPlanetCommands(commands, context);
   orvex::cli::AddRemedyCommands(commands, context);
   orvex::cli::AddExactCommands(commands, context);
+  orvex::cli::AddMattersCommands(commands, context);
+  orvex::cli::AddMatterCommand(commands, context);
+  orvex::cli::AddRulersCommand(commands, context);
+  orvex::cli::AddTriggersCommand(commands, context);
+  orvex::cli::AddBenchCommand(commands, context);
+  orvex::cli::AddEventCommands(commands, context);
   orvex::cli::AddTransitCommands(commands, context);
   orvex::cli::AddSearchCommands(commands, context);
   orvex::cli::AddExportCommands(commands, context);

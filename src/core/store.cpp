@@ -12,6 +12,7 @@
 #include "core/exact_numbers.h"
 #include "core/home.h"
 #include "core/letter_case.h"
+#include "core/schema_version.h"
 #include "core/text.h"
 
 namespace orvex::core {
@@ -76,7 +77,7 @@ void CheckFile(const std::filesystem::path& file) {
   if (id != 0 && id != static_cast<std::uint32_t>(kApplicationId)) {
     throw StoreError(StoreFault::Foreign, "a database of another program");
   }
-  if (BigEndian(header, kUserVersionAt, 4) > static_cast<std::uint32_t>(Store::kSchemaVersion)) {
+  if (BigEndian(header, kUserVersionAt, 4) > static_cast<std::uint32_t>(kSchemaVersion)) {
     throw StoreError(StoreFault::LaterRelease, "a database of a later release");
   }
   CheckWholeFile(file, header);

@@ -9,6 +9,7 @@
 
 #include "core/aspect_bands.h"
 #include "core/exact_numbers.h"
+#include "core/schema_version.h"
 #include "core/text.h"
 #include "core/tsv.h"
 #include "core/zodiac_division.h"
@@ -174,22 +175,37 @@ std::int64_t SchemaOf(const Store& store) {
   return store.Query("Select user_version from pragma_user_version").Integer("user_version");
 }
 
-// The schema files after the tables; each says its number in user_version.
+void FillMatters(Store& store, const fs::path& shippedData) {
+  Fill(store, "matter_master", ReadTsv(shippedData / "matter_master.tsv"));
+}
+
+// A schema file after the tables, and what fills the tables that it makes. Rows that the user
+// deletes or changes stay so: a step is done once.
+struct SchemaStep {
+  int Number;  // as the file says it in user_version
+  const char* File;
+  void (*FillTables)(Store&, const fs::path&) = nullptr;
+};
+
 void RunNewerSchemaFiles(Store& store, const fs::path& shippedData) {
-  constexpr std::array<std::pair<int, const char*>, 2> kFiles = {
-      {{2, "002_indexes.sql"}, {3, "003_search_indexes.sql"}}};
-  static_assert(kFiles.back().first == Store::kSchemaVersion);
+  constexpr std::array<SchemaStep, 3> kSteps = {{{2, "002_indexes.sql"},
+                                                 {3, "003_search_indexes.sql"},
+                                                 {4, "004_judgement.sql", FillMatters}}};
+  static_assert(kSteps.back().Number == kSchemaVersion);
   const std::int64_t present = SchemaOf(store);
-  for (const auto& [number, file] : kFiles) {
-    if (present < number) {
-      store.ExecuteScript(ReadWhole(shippedData / "schema" / file));
+  for (const SchemaStep& step : kSteps) {
+    if (present < step.Number) {
+      store.ExecuteScript(ReadWhole(shippedData / "schema" / step.File));
+      if (step.FillTables != nullptr) {
+        step.FillTables(store, shippedData);
+      }
     }
   }
 }
 
 }  // namespace
 
-bool NeedsUpgrade(const Store& store) { return SchemaOf(store) < Store::kSchemaVersion; }
+bool NeedsUpgrade(const Store& store) { return SchemaOf(store) < kSchemaVersion; }
 
 void CreateStore(const fs::path& file, const fs::path& shippedData) {
   const fs::path beside = file.string() + ".new";

@@ -16,7 +16,8 @@ void CreateStore(const std::filesystem::path& file, const std::filesystem::path&
 bool NeedsUpgrade(const Store& store);
 
 // Brings a store to the newest form: adds the columns that probes do not find and fills them, mends
-// the sign table (on every start), and adds the indexes. What was done before a failure stays.
+// the sign table (on every start), and adds what later releases brought: indexes, the matters with
+// their shipped rows, the table of life events. What was done before a failure stays.
 void ApplyStoreUpgrades(Store& store, const std::filesystem::path& shippedData);
 
 }  // namespace orvex::core

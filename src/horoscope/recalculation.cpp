@@ -2,15 +2,12 @@
 
 #include "chart/chart_computation.h"
 #include "chart/client_saving.h"
-#include "chart/dasha.h"
 #include "chart/place_checks.h"
-#include "chart/planet_table.h"
-#include "chart/stored_chart.h"
 #include "chart/sub_sub_lord.h"
 #include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
-#include "horoscope/client_facts.h"
+#include "horoscope/unsaved_horoscope.h"
 
 namespace orvex::horoscope {
 
@@ -72,33 +69,10 @@ core::Table PlanetTable(const core::ReferenceData& reference, const chart::Chart
   return table;
 }
 
-// The planets as they would be read from the store, in the order of the periods.
-std::vector<chart::StoredPlanet> InDashaOrder(const core::ReferenceData& reference,
-                                              const chart::ChartResult& chart) {
-  std::vector<chart::StoredPlanet> planets;
-  for (const chart::DashaPlanet& next : chart::DashaCycleOf(reference)) {
-    for (const chart::PlanetRow& row : chart.Planets) {
-      if (row.Planet == next.Name) {
-        const core::PlanetInfo& info = chart::PlanetOfName(reference, row.Planet);
-        planets.push_back({core::WholeText(info.Id), info.PlanetName, info.PlanetCode,
-                           core::WholeText(info.AstroNumber), core::WholeText(info.DashaYears),
-                           core::ToDouble(row.Degree), HouseText(row.ChalitHouse), row.StarLord,
-                           row.SubLord, row.InRetro == "1"});
-      }
-    }
-  }
-  return planets;
-}
-
 // The Dasha list of the Moon of the new chart and its balance at the new birth.
 void WriteDashas(const core::Session& session, const chart::ChartResult& chart,
                  Recalculation& result) {
-  chart::HoroscopeModel moved;
-  moved.Birth = result.Birth;
-  chart::FillStarTable(session.Reference, moved);
-  chart::FillPlanetTable(session.Reference, moved, InDashaOrder(session.Reference, chart));
-  KeepLights(moved);
-  chart::BuildDashaList(session, moved);
+  const chart::HoroscopeModel moved = UnsavedHoroscope(session, result.Birth, chart);
   result.Dashas = moved.Periods.DashaList;
   result.DashaBalance = moved.Captions.DashaBalance;
 }

@@ -133,6 +133,7 @@ core::SaveResult DeleteClient(core::Session& session, std::int32_t clientId) {
     const std::string id = core::WholeText(clientId);
     store.Execute("Delete from client_planets where clientid = " + id);
     store.Execute("Delete from client_remedy where clientid = " + id);
+    store.Execute("Delete from client_event where clientid = " + id);
     store.Execute("Delete from client_master where id = " + id);
     return clientId;
   });

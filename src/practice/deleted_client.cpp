@@ -73,7 +73,7 @@ std::optional<KeptClient> KeepClient(const core::Session& session, std::int32_t 
   KeptClient kept{clientId, client.Text("fullname"), std::move(group.front()), {}};
   for (const auto& [table, key] :
        {std::pair("client_master", "id = "), std::pair("client_planets", "clientid = "),
-        std::pair("client_remedy", "clientid = ")}) {
+        std::pair("client_remedy", "clientid = "), std::pair("client_event", "clientid = ")}) {
     const std::vector<KeptRow> rows = RowsOf(store, table, key + id);
     kept.Rows.insert(kept.Rows.end(), rows.begin(), rows.end());
   }

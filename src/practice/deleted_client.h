@@ -18,7 +18,7 @@ struct KeptRow {
   std::vector<std::string> Values;
 };
 
-// A client with its planets and remedies, and the group that it stood in.
+// A client with its planets, remedies and life events, and the group that it stood in.
 struct KeptClient {
   std::int32_t Id = 0;
   std::string ClientName;

@@ -55,6 +55,7 @@ void DeleteClients(core::Store& store, const std::string& groupId) {
   }
   const std::string list = core::Join(ids, ",");
   store.Execute("Delete from client_remedy where clientid in (" + list + ")");
+  store.Execute("Delete from client_event where clientid in (" + list + ")");
   store.Execute("Delete from client_planets where clientid in (" + list + ")");
   store.Execute("Delete from client_master where groupid = " + groupId);
 }

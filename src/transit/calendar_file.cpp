@@ -36,10 +36,10 @@ icalcomponent* EntryOf(const CalendarEvent& event, core::DateTime stampUt) {
   add(icalproperty_new_dtstamp(TimeOf(stampUt)));
   if (event.WholeDay) {
     add(icalproperty_new_dtstart(DayOf(event.Start)));
-    add(icalproperty_new_dtend(DayOf(event.Start + std::chrono::days(1))));
+    add(icalproperty_new_dtend(DayOf(event.End.value_or(event.Start + std::chrono::days(1)))));
   } else {
     add(icalproperty_new_dtstart(TimeOf(event.Start)));
-    add(icalproperty_new_dtend(TimeOf(event.Start + std::chrono::hours(1))));
+    add(icalproperty_new_dtend(TimeOf(event.End.value_or(event.Start + std::chrono::hours(1)))));
   }
   add(icalproperty_new_summary(event.Summary.c_str()));
   add(icalproperty_new_description(event.Description.c_str()));

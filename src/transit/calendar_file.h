@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,13 +10,15 @@
 
 namespace orvex::transit {
 
-// One entry. The same identifier in a later file replaces the entry in the user's calendar.
+// One entry: a span where it has an end, else an hour or a whole day. The same identifier in a
+// later file replaces the entry in the user's calendar.
 struct CalendarEvent {
   std::string Uid;
-  core::DateTime Start{};  // a date of an entry of the whole day, else a moment in UT of one hour
+  core::DateTime Start{};  // a date of an entry of whole days, else a moment in UT
   bool WholeDay = false;
   std::string Summary;
   std::string Description;
+  std::optional<core::DateTime> End{};  // the first date or moment behind the entry
 };
 
 // The text of a calendar with these entries, made at `stampUt`.

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <set>
+
 #include "core/cell_colors.h"
 #include "support/model_builder.h"
 
@@ -196,6 +199,18 @@ TEST(Aspects, MissingPlanetsAndHousesCostOnlyTheirOwnRows) {
     EXPECT_NO_THROW(LoadPlanetAspects(damaged, core::DefaultAspectBands(), ""));
     EXPECT_NO_THROW(HouseAspectSummary(damaged));
     EXPECT_EQ(damaged.Captions.JupiterAspects.substr(0, 9), "Jupiter =");
+  }
+}
+
+TEST(Aspects, WholeSignsAreAspectedByTheSeventhAndByThreePlanetsTwoMore) {
+  const std::map<std::string, std::set<int>> wanted = {
+      {"Ketu", {}},           {"Venus", {7}},         {"Sun", {7}},
+      {"Moon", {7}},          {"Mars", {4, 7, 8}},    {"Rahu", {}},
+      {"Jupiter", {5, 7, 9}}, {"Saturn", {3, 7, 10}}, {"Mercury", {7}}};
+  for (const auto& [planet, places] : wanted) {
+    for (int place = 1; place <= 12; ++place) {
+      EXPECT_EQ(AspectsPlace(planet, place), places.contains(place)) << planet << " " << place;
+    }
   }
 }
 

@@ -1,0 +1,96 @@
+#include <benchmark/benchmark.h>
+
+#include "bench_home.h"
+#include "chart/dasha_tree.h"
+#include "horoscope/create_horoscope.h"
+#include "judgement/birth_times.h"
+#include "judgement/judge_matter.h"
+#include "judgement/rulers.h"
+#include "judgement/triggers.h"
+
+namespace orvex::bench {
+namespace {
+
+// A client's horoscope and a matter.
+struct Question {
+  std::unique_ptr<core::Session> Session;
+  horoscope::OpenedHoroscope Opened;
+  judgement::Matter Matter;
+  judgement::MomentOfJudgement Moment;
+  judgement::PeriodWindow Life;
+};
+
+Question Ask(BenchHome& home) {
+  Question question;
+  question.Session = home.Start(core::StartMode::Writer);
+  core::Session& session = *question.Session;
+  const std::int32_t id = chart::SaveNewClient(session, BenchHome::Form(session), 1).Id;
+  question.Opened = horoscope::CreateHoroscope(session, id).value();
+  question.Matter = judgement::FindMatter(session, "Marriage").value();
+  question.Moment = judgement::NowAtUserCity(session);
+  question.Life = {core::ParseDateTime("1950-01-01").value(),
+                   core::ParseDateTime("2120-01-01").value()};
+  return question;
+}
+
+// All tables of the page, with the periods of ten years. Aim: under 50 ms.
+void PageOfAMatter(benchmark::State& state) {
+  BenchHome home;
+  const Question question = Ask(home);
+  const judgement::PeriodWindow tenYears{core::ParseDateTime("2026-11-24").value(),
+                                         core::ParseDateTime("2036-11-24").value()};
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(judgement::JudgeMatter(*question.Session, question.Opened.Model,
+                                                    question.Matter, question.Moment, tenYears));
+  }
+}
+BENCHMARK(PageOfAMatter)->Unit(benchmark::kMillisecond);
+
+// The 729 antaras ranked. Aim: under 20 ms.
+void PeriodsOfALife(benchmark::State& state) {
+  BenchHome home;
+  const Question question = Ask(home);
+  const chart::HoroscopeModel& model = question.Opened.Model;
+  const core::Table planets = judgement::JudgeMatter(*question.Session, model, question.Matter,
+                                                     question.Moment, question.Life)
+                                  .MatterPlanets;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(judgement::BuildMatterPeriods(
+        chart::FullDashaTree(question.Session->Reference, model, chart::TreeDepth::Antara), planets,
+        model.Birth, question.Life));
+  }
+}
+BENCHMARK(PeriodsOfALife)->Unit(benchmark::kMillisecond);
+
+// Sun and Moon over four lords. Aim: under 1 s.
+void TriggersOfAYear(benchmark::State& state) {
+  BenchHome home;
+  const auto session = home.Start(core::StartMode::Writer);
+  judgement::TriggerSearch search;
+  search.Bodies = {exact::Point::Sun, exact::Point::Moon};
+  search.Lords = {"Moon", "Venus", "Mercury", "Saturn"};
+  search.From = core::ParseDateTime("2026-11-24").value();
+  search.To = core::ParseDateTime("2027-11-24").value();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(judgement::BuildTriggers(*session, search));
+  }
+}
+BENCHMARK(TriggersOfAYear)->Unit(benchmark::kMillisecond);
+
+// The widest window with five events.
+void BenchOfABirthTime(benchmark::State& state) {
+  BenchHome home;
+  const Question question = Ask(home);
+  core::Session& session = *question.Session;
+  const core::Table rulers = judgement::RulersAt(session, question.Moment);
+  const std::vector<judgement::LifeEvent> events(
+      5, {core::ParseDateTime("2015-05-05").value(), question.Matter});
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(judgement::BuildBirthTimes(
+        session, question.Opened.Model, judgement::kLongestBenchMinutes, rulers, events));
+  }
+}
+BENCHMARK(BenchOfABirthTime)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace orvex::bench

@@ -1,0 +1,41 @@
+// When moving bodies pass through spans whose three lords all belong to a set.
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "chart/rotation.h"
+#include "core/session.h"
+#include "core/table.h"
+#include "exact/exact_sky.h"
+
+namespace orvex::judgement {
+
+// The bodies that may trigger.
+inline constexpr std::array<exact::Point, 8> kTriggerBodies = {
+    exact::Point::Sun,     exact::Point::Moon,  exact::Point::Mars,   exact::Point::Mercury,
+    exact::Point::Jupiter, exact::Point::Venus, exact::Point::Saturn, exact::Point::Ascendant};
+
+struct TriggerSearch {
+  std::vector<exact::Point> Bodies;   // each once
+  std::set<std::string> Lords;        // names of planets
+  core::DateTime From{};              // UT
+  core::DateTime To{};                // UT
+  exact::Place Where;                 // for the Ascendant
+  std::chrono::seconds Offset{};      // of the clock that the table shows
+  std::optional<astro::Cusps> Natal;  // the cusps of a client
+};
+
+// The stored cusps of a client, from the tables of its birth.
+astro::Cusps NatalCusps(const chart::BirthTables& birth);
+
+enum class TriggerColumn { Body, From, Until, SignLord, StarLord, SubLord, House };
+
+// The spans of the bodies down to the sub in which the lords of sign, star and sub all belong to
+// the set, ordered by From, within one moment by body in the order given. Spans that touch stay
+// apart. House: the natal house in which the body stands at From; empty without natal cusps.
+core::Table BuildTriggers(core::Session& session, const TriggerSearch& search);
+
+}  // namespace orvex::judgement
