@@ -14,6 +14,12 @@ namespace {
 
 class ExactPageTest : public test::DeskTest {
  protected:
+  ~ExactPageTest() override {
+    for (QWidget* window : windows_) {
+      delete window;
+    }
+  }
+
   QWidget& OpenPage(const std::string& horaryNumber = "", const std::string& latitude = "") {
     chart::ClientForm form = chart::OpenAddClient(*session_);
     chart::SelectCity(*session_, 1, form);
@@ -28,6 +34,7 @@ class ExactPageTest : public test::DeskTest {
     const core::SaveResult saved = chart::SaveNewClient(*session_, form, 1);
     EXPECT_FALSE(saved.Refused) << saved.Refused->Text;
     HoroscopeWindow* window = OpenHoroscope(place_, saved.Id);
+    windows_.push_back(window);
     Show(*window);
     auto& pages = Find<QListWidget>(*window, "pages");
     const auto found = pages.findItems("To the second", Qt::MatchExactly);
@@ -40,6 +47,9 @@ class ExactPageTest : public test::DeskTest {
   static QString Cell(QWidget& window, const char* table, int row, int column) {
     return Find<TableView>(window, table).Model().index(row, column).data().toString();
   }
+
+ private:
+  std::vector<QWidget*> windows_;
 };
 
 TEST_F(ExactPageTest, AClickTurnsToTheOtherAyanamsaAndTheNextClientKeepsIt) {
