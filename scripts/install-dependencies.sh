@@ -12,7 +12,7 @@ packages=(
   libical-dev
   libgtest-dev libgmock-dev libbenchmark-dev python3
 )
-development=(clang-format-14 clang-tidy-14 clang-tools-14 locales xvfb xdotool file tidy)
+development=(clang-format-14 clang-tidy-14 clang-tools-14 locales unzip xvfb xdotool file tidy)
 if [ "${1:-}" = "--dev" ]; then packages+=("${development[@]}"); fi
 
 missing=()

@@ -93,6 +93,7 @@ core::Table LoadTimeZones(const core::Session& session) {
     table.AddRow();
     const std::size_t row = table.Rows.size() - 1;
     table.At(row, ZoneColumn::TimeZone).Text = zone.Text("timezone");
+    table.Rows[row].Tag = zone.Text("timezone");
     table.At(row, ZoneColumn::Country).Text = zone.Text("countrycode");
     table.At(row, ZoneColumn::Offset).Text = zone.Text("offset");
   }

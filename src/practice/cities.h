@@ -21,7 +21,7 @@ core::Table LoadCities(const core::Session& session);
 core::Table PreviouslyUsedCities(const core::Session& session);
 core::Table SearchCities(const core::Session& session, const std::string& text);
 
-// All time zones by name.
+// All time zones by name, which is the tag of the row too.
 core::Table LoadTimeZones(const core::Session& session);
 
 // Why the choice of the pick-a-city dialog may not be taken: 0 is none. A change of tab and each

@@ -28,7 +28,8 @@ class Safety(CommandLineTest):
         settings = os.path.join(self.environment["XDG_CONFIG_HOME"], "orvex",
                                 "machine-settings.json")
         commands = [["export", "clients", "--file"], ["grid", "2026", "11", "--svg"],
-                    ["grid", "2026", "11", "--ics"], ["horoscope", client, "--timeline"]]
+                    ["grid", "2026", "11", "--ics"], ["horoscope", client, "--timeline"],
+                    ["find", "Sun", "--degree", "100", "--ics"], ["crossings", "Moon", "--ics"]]
         for number, own in enumerate([store, backup, link, name, os.path.relpath(store), template,
                                       settings]):
             before = self.content(own)

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <ctime>
 #include <vector>
 
 #include "chart/client_saving.h"
@@ -111,11 +111,12 @@ TEST_F(CitySearchTest, KnowsTheCitiesThatTheUserAddedAndRenamed) {
 TEST_F(CitySearchTest, AnswersEachKeyAtOnce) {
   const CitySearch search = Search();
   for (const char* text : {"s", "sa", "san", "san j", "hyderabad pk", "xyzzy"}) {
-    const auto begin = std::chrono::steady_clock::now();
+    // Processor time: the machine may be busy with other things.
+    const std::clock_t begin = std::clock();
     search.Find(text, 20);
-    const auto took = std::chrono::steady_clock::now() - begin;
+    const double milliseconds = 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
     // Ten times as much in a build without optimisation.
-    EXPECT_LT(std::chrono::duration_cast<std::chrono::milliseconds>(took).count(), 300) << text;
+    EXPECT_LT(milliseconds, 300) << text;
   }
 }
 

@@ -1,5 +1,5 @@
 // Programs that are killed at any moment of a save, an edit, a deletion, an import and a restore.
-// $ORVEX_KILLS sets how many are (50 where it is not set).
+// $ORVEX_KILLS sets how many are (100 where it is not set).
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,6 +16,7 @@
 #include "core/backup.h"
 #include "practice/client_import.h"
 #include "practice/client_list.h"
+#include "practice/groups.h"
 #include "support/test_home.h"
 
 namespace orvex::practice {
@@ -55,6 +56,10 @@ class Killed : public testing::Test {
         .Text("degree");
   }
 
+  static std::int64_t Count(const core::Session& session, const std::string& rows) {
+    return session.StoreConnection.Query("Select count(*) as n from " + rows).Integer("n");
+  }
+
   // Works until it is killed, and tells each time that it begins.
   [[noreturn]] void Work(const Action& action, int round, int ready) {
     home_.Clock.Set(home_.Clock.Now() + std::chrono::hours(round + 1));
@@ -87,6 +92,7 @@ class Killed : public testing::Test {
     int status = 0;
     ::waitpid(child, &status, 0);
     ::close(ends[0]);
+    torn_ += fs::exists(home_.Place.StoreFile().string() + "-journal") ? 1 : 0;
     return began && again && WIFSIGNALED(status);
   }
 
@@ -94,9 +100,7 @@ class Killed : public testing::Test {
     const auto session = home_.Start();
     ASSERT_TRUE(session);
     const core::Store& store = session->StoreConnection;
-    const auto count = [&store](const std::string& rows) {
-      return store.Query("Select count(*) as n from " + rows).Integer("n");
-    };
+    const auto count = [&session](const std::string& rows) { return Count(*session, rows); };
     EXPECT_EQ(count("client_master cm where 9 <> (select count(*) from client_planets cp "
                     "where cp.clientid = cm.id)"),
               0);
@@ -120,6 +124,7 @@ class Killed : public testing::Test {
   test::TestHome home_;
   fs::path copy_;
   std::map<std::string, std::string> moons_;  // by birth
+  int torn_ = 0;                              // kills that fell into a writing
   std::mt19937 random_{11};
 };
 
@@ -148,13 +153,50 @@ TEST_F(Killed, NothingIsHalfWritten) {
         core::RestoreStore(home_.Place, copy_, home_.Clock);
       }};
   const char* told = std::getenv("ORVEX_KILLS");
-  const int kills = told == nullptr ? 50 : std::atoi(told);
+  const int kills = told == nullptr ? 100 : std::atoi(told);
   for (int round = 0; round < kills; ++round) {
     const std::size_t action = static_cast<std::size_t>(round) % actions.size();
     ASSERT_TRUE(Kill(actions.at(action), round)) << round;
     ExpectWhole();
     ASSERT_FALSE(HasFailure()) << "after kill " << round << " of action " << action;
   }
+  EXPECT_GT(torn_, kills / 10) << "too few kills fell into a writing";
+}
+
+// Kills the deletion at a moment that grows from round to round.
+TEST_F(Killed, ADeletionOfALargeGroupLeavesAllOfItsClientsOrNone) {
+  constexpr int kClients = 10000;
+  constexpr int kKills = 12;
+  home_.Start()->StoreConnection.ExecuteScript(
+      "insert into group_master (id, groupname) values (2, 'Large');"
+      "with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000)"
+      " insert into client_master (id, fullname, groupid, cityid)"
+      " select 100 + i, 'Client', 2, 19 from n;"
+      "insert into client_planets (clientid, planetid)"
+      " select cm.id, pm.id from client_master cm, planet_master pm where cm.groupid = 2");
+  const std::string whole = test::ReadFile(home_.Place.StoreFile());
+  int kept = 0;
+  for (int round = 0; round < kKills; ++round) {
+    core::WriteFileSafely(home_.Place.StoreFile(), whole);
+    const pid_t child = ::fork();
+    if (child == 0) {
+      const auto session = home_.Start();
+      DeleteGroup(*session, 2);
+      ::_exit(0);
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(20 + round * 15));
+    ::kill(child, SIGKILL);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    const auto session = home_.Start();
+    ASSERT_TRUE(session);
+    const std::int64_t clients = Count(*session, "client_master where groupid = 2");
+    EXPECT_TRUE(clients == 0 || clients == kClients) << clients;
+    EXPECT_EQ(Count(*session, "client_planets"), 9 * (clients + 2));
+    EXPECT_EQ(Count(*session, "group_master where id = 2"), clients == 0 ? 0 : 1);
+    kept += clients == kClients ? 1 : 0;
+  }
+  EXPECT_GT(kept, 0) << "no kill fell before the end of a deletion";
 }
 
 }  // namespace

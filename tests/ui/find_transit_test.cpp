@@ -79,6 +79,27 @@ TEST_F(TransitWindowTest, WhatIsFoundIsToldAndLeadsIntoTheGrid) {
             QColor(238, 237, 245));
 }
 
+TEST_F(TransitWindowTest, ThePadaThatIsPickedIsTheOneThatIsSearchedFor) {
+  FindTransitDialog find(place_);
+  Show(find);
+  Find<QComboBox>(find, "planet").setCurrentText("Sun");
+  Type(find, "from", "24 nov 2026");
+  QTest::mouseClick(&Find<QWidget>(find, "byNakshatra"), Qt::LeftButton, {}, {8, 8});
+  auto& stars = Find<QComboBox>(find, "Nakshatra");
+  stars.setFocus();
+  QTest::keyClicks(&stars, "Rohini");
+  auto& padas = Find<QComboBox>(find, "Pada");
+  padas.setFocus();
+  Press(find, "find");
+  EXPECT_EQ(Typed(Text(find, "result")),
+            "Sun will get to Rohini Nakshatra (Pada 1) on 25 May 2027 at 17:00.");
+  padas.setFocus();
+  QTest::keyClick(&padas, Qt::Key_End);
+  Press(find, "find");
+  EXPECT_EQ(Typed(Text(find, "result")),
+            "Sun will get to Rohini Nakshatra (Pada 4) on 5 June 2027 at 03:00.");
+}
+
 TEST_F(TransitWindowTest, AFoundDateBeyondTheGridIsKeptOutOfIt) {
   FindTransitDialog find(place_);
   Show(find);

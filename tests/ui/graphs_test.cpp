@@ -144,6 +144,16 @@ TEST_F(Graphs, SavedAndPrintedGraphsAreLightAndPrivateWhateverTheTheme) {
   files_.Chosen = home_.Place.Folder / "none" / "month.svg";
   messages_.Await("the file " + files_.Chosen.string() + " could not be written");
   QTest::keySequence(&view, QKeySequence::Save);
+
+  const std::string store = test::ReadFile(home_.Place.StoreFile());
+  files_.Chosen = home_.Place.StoreFile();
+  for (const auto key : {QKeySequence::Save, QKeySequence::Print}) {
+    messages_.Await("The file " + files_.Chosen.string() +
+                    " belongs to Orvex+ itself: the database, its copies, the report template or "
+                    "the settings. Please choose another name.");
+    QTest::keySequence(&view, key);
+  }
+  EXPECT_EQ(test::ReadFile(files_.Chosen), store);
 }
 
 TEST_F(Graphs, AClickOnABarOpensItsPeriodAndTheKeysGoOnFromThere) {

@@ -193,7 +193,7 @@ TEST_F(HoroscopeWindowTest, TheKeysTurnThroughAllPagesAndEveryTableShowsRows) {
   auto& pages = Find<QListWidget>("pages");
   // The captions of the groups are passed over.
   QStringList turned;
-  for (int page = 0; page < 16; ++page) {
+  for (int page = 0; page < 17; ++page) {
     turned << pages.currentItem()->text();
     EXPECT_TRUE(pages.currentItem()->flags().testFlag(Qt::ItemIsEnabled));
     QTest::keyClick(window_, Qt::Key_PageDown, Qt::ControlModifier);

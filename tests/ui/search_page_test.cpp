@@ -212,6 +212,23 @@ TEST_F(SearchPageTest, TheExportWritesWhatWasFound) {
   EXPECT_GT(std::filesystem::file_size(files_.Chosen), 0U);
 }
 
+TEST_F(SearchPageTest, AListIsNotExportedOverTheProgramsOwnFiles) {
+  const std::string store = test::ReadFile(home_.Place.StoreFile());
+  std::filesystem::create_symlink(home_.Place.StoreFile(), home_.Place.Folder / "found.xlsx");
+  EXPECT_EQ(Found().size(), 3);
+  for (const std::filesystem::path& own :
+       {home_.Place.StoreFile(), home_.Place.Folder / "found.xlsx",
+        home_.Plan().MachineSettingsFile, home_.Place.DataFolder() / "Backups" / "found.xlsx"}) {
+    files_.Chosen = own;
+    messages_.Await("The file " + own.string() +
+                    " belongs to Orvex+ itself: the database, its copies, the report template or "
+                    "the settings. Please choose another name.");
+    Press("exportResults");
+  }
+  EXPECT_EQ(test::ReadFile(home_.Place.StoreFile()), store);
+  EXPECT_FALSE(std::filesystem::exists(files_.Chosen));
+}
+
 TEST_F(SearchPageTest, TheClientListShowsTheColumnThatItIsSortedBy) {
   const QHeaderView& header = *Find<TableView>(*window_, "clientList").horizontalHeader();
   EXPECT_TRUE(header.isSortIndicatorShown());

@@ -11,6 +11,11 @@ unset DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
 
 fail() { echo "$1" >&2; exit 1; }
 
+words=$("$orvex" --now garbage 2>&1) && fail "started at no moment"
+grep -q '"garbage" is no moment' <<<"$words" || fail "no word of the moment: $words"
+words=$("$orvex" --home "" 2>&1) && fail "started in a folder without a name"
+grep -q "a folder is needed" <<<"$words" || fail "no word of the folder: $words"
+
 words=$("$orvex" 2>&1) && fail "started without a display"
 [ "$(wc -l <<<"$words")" -eq 1 ] || fail "not one line without a display: $words"
 grep -q display <<<"$words" || fail "no word of the display: $words"

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -10,11 +9,9 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <utility>
 
-#include "practice/birthdays.h"
 #include "practice/client_list.h"
 #include "ui/base/export_table.h"
 #include "ui/base/guide.h"
@@ -24,6 +21,7 @@
 #include "ui/dialogs/about_box.h"
 #include "ui/dialogs/cities_dialog.h"
 #include "ui/dialogs/settings_dialog.h"
+#include "ui/main/birthday_list.h"
 #include "ui/main/client_commands.h"
 #include "ui/main/client_lists.h"
 #include "ui/main/first_run.h"
@@ -35,13 +33,6 @@
 namespace orvex::ui {
 
 namespace {
-
-QLabel* Panel(const char* name) {
-  auto* label = new QLabel;
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
 
 QAction* Command(QWidget& window, const char* name, const QString& text, const QKeySequence& keys) {
   auto* action = new QAction(text, &window);
@@ -62,14 +53,8 @@ MainWindow::MainWindow(Workplace& place)
       transits_(new TransitCommands(place, *pages_, *this)),
       search_(new SearchPage(place)),
       halves_(new QSplitter(Qt::Horizontal)),
-      birthdayCaption_(Panel("birthdayCaption")),
-      birthdays_(new TableView),
-      count_(Panel("clientCount")),
-      total_(Panel("totalClients")),
-      ascendant_(Panel("currentAscendant")),
-      nodes_(Panel("nodeMode")),
-      disha_(Panel("dishaShool")),
-      date_(Panel("dateNow")) {
+      birthdays_(new BirthdayList(place)),
+      status_(*statusBar(), *commands_->UndoDelete) {
   MakeActions();
   LayOut();
   Connect();
@@ -137,7 +122,6 @@ void MainWindow::LayOut() {
   auto* layout = new QVBoxLayout(middle);
   layout->addWidget(halves_);
   setCentralWidget(middle);
-  MakeStatusBar();
   if (!place_.Layout.RestoreWindow(*this)) {
     resize(1366, 720);
   }
@@ -150,45 +134,13 @@ QWidget* MainWindow::BuildClientsPage() {
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName("clientsAndBirthdays");
   rows->addWidget(lists_);
-  rows->addWidget(BuildBirthdays());
+  rows->addWidget(birthdays_);
   rows->setStretchFactor(0, 5);
   rows->setStretchFactor(1, 1);
   place_.Layout.Remember(*rows);
   clientsPage_->addWidget(rows);
   clientsPage_->addWidget(firstRun_);
   return clientsPage_;
-}
-
-QWidget* MainWindow::BuildBirthdays() {
-  birthdays_->setObjectName("birthdayList");
-  birthdays_->setAccessibleName(tr("Birthdays"));
-  birthdays_->SetEmptyText(tr("Nobody has a birthday today."));
-  auto* box = new QWidget;
-  auto* column = new QVBoxLayout(box);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(birthdayCaption_);
-  column->addWidget(birthdays_, 1);
-  return box;
-}
-
-void MainWindow::MakeStatusBar() {
-  for (QLabel* panel : {count_, total_}) {
-    statusBar()->addWidget(panel);
-  }
-  statusBar()->addWidget(MakeUndoButton());
-  for (QLabel* panel : {ascendant_, nodes_, disha_, date_}) {
-    statusBar()->addPermanentWidget(panel);
-  }
-}
-
-QWidget* MainWindow::MakeUndoButton() {
-  auto* undo = new QToolButton;
-  undo->setObjectName("undoButton");
-  undo->setDefaultAction(commands_->UndoDelete);
-  undo->setVisible(commands_->UndoDelete->isVisible());
-  connect(commands_->UndoDelete, &QAction::changed, undo,
-          [this, undo] { undo->setVisible(commands_->UndoDelete->isVisible()); });
-  return undo;
 }
 
 void MainWindow::Connect() {
@@ -208,13 +160,14 @@ void MainWindow::Connect() {
   connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::MakeRoom);
   connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::FollowPage);
   connect(sky_, &SkyPanel::Refreshed, this, [this] {
-    ShowSkyStatus();
-    FollowDay();
+    status_.ShowSky(sky_->View().Captions);
+    birthdays_->FollowDay();
   });
   connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);
-  connect(lists_, &ClientLists::CountChanged, count_, &QLabel::setText);
+  connect(lists_, &ClientLists::CountChanged, this,
+          [this](const QString& text) { status_.ShowCount(text); });
   connect(commands_, &ClientCommands::ClientsChanged, this, [this] {
-    ShowBirthdays();
+    birthdays_->Reload();
     ShowClientCounts();
     search_->Reload();
   });
@@ -226,10 +179,10 @@ void MainWindow::Connect() {
     search_->Results().AddMenuAction(action);
   }
   for (TableView* list : findChildren<TableView*>()) {
-    list->RememberWidths(place_.Layout);
-    list->SetExport([this, list](const core::Table& table) {
-      ExportTable(place_, *this, table, Typed(list->accessibleName()));
-    });
+    if (!birthdays_->isAncestorOf(list)) {
+      list->RememberWidths(place_.Layout);
+      OfferExport(place_, *list);
+    }
   }
   lists_->ClientTable().SetExport([this](const core::Table& table) {
     ExportTable(place_, *this, table, Typed(lists_->GroupName()));
@@ -264,7 +217,7 @@ void MainWindow::MakeRoom() {
 }
 
 void MainWindow::Start() {
-  ShowBirthdays();
+  birthdays_->Reload();
   sky_->Refresh();
   lists_->LoadGroups();
   ShowClientCounts();
@@ -276,37 +229,9 @@ void MainWindow::AddPage(QWidget* page, const QString& title) { pages_->addTab(p
 
 // A practice without clients shows the first steps in the place of its empty lists.
 void MainWindow::ShowClientCounts() {
-  total_->setText(Shown(practice::TotalClients(place_.Session)));
+  status_.ShowTotal(Shown(practice::TotalClients(place_.Session)));
   const bool anyone = practice::HasClients(place_.Session);
   clientsPage_->setCurrentIndex(anyone || lists_->Group() == 0 ? 0 : 1);
-}
-
-// The program is left open over midnight.
-void MainWindow::FollowDay() {
-  if (place_.Session.Time.Today() != birthdaysOf_) {
-    ShowBirthdays();
-  }
-}
-
-void MainWindow::ShowBirthdays() {
-  birthdaysOf_ = place_.Session.Time.Today();
-  core::Table birthdays = practice::GetBirthdaysToday(place_.Session);
-  birthdayCaption_->setText(Shown(practice::BirthdayCaption(birthdays)));
-  const bool any = !birthdays.Rows.empty();
-  birthdays_->SetTable(std::move(birthdays));
-  birthdays_->SetExport(
-      any ? std::function<void(const core::Table&)>([this](const core::Table& table) {
-        ExportTable(place_, *this, table, Typed(birthdayCaption_->text()));
-      })
-          : nullptr);
-}
-
-void MainWindow::ShowSkyStatus() {
-  const panchang::SkyCaptions& captions = sky_->View().Captions;
-  ascendant_->setText(Shown(captions.Ascendant));
-  nodes_->setText(Shown(captions.NodeMode));
-  disha_->setText(Shown(captions.DishaShool));
-  date_->setText(Shown(captions.WeekdayName + " " + captions.Date));
 }
 
 void MainWindow::OpenSettings() {

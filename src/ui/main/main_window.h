@@ -4,20 +4,20 @@
 #include <QMainWindow>
 
 #include "ui/base/workplace.h"
+#include "ui/main/status_panels.h"
 
-class QLabel;
 class QSplitter;
 class QStackedWidget;
 class QTabWidget;
 
 namespace orvex::ui {
 
+class BirthdayList;
 class ClientCommands;
 class ClientLists;
 class FirstRun;
 class SearchPage;
 class SkyPanel;
-class TableView;
 class TransitCommands;
 
 class MainWindow final : public QMainWindow {
@@ -44,13 +44,7 @@ class MainWindow final : public QMainWindow {
   void MakeMenus();
   void MakeToolBar();
   QWidget* BuildClientsPage();
-  QWidget* BuildBirthdays();
-  void MakeStatusBar();
-  QWidget* MakeUndoButton();
   void ShowClientCounts();
-  void ShowBirthdays();
-  void FollowDay();
-  void ShowSkyStatus();
   void OpenSettings();
   void OpenCities();
   template <typename Box>
@@ -67,15 +61,8 @@ class MainWindow final : public QMainWindow {
   SearchPage* search_;
   QSplitter* halves_;
   QList<int> givenSizes_;  // of the halves beside the page of the clients
-  core::DateTime birthdaysOf_{};
-  QLabel* birthdayCaption_;
-  TableView* birthdays_;
-  QLabel* count_;
-  QLabel* total_;
-  QLabel* ascendant_;
-  QLabel* nodes_;
-  QLabel* disha_;
-  QLabel* date_;
+  BirthdayList* birthdays_;
+  StatusPanels status_;
   QAction* settings_ = nullptr;
   QAction* cities_ = nullptr;
   QAction* refresh_ = nullptr;

@@ -1,0 +1,32 @@
+// Who has a birthday today. Follows the clock over midnight, for the program is left open.
+#pragma once
+
+#include <QWidget>
+
+#include "core/date_text.h"
+#include "ui/base/workplace.h"
+
+class QLabel;
+
+namespace orvex::ui {
+
+class TableView;
+
+class BirthdayList final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit BirthdayList(Workplace& place, QWidget* parent = nullptr);
+
+  void Reload();
+  // Reloads where the day has changed since.
+  void FollowDay();
+
+ private:
+  Workplace& place_;
+  QLabel* caption_;
+  TableView* list_;
+  core::DateTime day_{};  // whose birthdays are shown
+};
+
+}  // namespace orvex::ui
