@@ -88,7 +88,7 @@ int Run(int argc, char** argv) {
   Workplace place{*session, files, layout};
   const std::int32_t client = AddClient(*session, "1990-07-05 14:30:00");
   WritePages(*OpenHoroscope(place, client), folder);
-  DivisionalDialog divisions(horoscope::CreateHoroscope(*session, client)->Model, 'N', nullptr);
+  DivisionalDialog divisions(*horoscope::CreateHoroscope(*session, client), 'N', nullptr);
   WritePicture(divisions, folder / "divisions.png");
   for (int i = 0; i < 5; ++i) {
     // The id of a client is found by the second of its making.

@@ -584,6 +584,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
   QApplication application(argc, argv);
+  orvex::ui::Theme::Apply(application);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

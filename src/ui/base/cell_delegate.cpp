@@ -209,6 +209,12 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         degree->Figures);
     } else if (kind == CellKind::Heat) {
       PaintHeat(*painter, own, own.text);
+    } else if (kind == CellKind::Bold) {
+      own.font.setBold(true);
+      PaintText(*painter, own);
+    } else if (kind == CellKind::Letter) {
+      own.text = own.text.left(1);
+      PaintText(*painter, own);
     } else if (kind == CellKind::Age) {
       own.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
       own.palette.setColor(QPalette::Text, t.Ink2);
@@ -225,6 +231,14 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->fillRect(QRect(own.rect.left(), own.rect.bottom(), own.rect.width(), line::kHair),
                     t.Rule);
   painter->restore();
+}
+
+int CellDelegate::PlacedWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  QStyleOptionViewItem own = option;
+  own.rect = QRect(0, 0, 0, 1);
+  initStyleOption(&own, index);
+  const std::vector<Placed> placed = LayOut(own, index);
+  return placed.empty() ? 0 : placed.back().Box.right() + 1 + kGap;
 }
 
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {

@@ -40,6 +40,9 @@ class CellDelegate final : public QStyledItemDelegate {
   QString CodeAt(const QStyleOptionViewItem& option, const QModelIndex& index,
                  const QPoint& point) const;
 
+  // The pixels that the chips and words of a cell take, with a small gap behind them.
+  int PlacedWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const;
+
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -8,6 +8,8 @@ namespace orvex::ui {
 
 enum class CellKind {
   Text,
+  Bold,     // the figure that is read first
+  Letter,   // a word by its first letter
   Chip,     // a planet's chip and its name, with the marks of its row
   Lord,     // a chip and the planet's houses, the one that it occupies bold
   Degree,   // a degree of the circle as degree and minute in its sign

@@ -1,5 +1,7 @@
 #include "ui/base/keys.h"
 
+#include <QAbstractButton>
+#include <QShortcut>
 #include <stdexcept>
 
 namespace orvex::ui {
@@ -53,6 +55,13 @@ QString WithKeys(const QString& text, const QKeySequence& keys) {
   bare.remove('&').remove(u'…');
   return keys.isEmpty() ? bare
                         : QString("%1 (%2)").arg(bare, keys.toString(QKeySequence::NativeText));
+}
+
+// A button's own shortcut shows it pressed for a while first.
+void BindKeys(QAbstractButton& button, const QKeySequence& keys) {
+  button.setToolTip(WithKeys(button.text(), keys));
+  auto* shortcut = new QShortcut(keys, &button);
+  QObject::connect(shortcut, &QShortcut::activated, &button, &QAbstractButton::click);
 }
 
 QString GuideTableOfKeys(const QString& window) {

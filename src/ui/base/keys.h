@@ -6,6 +6,8 @@
 #include <QString>
 #include <vector>
 
+class QAbstractButton;
+
 namespace orvex::ui {
 
 struct KeyEntry {
@@ -22,6 +24,10 @@ QKeySequence KeysOf(const QString& window, const QString& name);
 
 // A text with its key behind it, "Rotate (Ctrl+R)", as tool tips say it.
 QString WithKeys(const QString& text, const QKeySequence& keys);
+
+// Gives a button its key, which presses it at once, and a tool tip that says so. The key works
+// while the button is in sight.
+void BindKeys(QAbstractButton& button, const QKeySequence& keys);
 
 // The table under a heading of the guide's page, as Markdown.
 QString GuideTableOfKeys(const QString& window);

@@ -2,9 +2,11 @@
 
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QStyle>
 #include <algorithm>
 
 #include "ui/base/cell_text.h"
+#include "ui/base/qt_text.h"
 #include "ui/base/room_plan.h"
 
 namespace orvex::ui {
@@ -29,9 +31,40 @@ int TablePlan::ColumnOf(const std::string& caption) const {
   return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
 }
 
-// Widths are told for the usual text; larger text needs more.
-int TablePlan::Least(const ColumnPlan& column) const {
-  return column.Least * Theme::TextSize() / 100;
+// Widths are told for the usual text; larger text needs more. A caption and a planet with its
+// houses are never cut, words are.
+int TablePlan::Least(const ColumnPlan& column, int place) const {
+  const int told = column.Least * Theme::TextSize() / 100;
+  if (column.Kind == CellKind::Heat) {
+    return told;
+  }
+  const QHeaderView& header = *view_.horizontalHeader();
+  const int caption = header.isHidden()
+                          ? 0
+                          : header.fontMetrics().horizontalAdvance(Shown(column.Caption)) +
+                                2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin);
+  const bool whole = column.Kind == CellKind::Chip || column.Kind == CellKind::Lord;
+  return std::max({told, caption, whole ? WidestCell(place) : 0});
+}
+
+int TablePlan::WidestCell(int column) const {
+  QStyleOptionViewItem option;
+  option.font = view_.font();
+  int widest = 0;
+  for (int row = 0; row < view_.model()->rowCount(); ++row) {
+    widest = std::max(widest, cells_->PlacedWidth(option, view_.model()->index(row, column)));
+  }
+  return widest;
+}
+
+// What every column of the plan needs in the table that is shown.
+void TablePlan::Measure() {
+  needs_.clear();
+  for (const ColumnPlan& column : columns_) {
+    if (const int place = ColumnOf(column.Caption); place >= 0) {
+      needs_.push_back({place, Least(column, place), column.Rank});
+    }
+  }
 }
 
 void TablePlan::TakeKinds() {
@@ -68,6 +101,7 @@ void TablePlan::Fit() {
   TakeKinds();
   view_.setHorizontalScrollBarPolicy(all_ ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
   PlaceColumns();
+  Measure();
   ShareWidth();
   ShareHeight();
 }
@@ -86,39 +120,39 @@ void TablePlan::SetChosen(const QString& code) {
   view_.viewport()->update();
 }
 
-// Every shown column has its least width or the one that the user gave it, and its part of what is
-// left over.
+// Every shown column has its least width or the one that the user gave it, which keeps it in sight,
+// and its part of what is left over.
 void TablePlan::ShareWidth() {
   if (all_) {
     return;
   }
   std::vector<ColumnRoom> rooms;
-  std::vector<int> places;
-  for (const ColumnPlan& column : columns_) {
-    if (const int place = ColumnOf(column.Caption); place >= 0) {
-      places.push_back(place);
-      rooms.push_back({view_.WidthByHand(place).value_or(Least(column)), column.Rank});
-    }
+  int spread = 0;
+  for (const Need& need : needs_) {
+    const std::optional<int> byHand = view_.WidthByHand(need.Column);
+    rooms.push_back({byHand.value_or(need.Least), byHand ? 0 : need.Rank});
   }
   const int room = view_.viewport()->width();
   const std::vector<bool> shown = FitColumns(rooms, room);
   int taken = 0;
-  int spread = 0;
   for (std::size_t i = 0; i < rooms.size(); ++i) {
+    const bool grows = shown[i] && !view_.WidthByHand(needs_[i].Column);
     taken += shown[i] ? rooms[i].Least : 0;
-    spread += shown[i] && !view_.WidthByHand(places[i]) ? rooms[i].Least : 0;
+    spread += grows ? rooms[i].Least : 0;
   }
+  // What the user has made wider than the room is reached by a bar.
+  view_.setHorizontalScrollBarPolicy(taken > room ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
   const int over = std::max(0, room - taken);
   std::vector<int> widths(view_.Table().Columns.size(), 0);
   int given = 0;
   int last = -1;
   for (std::size_t i = 0; i < rooms.size(); ++i) {
     if (shown[i]) {
-      const bool grows = spread > 0 && !view_.WidthByHand(places[i]);
-      const int more = grows ? over * rooms[i].Least / spread : 0;
-      widths.at(static_cast<std::size_t>(places[i])) = rooms[i].Least + more;
+      const bool grows = !view_.WidthByHand(needs_[i].Column);
+      const int more = grows && spread > 0 ? over * rooms[i].Least / spread : 0;
+      widths.at(static_cast<std::size_t>(needs_[i].Column)) = rooms[i].Least + more;
       given += more;
-      last = grows ? places[i] : last;
+      last = grows ? needs_[i].Column : last;
     }
   }
   if (last >= 0) {

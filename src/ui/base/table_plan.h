@@ -46,15 +46,25 @@ class TablePlan final : public QObject {
 
  private:
   int ColumnOf(const std::string& caption) const;
-  int Least(const ColumnPlan& column) const;
+  int Least(const ColumnPlan& column, int place) const;
+  int WidestCell(int column) const;
+  void Measure();
   void TakeKinds();
   void PlaceColumns();
   void ShareWidth();
   void ShareHeight();
   void Click(const QPoint& at);
 
+  // What a column of the table needs, in the order of the plan.
+  struct Need {
+    int Column = 0;
+    int Least = 0;
+    int Rank = 0;
+  };
+
   TableView& view_;
   std::vector<ColumnPlan> columns_;
+  std::vector<Need> needs_;
   RowBounds rows_;
   CellDelegate* cells_;
   bool all_ = false;

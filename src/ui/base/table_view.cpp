@@ -77,10 +77,13 @@ void TableView::LayOutTable() {
   SizeToContent();
 }
 
+// A column that comes back takes its width again, which is not the user's doing.
 void TableView::HideColumns() {
+  sizing_ = true;
   for (int column = 0; column < model_->columnCount(); ++column) {
     setColumnHidden(column, Table().Columns[static_cast<std::size_t>(column)].Width == 0);
   }
+  sizing_ = false;
 }
 
 void TableView::SizeToContent() {

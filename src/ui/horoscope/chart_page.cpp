@@ -20,8 +20,10 @@ namespace orvex::ui {
 namespace {
 
 // Pixels at the usual text size.
-constexpr int kSideWidth = 206;
-constexpr int kNarrowWidth = 900;  // below, one chart and one table
+constexpr int kLeastSideWidth = 192;
+constexpr int kMostSideWidth = 250;
+constexpr double kSidePart = 0.168;  // of the width
+constexpr int kNarrowWidth = 900;    // below, one chart and one table
 constexpr int kNarrowHeight = 540;
 constexpr int kRoomForSide = 1000;
 constexpr int kLeastSide = 160;
@@ -41,14 +43,14 @@ QLabel* SmallTitle(const QString& text) {
 // clang-format off
 std::vector<ColumnPlan> PlanetColumns() {
   return {{"Planet",       CellKind::Chip,   112, 0},
-          {"In",           CellKind::Text,    30, 0},
-          {"Owner",        CellKind::Text,    48, 3},
-          {"Degree",       CellKind::Degree,  82, 0},
-          {"Sign Lord",    CellKind::Lord,    76, 4},
-          {"Star Lord",    CellKind::Lord,    76, 0},
-          {"Sub Lord",     CellKind::Lord,    76, 0},
-          {"Sub Sub Lord", CellKind::Lord,    82, 1},
-          {"S/T/U",        CellKind::Text,    38, 2},
+          {"In",           CellKind::Bold,    28, 0},
+          {"Owner",        CellKind::Text,    46, 4},
+          {"Degree",       CellKind::Degree,  78, 0},
+          {"Sign Lord",    CellKind::Lord,    70, 2},
+          {"Star Lord",    CellKind::Lord,    70, 0},
+          {"Sub Lord",     CellKind::Lord,    70, 0},
+          {"Sub Sub Lord", CellKind::Lord,    78, 1},
+          {"S/T/U",        CellKind::Letter,  40, 3},
           {"Nakshatra",    CellKind::Text,   104, 5},
           {"Pada",         CellKind::Text,    40, 6},
           {"Type",         CellKind::Text,    90, 7},
@@ -56,7 +58,7 @@ std::vector<ColumnPlan> PlanetColumns() {
 }
 
 std::vector<ColumnPlan> CuspColumns() {
-  return {{"House",         CellKind::Text,    46, 0},
+  return {{"House",         CellKind::Bold,    46, 0},
           {"Degree",        CellKind::Degree,  82, 0},
           {"Sign Lord",     CellKind::Lord,    62, 2},
           {"Star Lord",     CellKind::Lord,    62, 0},
@@ -119,7 +121,8 @@ void ChartPage::PlanTables() {
     const auto row = chart::RowOfCode(Model(), Typed(code));
     return row ? Shown(chart::HouseList(Model(), *row)) : QString();
   });
-  ruling_->SetPlan({{"Description", CellKind::Text, 104, 0}, {"Planet", CellKind::Chip, 96, 0}});
+  ruling_->View().setFont(Theme::Text(type::kSmall));
+  ruling_->SetPlan({{"Description", CellKind::Text, 98, 0}, {"Planet", CellKind::Chip, 84, 0}});
   ruling_->View().horizontalHeader()->hide();
 }
 
@@ -147,8 +150,7 @@ QWidget* ChartPage::LayOutTables() {
   allColumns_->setCheckable(true);
   allColumns_->setIcon(Icon("columns"));
   allColumns_->setFixedHeight(height::kSmallField);
-  allColumns_->setShortcut(KeysOf("Horoscope", "allColumns"));
-  allColumns_->setToolTip(WithKeys(allColumns_->text(), allColumns_->shortcut()));
+  BindKeys(*allColumns_, KeysOf("Horoscope", "allColumns"));
   auto* head = new QHBoxLayout;
   head->setSpacing(space::kXs);
   head->addWidget(whichTable_);
@@ -167,7 +169,6 @@ QWidget* ChartPage::LayOutTables() {
 QWidget* ChartPage::LayOutSide() {
   ruling_->TitleLine().addWidget(whose_);
   auto* part = new QWidget;
-  part->setFixedWidth(Scaled(kSideWidth));
   auto* layout = new QVBoxLayout(part);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(space::kS);
@@ -244,6 +245,8 @@ void ChartPage::Arrange() {
   const int side = std::max(kLeastSide, std::min(high, static_cast<int>(width() * part)));
   ArrangeCharts(side, one);
   ArrangeTables(one);
+  side_->setFixedWidth(std::clamp(static_cast<int>(width() * kSidePart), Scaled(kLeastSideWidth),
+                                  Scaled(kMostSideWidth)));
   side_->setVisible(width() >= Scaled(kRoomForSide));
 }
 

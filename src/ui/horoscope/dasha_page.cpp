@@ -99,8 +99,7 @@ void DashaPage::AddTools() {
   connect(date_, &QLineEdit::returnPressed, this, &DashaPage::GoToTyped);
   QPushButton* running = MakeButton("runningPeriods", tr("Running periods"));
   running->setFixedHeight(height::kSmallField);
-  running->setShortcut(KeysOf("Horoscope", "running"));
-  running->setToolTip(WithKeys(running->text(), running->shortcut()));
+  BindKeys(*running, KeysOf("Horoscope", "running"));
   connect(running, &QPushButton::clicked, this,
           [this] { GoTo(Document().Place().Session.Time.Today()); });
   periods_->TitleLine().addWidget(date_);

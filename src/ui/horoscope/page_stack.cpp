@@ -209,6 +209,9 @@ HoroscopePage* PageStack::MakePage(std::size_t place) {
   const PageEntry& entry = kPages.at(place);
   HoroscopePage* page = entry.Make(document_);
   page->setObjectName(entry.Name);
+  // One sheet: the tables stand on their own ground.
+  page->setBackgroundRole(QPalette::Base);
+  page->setAutoFillBackground(true);
   connect(page, &HoroscopePage::PlanetActivated, this, &PageStack::PlanetActivated);
   QWidget* shown = page;
   if (entry.Room == Fits::WithBars) {
