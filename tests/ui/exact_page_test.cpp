@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 
 #include "chart/client_saving.h"
@@ -15,7 +16,7 @@ namespace {
 class ExactPageTest : public test::DeskTest {
  protected:
   ~ExactPageTest() override {
-    for (QWidget* window : windows_) {
+    for (const QPointer<QWidget>& window : windows_) {
       delete window;
     }
   }
@@ -34,7 +35,7 @@ class ExactPageTest : public test::DeskTest {
     const core::SaveResult saved = chart::SaveNewClient(*session_, form, 1);
     EXPECT_FALSE(saved.Refused) << saved.Refused->Text;
     HoroscopeWindow* window = OpenHoroscope(place_, saved.Id);
-    windows_.push_back(window);
+    windows_.emplace_back(window);
     Show(*window);
     auto& pages = Find<QListWidget>(*window, "pages");
     const auto found = pages.findItems("To the second", Qt::MatchExactly);
@@ -49,7 +50,7 @@ class ExactPageTest : public test::DeskTest {
   }
 
  private:
-  std::vector<QWidget*> windows_;
+  std::vector<QPointer<QWidget>> windows_;
 };
 
 TEST_F(ExactPageTest, AClickTurnsToTheOtherAyanamsaAndTheNextClientKeepsIt) {
