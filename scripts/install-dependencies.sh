@@ -8,11 +8,12 @@ packages=(
   libswe-dev swe-basic-data swe-standard-data
   libsqlite3-dev libicu-dev libxlsxwriter-dev libfmt-dev nlohmann-json3-dev libcli11-dev
   libhowardhinnant-date-dev tzdata
-  qt6-base-dev qt6-svg-dev fonts-dejavu-core fonts-open-sans fonts-sil-gentiumplus weasyprint cmark-gfm
+  qt6-base-dev qt6-svg-dev fonts-dejavu-core fonts-open-sans fonts-sil-gentiumplus libqpdf-dev cmark-gfm
   libical-dev
   libgtest-dev libgmock-dev libbenchmark-dev python3
 )
-development=(clang-format-14 clang-tidy-14 clang-tools-14 locales unzip xvfb xdotool file tidy)
+development=(clang-format-14 clang-tidy-14 clang-tools-14 locales unzip xvfb xdotool file tidy
+  poppler-utils fonts-lohit-deva fonts-lohit-taml)
 if [ "${1:-}" = "--dev" ]; then packages+=("${development[@]}"); fi
 
 missing=()

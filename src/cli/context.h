@@ -98,6 +98,7 @@ void AddImportCommand(Command app, Context& context);       // import
 void AddSettingsCommands(Command app, Context& context);    // settings
 void AddSkyCommands(Command app, Context& context);         // sky, hora
 void AddReportCommands(Command app, Context& context);      // report
+void AddSheetCommand(Command app, Context& context);        // sheet
 void AddDivisionalCommands(Command app, Context& context);  // divisional
 void AddExactCommands(Command app, Context& context);       // exact, crossings
 void AddMattersCommands(Command app, Context& context);     // matters

@@ -109,6 +109,7 @@ int RunProgram(int argc, char** argv) {
   orvex::cli::AddDivisionalCommands(commands, context);
   orvex::cli::AddChartsCommands(commands, context);
   orvex::cli::AddReportCommands(commands, context);
+  orvex::cli::AddSheetCommand(commands, context);
   orvex::cli::AddPlanetCommands(commands, context);
   orvex::cli::AddRemedyCommands(commands, context);
   orvex::cli::AddExactCommands(commands, context);

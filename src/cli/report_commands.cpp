@@ -7,9 +7,9 @@
 #include "core/text.h"
 #include "practice/client_list.h"
 #include "report/html_report.h"
-#include "report/pdf.h"
 #include "ui/painting/offscreen.h"
 #include "ui/painting/picture_files.h"
+#include "ui/painting/report_document.h"
 
 namespace orvex::cli {
 
@@ -47,14 +47,19 @@ report::ReportRequest RequestOf(Context& context, const ReportOptions& options) 
 std::vector<std::string> WriteReport(Context& context, const ReportOptions& options,
                                      const std::string& id) {
   const horoscope::OpenedHoroscope opened = OpenHoroscope(context, id);
+  const report::ReportRequest request = RequestOf(context, options);
   const std::filesystem::path file =
-      report::GenerateHoroscopeView(context.Reading(), opened, RequestOf(context, options));
+      report::GenerateHoroscopeView(context.Reading(), opened, request);
   if (file.empty()) {
     throw CommandFailed("");
   }
   std::vector<std::string> files = {file.string()};
   if (options.Pdf) {
-    files.push_back(report::WritePdf(file).string());
+    std::filesystem::path pdf = file;
+    pdf.replace_extension(".pdf");
+    ui::WriteReportPdf(
+        report::ContentOf(context.Reading(), opened.Model, request.Detail, request.Style), pdf);
+    files.push_back(pdf.string());
   }
   return files;
 }

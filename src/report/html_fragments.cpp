@@ -2,6 +2,7 @@
 
 #include "core/cell_colors.h"
 #include "core/text.h"
+#include "report/report_tables.h"
 #include "vedic/lo_shu_tables.h"
 
 namespace orvex::report {
@@ -86,16 +87,6 @@ std::string BodyCell(const std::string& text) {
   return std::string("<td valign='top'>") + kFont + text + kFontEnd;
 }
 
-std::vector<std::size_t> ShownColumns(const core::Table& table) {
-  std::vector<std::size_t> shown;
-  for (std::size_t i = 0; i < table.Columns.size(); ++i) {
-    if (table.Columns[i].Width != 0) {
-      shown.push_back(i);
-    }
-  }
-  return shown;
-}
-
 std::string HeaderRow(const core::Table& table) {
   std::string cells;
   for (const std::size_t column : ShownColumns(table)) {
@@ -132,19 +123,19 @@ std::string SouthGridHtml(const SouthGrid& grid) {
   return html + kGridClosing;
 }
 
-std::string DashaTableHtml(const std::vector<std::string>& captions,
-                           const std::vector<std::vector<std::string>>& rows) {
+std::string DashaTableHtml(const core::Table& periods) {
   std::string html =
       "<table bgcolor='#F4F7FC' border='0' width='100%' cellspacing='0' cellpadding='3'>\n"
       "<tr bgcolor='#6D6D6D'>";
-  for (const std::string& caption : captions) {
-    html += "<td><font face='Verdana' size='2' color='#FFFFFF'><b>" + caption + "</b></font></td>";
+  for (const core::Column& column : periods.Columns) {
+    html += "<td><font face='Verdana' size='2' color='#FFFFFF'><b>" + column.Caption +
+            "</b></font></td>";
   }
   html += "</tr>\n";
-  for (const std::vector<std::string>& row : rows) {
+  for (const core::Row& row : periods.Rows) {
     html += "<tr>";
-    for (const std::string& text : row) {
-      html += std::string("<td>") + kFont + text + kFontEnd;
+    for (const core::Cell& cell : row.Cells) {
+      html += std::string("<td>") + kFont + cell.Text + kFontEnd;
     }
     html += "</tr>\n";
   }

@@ -26,15 +26,11 @@ std::string HeaderCell(const std::string& caption);
 std::string BodyCell(const std::string& text);
 std::string HeaderRow(const core::Table& table);
 
-// Places of the columns that are shown.
-std::vector<std::size_t> ShownColumns(const core::Table& table);
-
 // A chart in South Indian style: four rows of four cells, the middle left empty.
 std::string SouthGridHtml(const SouthGrid& grid);
 
 // A table of periods in the report's dasha style.
-std::string DashaTableHtml(const std::vector<std::string>& captions,
-                           const std::vector<std::vector<std::string>>& rows);
+std::string DashaTableHtml(const core::Table& periods);
 
 // The Lo Shu grid from the texts of its numbers, lines parted by "*".
 std::string LoShuGridHtml(const std::array<std::string, 10>& cellTexts);

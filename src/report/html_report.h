@@ -9,11 +9,9 @@
 #include "core/session.h"
 #include "horoscope/create_horoscope.h"
 #include "report/chart_picture.h"
+#include "report/report_tables.h"
 
 namespace orvex::report {
-
-// How deep the tables of periods go: 81, 729 or 6561 rows.
-enum class ReportDetail { DB, DBA, DBAS };
 
 // Paints a chart and gives the bytes of a bitmap file.
 using ChartPainter = std::function<std::string(const ChartPicture& picture)>;

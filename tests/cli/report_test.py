@@ -129,8 +129,19 @@ class Reports(CommandLineTest):
             page = stream.read()
         self.assertNotIn("$(id);&<i>", page)
         self.assertIn("%2541 %23x %3Fy", page)
-        with open(os.path.join(folder, "1.pdf"), "rb") as stream:
-            self.assertIn(b"/Subtype /Image", stream.read())
+
+    def test_a_sheet_is_one_private_page_and_never_takes_the_place_of_own_files(self):
+        file = os.path.join(os.path.dirname(self.home), "sheet.pdf")
+        for arguments in (["--paper", "A5"], ["--style", "S"]):
+            self.assertEqual(self.succeed("sheet", "1", "--file", file, *arguments), file + "\n")
+            self.assert_files([file])
+            said = subprocess.run(["pdfinfo", file], capture_output=True, text=True, check=True)
+            self.assertRegex(said.stdout, r"Pages: +1\n")
+        store = os.path.join(self.home, "Data", "ORVD.mdb")
+        status, out, err = self.call("sheet", "1", "--file", store)
+        self.assertEqual((status, out), (1, ""))
+        self.assertIn("belongs to Orvex+ itself", err)
+        self.assertEqual(self.call("sheet", "1", "--file", file, "--paper", "A3")[0], 2)
 
     def test_pictures_that_cannot_be_written_leave_the_old_ones(self):
         folder = os.path.join(os.path.dirname(self.home), "pictures")

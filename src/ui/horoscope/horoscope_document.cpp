@@ -87,6 +87,10 @@ horoscope::Recalculation HoroscopeDocument::Recalculate(const horoscope::Recalcu
   return horoscope::Recalculate(place_.Session, Model(), form);
 }
 
+report::ReportContent HoroscopeDocument::ContentOfReport(report::ReportDetail detail) const {
+  return report::ContentOf(place_.Session, Model(), detail, style_);
+}
+
 std::filesystem::path HoroscopeDocument::WriteReport(report::ReportDetail detail) {
   report::ReportRequest request;
   request.Detail = detail;

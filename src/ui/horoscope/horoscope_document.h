@@ -9,6 +9,7 @@
 #include "horoscope/create_horoscope.h"
 #include "horoscope/recalculation.h"
 #include "report/html_report.h"
+#include "report/report_content.h"
 #include "ui/base/workplace.h"
 
 namespace orvex::ui {
@@ -60,6 +61,9 @@ class HoroscopeDocument final : public QObject {
 
   // Writes the report of what is shown; an empty path where it was refused with a message.
   std::filesystem::path WriteReport(report::ReportDetail detail);
+
+  // Everything that the report of what is shown holds.
+  report::ReportContent ContentOfReport(report::ReportDetail detail) const;
 
  signals:
   void Changed();

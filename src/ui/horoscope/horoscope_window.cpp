@@ -13,7 +13,6 @@
 #include <algorithm>
 #include <array>
 
-#include "report/pdf.h"
 #include "ui/base/elided_label.h"
 #include "ui/base/guide.h"
 #include "ui/base/icon.h"
@@ -30,6 +29,7 @@
 #include "ui/horoscope/neighbour_client.h"
 #include "ui/horoscope/page_stack.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
+#include "ui/painting/report_document.h"
 
 namespace orvex::ui {
 
@@ -373,8 +373,12 @@ void HoroscopeWindow::Export(report::ReportDetail detail, bool asPdf) {
 
 std::filesystem::path HoroscopeWindow::WriteReport(report::ReportDetail detail, bool asPdf) {
   try {
-    const std::filesystem::path file = document_.WriteReport(detail);
-    return asPdf && !file.empty() ? report::WritePdf(file) : file;
+    std::filesystem::path file = document_.WriteReport(detail);
+    if (asPdf && !file.empty()) {
+      file.replace_extension(".pdf");
+      WriteReportPdf(document_.ContentOfReport(detail), file);
+    }
+    return file;
   } catch (const std::exception& error) {
     Complain(document_.Place().Session.Shown, error.what());
     return {};
