@@ -4,6 +4,7 @@
 
 #include "core/text.h"
 #include "support/test_home.h"
+#include "transit/crossings_calendar.h"
 
 namespace orvex::transit {
 namespace {
@@ -44,6 +45,28 @@ TEST(Calendar, AMonthHasItsChangesOfSignAndStationsOnceAMonth) {
   }
   EXPECT_EQ(uids.size(), events);
   EXPECT_EQ(suns, 12U);
+}
+
+TEST(Calendar, EachChangeOfLordsIsAnEntryButNotTheSpanThatWasThereBefore) {
+  test::TestHome home;
+  const auto session = home.Start();
+  const exact::ExactZodiac zodiac(session->Reference);
+  const exact::ExactSky sky(session->Ephemeris, exact::Reading::Kp,
+                            session->State.RahuKetuCalculation);
+  exact::CrossingSearch search;
+  search.From = test::Moment("2026-11-24 06:00");
+  search.To = test::Moment("2026-11-25 06:00");
+  const auto spans = exact::Crossings(sky, zodiac, search);
+  const auto events = CrossingEvents(zodiac, search, spans);
+  ASSERT_EQ(events.size(), spans.size() - 1);
+  std::set<std::string> uids;
+  for (std::size_t i = 0; i < events.size(); ++i) {
+    EXPECT_EQ(events[i].Start, spans[i + 1].From);
+    EXPECT_TRUE(events[i].Summary.starts_with("Moon enters ")) << events[i].Summary;
+    EXPECT_THAT(events[i].Description, HasSubstr(" - " + spans[i + 1].Held.Sub));
+    uids.insert(events[i].Uid);
+  }
+  EXPECT_EQ(uids.size(), events.size());
 }
 
 TEST(Calendar, AFoundTransitIsItsHourInUt) {
