@@ -11,7 +11,7 @@
 #include "core/text.h"
 #include "horoscope/create_horoscope.h"
 #include "support/test_home.h"
-#include "transit/planet_sheet.h"
+#include "transit/planet_sheet_home.h"
 #include "transit/transit_calendar.h"
 #include "vedic/karakas.h"
 #include "vedic/vastu.h"
@@ -101,38 +101,7 @@ TEST(FindWords, QuartersAndSignsBeginWhereTheStoreSays) {
   EXPECT_EQ(choices.Zodiacs.front() + choices.Zodiacs.back(), "AriesPisces");
 }
 
-class SheetRules : public testing::Test {
- protected:
-  SheetRules() {
-    chart::ClientForm form = chart::OpenAddClient(*session_);
-    form.FullName = "Client";
-    form.Birth = test::Moment("1985-09-05 11:58");
-    form.Latitude = "40.71427";
-    form.Longitude = "-74.00597";
-    form.Offset = "-5";
-    const std::int32_t id = chart::SaveNewClient(*session_, form, 1).Id;
-    model_ = horoscope::CreateHoroscope(*session_, id)->Model;
-  }
-
-  PlanetSheet SheetOf(std::size_t row) const {
-    return ShowPlanetDetails(model_, row, test::Moment("2026-11-24"));
-  }
-
-  static std::string Value(const PlanetSheet& sheet, const std::string& label) {
-    for (const core::Row& row : sheet.Sheet.Rows) {
-      for (std::size_t i = 0; i < 6; i += 2) {
-        if (row.Cells[i].Text == label) {
-          return row.Cells[i + 1].Text;
-        }
-      }
-    }
-    return "no such label";
-  }
-
-  test::TestHome home_;
-  std::unique_ptr<core::Session> session_ = home_.Start();
-  chart::HoroscopeModel model_;
-};
+class SheetRules : public PlanetSheets {};
 
 TEST_F(SheetRules, ADashaIsBlackWhileItRunsRedAfterAndBlueBefore) {
   const core::Table& dashas = model_.Periods.DashaList;
@@ -156,7 +125,7 @@ TEST_F(SheetRules, ADashaIsBlackWhileItRunsRedAfterAndBlueBefore) {
 TEST_F(SheetRules, EachKarakaIsNamedAtItsPlanet) {
   std::set<std::string> titles;
   for (std::size_t row = 0; row < 9; ++row) {
-    const std::string karaka = Value(SheetOf(row), "Jamini Karaka");
+    const std::string karaka = Value(SheetOfRow(row), "Jamini Karaka");
     const std::string& name = chart::PlanetText(model_, row, chart::PlanetColumn::Planet);
     const bool node = name == "Rahu" || name == "Ketu";
     EXPECT_EQ(karaka == "N/A", node) << name;
@@ -171,7 +140,7 @@ TEST_F(SheetRules, TheListsTellOtherEndDirectionAndKindOfEachHit) {
   std::multiset<std::string> fromSheets;
   std::multiset<std::string> toSheets;
   for (std::size_t row = 0; row < 9; ++row) {
-    const PlanetSheet sheet = SheetOf(row);
+    const PlanetSheet sheet = SheetOfRow(row);
     const std::string code =
         core::UpperCase(chart::PlanetText(model_, row, chart::PlanetColumn::Planet).substr(0, 2));
     const auto told = [&code](const core::Row& hit) {
@@ -220,7 +189,7 @@ TEST_F(SheetRules, EachPairOfTheSheetShowsTheCellThatItsLabelNames) {
       {"Nakshatra", PlanetColumn::Nakshatra}, {"Pada", PlanetColumn::Pada},
       {"Gunas", PlanetColumn::Gunas}};
   for (std::size_t row = 0; row < 9; ++row) {
-    const PlanetSheet sheet = SheetOf(row);
+    const PlanetSheet sheet = SheetOfRow(row);
     for (const auto& [label, column] : cells) {
       EXPECT_EQ(Value(sheet, label), chart::PlanetText(model_, row, column)) << label;
     }
