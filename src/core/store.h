@@ -75,9 +75,6 @@ class Result {
 
 class Store {
  public:
-  // The newest form of the schema; a store that says more was written by a later release.
-  static constexpr int kSchemaVersion = 3;
-
   // Opens a store for reading and writing. Nothing in the file is changed. StoreError with the
   // fault for what is missing, foreign, cut short, later or read-only.
   static Store Open(const std::filesystem::path& path);
