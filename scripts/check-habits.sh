@@ -38,6 +38,9 @@ forbid "Below the windows nothing knows Qt:" '# *include *[<"]Q' 'src/ui/.*'
 globs=$(git ls-files '*CMakeLists.txt' '*.cmake' | xargs grep -niE 'file *\( *GLOB' || true)
 [ -z "$globs" ] || fault "Sources are listed one by one:" "$globs"
 
+twice=$(python3 scripts/twice-named.py)
+[ -z "$twice" ] || fault "A name of two files that are compiled together:" "$twice"
+
 long=$(git ls-files 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'tests/*.py' | xargs wc -l | awk '$1 > 500 && $2 != "total"')
 [ -z "$long" ] || fault "Files of more than 500 lines:" "$long"
 

@@ -13,10 +13,9 @@ namespace orvex::chart {
 
 namespace {
 
-constexpr std::size_t kSigns = 12;
 constexpr int kColumnWidth = 63;
 
-constexpr std::array<const char*, kSigns> kIndianNames = {
+constexpr std::array<const char*, kSignCount> kIndianNames = {
     "Mesha", "Rishaba",   "Mithuna", "Karka",  "Simha",  "Kanya",
     "Tula",  "Vrischika", "Dhanu",   "Makara", "Kumbha", "Meena"};
 constexpr std::array<const char*, 4> kElements = {"Fire", "Earth", "Air", "Water"};
@@ -29,7 +28,7 @@ core::Cell& GridCell(HoroscopeModel& model, GridRow row, std::size_t sign) {
 void AddHeads(HoroscopeModel& model) {
   core::Table& grid = model.AspectGrid;
   grid = {{{"Dir", kColumnWidth, "Direction"}}, {}};
-  for (int sign = 1; sign <= static_cast<int>(kSigns); ++sign) {
+  for (int sign = 1; sign <= static_cast<int>(kSignCount); ++sign) {
     grid.Columns.push_back({VastuDirection(sign), kColumnWidth, VastuPadsOfSign(sign), true});
   }
   for (const char* head : {"Zodiac", "Owner", "Element", "Modality", "Rashi No.", "House"}) {
@@ -37,7 +36,7 @@ void AddHeads(HoroscopeModel& model) {
   }
 }
 
-void FillSign(HoroscopeModel& model, std::size_t sign) {
+void FillGridSign(HoroscopeModel& model, std::size_t sign) {
   const int rashi = static_cast<int>(sign);
   core::Cell& name = GridCell(model, GridRow::Zodiac, sign);
   name.Text = RashiName(rashi);
@@ -89,8 +88,8 @@ float AngleToCusp(const HoroscopeModel& model, std::size_t sign, float longitude
 
 void BuildAspectGrid(HoroscopeModel& model, const core::AspectBandLimits& bands) {
   AddHeads(model);
-  for (std::size_t sign = 1; sign <= kSigns; ++sign) {
-    FillSign(model, sign);
+  for (std::size_t sign = 1; sign <= kSignCount; ++sign) {
+    FillGridSign(model, sign);
     FillHouse(model, sign);
   }
   for (std::size_t row = 0; row < model.PlanetTable.Rows.size(); ++row) {
@@ -108,7 +107,7 @@ void CalcAspect(HoroscopeModel& model, const core::AspectBandLimits& bands, std:
     const auto rashi = core::ParseWhole(PlanetTag(model, planetRow, PlanetColumn::Rashi));
     row.Cells.front().Tag = VastuDirection(static_cast<int>(rashi.value()));
   });
-  for (std::size_t sign = 1; sign <= kSigns; ++sign) {
+  for (std::size_t sign = 1; sign <= kSignCount; ++sign) {
     core::Attempt([&] {
       const float longitude = core::ToSingle(PlanetTag(model, planetRow, PlanetColumn::Degree));
       const float angle = AngleToCusp(model, sign, longitude);

@@ -38,7 +38,7 @@ std::string AspectPiece(const char* name, const std::string& planets) {
   return planets.empty() ? "" : std::string(" (") + name + " Aspect - " + planets + ")";
 }
 
-bool IsNode(const std::string& code) { return code == "RA" || code == "KE"; }
+bool IsNodeCode(const std::string& code) { return code == "RA" || code == "KE"; }
 
 struct PlanetPair {
   std::string From;
@@ -168,7 +168,7 @@ void LoadPlanetAspects(HoroscopeModel& model, const core::AspectBandLimits& band
   const std::vector<std::string> codes = CodesByHouse(model);
   for (const std::string& from : codes) {
     for (const std::string& to : codes) {
-      if (!IsNode(from)) {
+      if (!IsNodeCode(from)) {
         core::Attempt([&] { ListPair(model, bands, filter, {from, to}); });
       }
     }

@@ -28,7 +28,7 @@ std::string KetuOfChart(const std::string& rahuDegree) {
   return core::TwoDecimals(rahu > 180 ? rahu - 180 : rahu + 180);
 }
 
-PlanetRow RowOf(const std::string& name, const std::string& degree, bool retrograde) {
+PlanetRow StoredRowOf(const std::string& name, const std::string& degree, bool retrograde) {
   PlanetRow row;
   row.Planet = name;
   row.Degree = degree;
@@ -121,10 +121,10 @@ std::vector<PlanetRow> PlanetsAt(core::Session& session, astro::JulianDayUt day,
     const astro::Position position = session.Ephemeris.CalcUt(day, number, flags);
     const std::string degree = astro::ChartDegreeText(position.Longitude);
     if (number <= astro::kSaturnNumber) {
-      rows.push_back(RowOf(session.Ephemeris.PlanetName(number), degree, position.Speed < 0));
+      rows.push_back(StoredRowOf(session.Ephemeris.PlanetName(number), degree, position.Speed < 0));
     } else if (number == node) {
-      rows.push_back(RowOf("Rahu", degree, false));
-      rows.push_back(RowOf("Ketu", KetuOfChart(degree), false));
+      rows.push_back(StoredRowOf("Rahu", degree, false));
+      rows.push_back(StoredRowOf("Ketu", KetuOfChart(degree), false));
     }
   }
   return rows;

@@ -14,10 +14,6 @@ using core::Trim;
 constexpr double kFullCircle = 360;
 constexpr int kLastHoraryNumber = 249;
 
-Refusal Refuse(const char* text, const char* field) {
-  return {text, core::MessageIcon::Information, field};
-}
-
 bool IsWithin(const std::string& text, double low, double high) {
   const std::optional<double> value = core::ParseNumber(text);
   return value && *value >= low && *value <= high;
@@ -30,26 +26,26 @@ bool IsHoraryNumber(const std::string& text) {
 
 std::optional<Refusal> CheckQuery(const ClientForm& form) {
   if (form.Horary && !IsHoraryNumber(form.HoraryNumber)) {
-    return Refuse("Please enter a value between 1 to 249.", "horaryNumber");
+    return core::RefusalOf("Please enter a value between 1 to 249.", "horaryNumber");
   }
   if (form.Horary && Trim(form.HoraryQuestion).empty()) {
-    return Refuse("Horary Question is a mandatory field.", "horaryQuestion");
+    return core::RefusalOf("Horary Question is a mandatory field.", "horaryQuestion");
   }
   if (!form.Horary && form.AscendantByHand && !IsWithin(form.AscendantDegree, 0, kFullCircle)) {
-    return Refuse("Please enter a value between 0 to 360.", "ascendantDegree");
+    return core::RefusalOf("Please enter a value between 0 to 360.", "ascendantDegree");
   }
   return std::nullopt;
 }
 
 std::optional<Refusal> CheckPlace(const core::Session& session, const ClientForm& form) {
   if (form.CityId == 0) {
-    return Refuse(core::kNoCityChosen, "cityList");
+    return core::RefusalOf(core::kNoCityChosen, "cityList");
   }
   if (std::optional<Refusal> refused = CheckOffset(form.Offset)) {
     return refused;
   }
   if (!form.CityInSight || !PlaceOfCity(session, form.CityId)) {
-    return Refuse("No City selected. Cannot proceed.", "citySearch");
+    return core::RefusalOf("No City selected. Cannot proceed.", "citySearch");
   }
   if (std::optional<Refusal> refused = CheckLatitude(form.Latitude)) {
     return refused;
@@ -61,7 +57,7 @@ std::optional<Refusal> CheckPlace(const core::Session& session, const ClientForm
 
 std::optional<Refusal> CheckClient(const core::Session& session, const ClientForm& form) {
   if (Trim(form.FullName).empty()) {
-    return Refuse("Client Name is a mandatory field.", "fullName");
+    return core::RefusalOf("Client Name is a mandatory field.", "fullName");
   }
   if (std::optional<Refusal> refused = CheckQuery(form)) {
     return refused;

@@ -18,8 +18,8 @@ void FillLords(const core::ReferenceData& reference, double degree, core::Table&
   table.At(row, CuspColumn::SubSubLord).Text = SubSubLord(reference, degree);
 }
 
-void FillStar(const core::ReferenceData& reference, double degree, core::Table& table,
-              std::size_t row) {
+void FillCuspStar(const core::ReferenceData& reference, double degree, core::Table& table,
+                  std::size_t row) {
   const StarAndPada star = StarOfDegree(reference, degree);
   table.At(row, CuspColumn::Nakshatra).Text = star.Star->StarName;
   table.At(row, CuspColumn::Pada).Text = core::WholeText(star.Pada->Pada);
@@ -49,7 +49,7 @@ void FillCuspTable(const core::ReferenceData& reference, HoroscopeModel& model) 
       table.At(row, CuspColumn::Degree).Text = core::TwoDecimals(core::ToDouble(stored));
     });
     core::Attempt([&] { FillLords(reference, core::ToDouble(stored), table, row); });
-    core::Attempt([&] { FillStar(reference, core::ToDouble(stored), table, row); });
+    core::Attempt([&] { FillCuspStar(reference, core::ToDouble(stored), table, row); });
   }
 }
 

@@ -8,6 +8,8 @@
 
 namespace orvex::chart {
 
+inline constexpr double kCycleYears = 120;
+
 struct DashaPlanet {
   std::string Name;
   int Years = 0;

@@ -1,5 +1,6 @@
 #include "chart/dasha_periods.h"
 
+#include "chart/dasha_cycle.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 
@@ -10,8 +11,6 @@ namespace {
 using core::DateAdd;
 using core::DateInterval;
 using core::DateOnly;
-
-constexpr double kCycleYears = 120;
 
 // The last part takes up what the roundings of all parts lost or won.
 void CloseAt(std::vector<Period>& parts, core::DateTime end) {

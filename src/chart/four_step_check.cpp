@@ -11,10 +11,6 @@ namespace {
 
 constexpr float kCuspOrb = 5;
 
-std::string CodeOfRow(const HoroscopeModel& model, std::size_t row) {
-  return PlanetCode(PlanetText(model, row, PlanetColumn::Planet));
-}
-
 // The houses that a planet owns by cusp and that hold no planet.
 std::string OwnedEmpties(const HoroscopeModel& model, const std::string& code) {
   std::string houses;

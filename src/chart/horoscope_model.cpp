@@ -8,7 +8,7 @@ namespace orvex::chart {
 namespace {
 
 template <typename Matches>
-std::optional<std::size_t> FirstRow(const core::Table& table, Matches matches) {
+std::optional<std::size_t> FirstMatch(const core::Table& table, Matches matches) {
   for (std::size_t row = 0; row < table.Rows.size(); ++row) {
     if (matches(row)) {
       return row;
@@ -23,6 +23,10 @@ const std::string& PlanetText(const HoroscopeModel& model, std::size_t row, Plan
   return model.PlanetTable.At(row, column).Text;
 }
 
+std::string CodeOfRow(const HoroscopeModel& model, std::size_t row) {
+  return PlanetCode(PlanetText(model, row, PlanetColumn::Planet));
+}
+
 const std::string& PlanetTag(const HoroscopeModel& model, std::size_t row, PlanetColumn column) {
   return model.PlanetTable.At(row, column).Tag;
 }
@@ -32,25 +36,25 @@ const std::string& HouseText(const HoroscopeModel& model, std::size_t row, House
 }
 
 std::optional<std::size_t> RowOfPlanet(const HoroscopeModel& model, const std::string& name) {
-  return FirstRow(model.PlanetTable, [&](std::size_t row) {
+  return FirstMatch(model.PlanetTable, [&](std::size_t row) {
     return PlanetText(model, row, PlanetColumn::Planet) == name;
   });
 }
 
 std::optional<std::size_t> RowOfCode(const HoroscopeModel& model, const std::string& code) {
-  return FirstRow(model.PlanetTable, [&](std::size_t row) {
+  return FirstMatch(model.PlanetTable, [&](std::size_t row) {
     return PlanetCode(PlanetText(model, row, PlanetColumn::Planet)) == code;
   });
 }
 
 std::optional<std::size_t> HouseOfCode(const HoroscopeModel& model, const std::string& code) {
-  return FirstRow(model.HouseTable, [&](std::size_t row) {
+  return FirstMatch(model.HouseTable, [&](std::size_t row) {
     return core::Contains(HouseText(model, row, HouseColumn::RcPlanets), code);
   });
 }
 
 std::optional<std::size_t> HouseOfRashi(const HoroscopeModel& model, const std::string& rashi) {
-  return FirstRow(model.HouseTable, [&](std::size_t row) {
+  return FirstMatch(model.HouseTable, [&](std::size_t row) {
     return HouseText(model, row, HouseColumn::Rashi) == rashi;
   });
 }

@@ -207,6 +207,9 @@ inline constexpr std::size_t kHouses = 12;
 const std::string& PlanetText(const HoroscopeModel& model, std::size_t row, PlanetColumn column);
 const std::string& PlanetTag(const HoroscopeModel& model, std::size_t row, PlanetColumn column);
 
+// The code of the planet of a row.
+std::string CodeOfRow(const HoroscopeModel& model, std::size_t row);
+
 // The text of a cell of the house table.
 const std::string& HouseText(const HoroscopeModel& model, std::size_t row, HouseColumn column);
 

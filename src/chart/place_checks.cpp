@@ -9,17 +9,13 @@ namespace {
 
 constexpr double kFarthestOffset = 27;
 
-core::Refusal Refuse(const std::string& text, const char* field) {
-  return {text, core::MessageIcon::Information, field};
-}
-
 std::optional<core::Refusal> CheckCoordinate(const std::string& text, const std::string& name,
                                              const char* field) {
   if (core::Trim(text).empty()) {
-    return Refuse(name + " is a mandatory field.", field);
+    return core::RefusalOf(name + " is a mandatory field.", field);
   }
   if (!core::IsNumeric(text)) {
-    return Refuse(name + " is a numeric field.", field);
+    return core::RefusalOf(name + " is a numeric field.", field);
   }
   return std::nullopt;
 }
@@ -29,10 +25,10 @@ std::optional<core::Refusal> CheckCoordinate(const std::string& text, const std:
 std::optional<core::Refusal> CheckOffset(const std::string& offset) {
   const std::optional<double> hours = core::ParseNumber(offset);
   if (!hours) {
-    return Refuse("Please enter a numeric value.", "offset");
+    return core::RefusalOf("Please enter a numeric value.", "offset");
   }
   if (*hours < -kFarthestOffset || *hours > kFarthestOffset) {
-    return Refuse("Incorrect Offset Value entered.", "offset");
+    return core::RefusalOf("Incorrect Offset Value entered.", "offset");
   }
   return std::nullopt;
 }

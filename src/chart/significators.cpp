@@ -18,10 +18,6 @@ std::size_t HouseIndex(const std::string& house) {
   return static_cast<std::size_t>(core::ParseWhole(house).value()) - 1;
 }
 
-std::string CodeOfRow(const HoroscopeModel& model, std::size_t row) {
-  return PlanetCode(PlanetText(model, row, PlanetColumn::Planet));
-}
-
 void Append(std::string& text, const std::string& word) { text = core::Trim(text + " " + word); }
 
 void AppendOnce(std::string& text, const std::string& code) {

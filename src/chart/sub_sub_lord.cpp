@@ -8,23 +8,21 @@ namespace orvex::chart {
 
 namespace {
 
-constexpr double kCycleYears = 120;
-
-double Hundredths(double value) { return core::ToDouble(core::TwoDecimals(value)); }
+double RoundedHundredths(double value) { return core::ToDouble(core::TwoDecimals(value)); }
 
 }  // namespace
 
 std::string SubSubLord(const core::ReferenceData& reference, double degree) {
   const core::SubRow& sub = SubOfDegree(reference, degree);
-  const double begin = Hundredths(sub.AscPointBegin);
-  const double span = Hundredths(Hundredths(sub.AscPointEnd) - begin);
+  const double begin = RoundedHundredths(sub.AscPointBegin);
+  const double span = RoundedHundredths(RoundedHundredths(sub.AscPointEnd) - begin);
   double current = begin;
   for (const DashaPlanet& lord : RotationFrom(DashaCycleOf(reference), sub.SubLord)) {
     const double width = lord.Years / kCycleYears * span;
     if (current <= degree && degree <= current + width) {
       return lord.Name;
     }
-    current = Hundredths(current + width);
+    current = RoundedHundredths(current + width);
   }
   return sub.SubLord;
 }

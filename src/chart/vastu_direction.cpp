@@ -28,16 +28,16 @@ constexpr std::array<SignDirection, 12> kDirections = {{
 }};
 // clang-format on
 
-bool IsSign(int rashi) { return rashi >= 1 && rashi <= static_cast<int>(kDirections.size()); }
+bool HasDirection(int rashi) { return rashi >= 1 && rashi <= static_cast<int>(kDirections.size()); }
 
 }  // namespace
 
 std::string VastuDirection(int rashi) {
-  return IsSign(rashi) ? kDirections.at(static_cast<std::size_t>(rashi) - 1).Direction : "";
+  return HasDirection(rashi) ? kDirections.at(static_cast<std::size_t>(rashi) - 1).Direction : "";
 }
 
 std::string VastuPadsOfSign(int rashi) {
-  return IsSign(rashi) ? kDirections.at(static_cast<std::size_t>(rashi) - 1).Pads : "";
+  return HasDirection(rashi) ? kDirections.at(static_cast<std::size_t>(rashi) - 1).Pads : "";
 }
 
 }  // namespace orvex::chart

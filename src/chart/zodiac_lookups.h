@@ -10,6 +10,8 @@
 
 namespace orvex::chart {
 
+inline constexpr int kSignCount = 12;
+
 // A degree that no row of a reference table holds.
 class LookupError : public std::out_of_range {
  public:

@@ -20,7 +20,7 @@ struct CityOptions {
   std::optional<Option> LongitudeOption;  // --longitude, likewise
 };
 
-void RunList(Context& context, const CityOptions& options) {
+void RunListCity(Context& context, const CityOptions& options) {
   const core::Session& session = context.Reading();
   core::Table cities = options.Text.empty() ? practice::LoadCities(session)
                                             : practice::SearchCities(session, options.Text);
@@ -30,7 +30,7 @@ void RunList(Context& context, const CityOptions& options) {
   PrintList(std::move(cities), context.Json);
 }
 
-void RunAdd(Context& context, const CityOptions& options) {
+void RunAddCity(Context& context, const CityOptions& options) {
   core::Session& session = context.Writing();
   if (!practice::OpenAddCity(session)) {
     throw CommandFailed("");
@@ -97,10 +97,10 @@ void AddCityCommands(Command app, Context& context) {
         AddCommand(city, name, description, [&context, options, run] { run(context, *options); });
     return std::pair(command, options);
   };
-  const auto [listCommand, listOptions] = add("list", "list the cities", RunList);
+  const auto [listCommand, listOptions] = add("list", "list the cities", RunListCity);
   listCommand.add_option("TEXT", listOptions->Text, "text that the name holds");
 
-  const auto [addCommand, addOptions] = add("add", "add a city", RunAdd);
+  const auto [addCommand, addOptions] = add("add", "add a city", RunAddCity);
   practice::CityForm& form = addOptions->Form;
   addCommand.add_option("--name", form.CityName, "name").required();
   addCommand.add_option("--timezone", form.TimeZone, "zone, as Asia/Kolkata").required();

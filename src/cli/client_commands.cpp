@@ -38,7 +38,7 @@ struct ClientOptions {
   bool Yes = false;
 };
 
-void AddFieldOptions(Command command, ClientOptions& options) {
+void AddClientFieldOptions(Command command, ClientOptions& options) {
   command.add_option("--name", options.Name, "full name");
   command.add_option("--birth", options.Birth, "local moment, YYYY-MM-DD HH:MM");
   command.add_option("--city", options.City, "id of the city");
@@ -73,7 +73,8 @@ void ApplyQuery(const ClientOptions& options, chart::ClientForm& form) {
   Take(options.Question, form.HoraryQuestion);
 }
 
-void Apply(const core::Session& session, const ClientOptions& options, chart::ClientForm& form) {
+void ApplyClient(const core::Session& session, const ClientOptions& options,
+                 chart::ClientForm& form) {
   Take(options.Name, form.FullName);
   if (options.Birth) {
     form.Birth = MomentOption("--birth", *options.Birth);
@@ -124,29 +125,29 @@ void RemarkOnPlace(const chart::ClientForm& form) {
   }
 }
 
-void RunAdd(Context& context, const ClientOptions& options) {
+void RunAddClient(Context& context, const ClientOptions& options) {
   core::Session& session = context.Writing();
   chart::ClientForm form = chart::OpenAddClient(session);
-  Apply(session, options, form);
+  ApplyClient(session, options, form);
   const std::int32_t group = GroupFor(session, options.Group);
   AwaitFreshSecond(session);
   PrintId(Context::Saved(chart::SaveNewClient(session, form, group)), context.Json);
   RemarkOnPlace(form);
 }
 
-void RunEdit(Context& context, const ClientOptions& options) {
+void RunEditClient(Context& context, const ClientOptions& options) {
   core::Session& session = context.Writing();
   const std::int32_t id = WholeOption("ID", options.Id);
   std::optional<chart::ClientForm> form = chart::OpenEditClient(session, id);
   if (!form) {
     throw CommandFailed("");
   }
-  Apply(session, options, *form);
+  ApplyClient(session, options, *form);
   PrintId(Context::Saved(chart::SaveClientChanges(session, *form, id)), context.Json);
   RemarkOnPlace(*form);
 }
 
-Json RowJson(const core::Result& row) {
+Json StoredRowJson(const core::Result& row) {
   Json json = Json::object();
   for (const std::string& field : row.FieldNames()) {
     json[horoscope::ClientColumnName(field)] = row.Text(field);
@@ -218,7 +219,7 @@ void RunShow(Context& context, const ClientOptions& options) {
   const core::Table cusps = StoredCusps(client);
   const core::Table planets = StoredPlanets(session, id);
   if (context.Json) {
-    PrintJson({{"client", RowJson(client)},
+    PrintJson({{"client", StoredRowJson(client)},
                {"cusps", TableJson(cusps)},
                {"planets", TableJson(planets)}});
     return;
@@ -230,7 +231,7 @@ void RunShow(Context& context, const ClientOptions& options) {
   PrintTable(planets);
 }
 
-void RunList(Context& context, const ClientOptions& options) {
+void RunListClient(Context& context, const ClientOptions& options) {
   std::optional<std::int32_t> group;
   if (options.Group) {
     group = WholeOption("--group", *options.Group);
@@ -248,7 +249,7 @@ void RunMove(Context& context, const ClientOptions& options) {
   PrintId(Context::Saved(practice::MoveClient(context.Writing(), id, group)), context.Json);
 }
 
-void RunDelete(Context& context, const ClientOptions& options) {
+void RunDeleteClient(Context& context, const ClientOptions& options) {
   const std::int32_t id = WholeOption("ID", options.Id);
   if (!options.Yes) {
     throw CommandFailed(practice::kDeleteClientQuestion);
@@ -274,18 +275,19 @@ void AddClientCommands(Command app, Context& context) {
     return std::pair(command, options);
   };
 
-  const auto [addCommand, addOptions] = add("add", "save a new client and its chart", RunAdd);
-  AddFieldOptions(addCommand, *addOptions);
+  const auto [addCommand, addOptions] = add("add", "save a new client and its chart", RunAddClient);
+  AddClientFieldOptions(addCommand, *addOptions);
   addCommand.get_option("--name").required();
   addCommand.get_option("--birth").required();
   addCommand.get_option("--city").required();
   addCommand.add_option("--group", addOptions->Group, "id of the group; else the first by name");
 
-  const auto [editCommand, editOptions] = add("edit", "change a client; the rest stays", RunEdit);
+  const auto [editCommand, editOptions] =
+      add("edit", "change a client; the rest stays", RunEditClient);
   editCommand.add_option("ID", editOptions->Id, "id of the client").required();
-  AddFieldOptions(editCommand, *editOptions);
+  AddClientFieldOptions(editCommand, *editOptions);
 
-  const auto [listCommand, listOptions] = add("list", "list the clients", RunList);
+  const auto [listCommand, listOptions] = add("list", "list the clients", RunListClient);
   listCommand.add_option("--group", listOptions->Group, "id of the group");
   listCommand.add_flag("--csv", listOptions->Csv, "in the form that import takes");
 
@@ -294,7 +296,7 @@ void AddClientCommands(Command app, Context& context) {
   moveCommand.add_option("--group", moveOptions->Group, "id of the group").required();
 
   const auto [deleteCommand, deleteOptions] =
-      add("delete", "delete a client with its remedies", RunDelete);
+      add("delete", "delete a client with its remedies", RunDeleteClient);
   deleteCommand.add_option("ID", deleteOptions->Id, "id of the client").required();
   deleteCommand.add_flag("--yes", deleteOptions->Yes, "do not ask");
 

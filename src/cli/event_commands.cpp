@@ -16,7 +16,8 @@ struct EventOptions {
   bool Yes = false;
 };
 
-void Apply(const core::Session& session, const EventOptions& options, judgement::EventForm& form) {
+void ApplyEvent(const core::Session& session, const EventOptions& options,
+                judgement::EventForm& form) {
   if (options.Date) {
     form.Date = MomentOption("--date", *options.Date);
   }
@@ -26,7 +27,7 @@ void Apply(const core::Session& session, const EventOptions& options, judgement:
   form.Remark = options.Remark.value_or(form.Remark);
 }
 
-void RunList(Context& context, const EventOptions& options) {
+void RunListEvent(Context& context, const EventOptions& options) {
   const std::int32_t client = WholeOption("CLIENT", options.Id);
   if (!core::HasRow(context.Reading().StoreConnection, "client_master", client)) {
     throw CommandFailed(core::kNoClientWithId);
@@ -34,26 +35,26 @@ void RunList(Context& context, const EventOptions& options) {
   PrintList(judgement::LoadEvents(context.Reading(), client), context.Json);
 }
 
-void RunAdd(Context& context, const EventOptions& options) {
+void RunAddEvent(Context& context, const EventOptions& options) {
   core::Session& session = context.Writing();
   judgement::EventForm form;
-  Apply(session, options, form);
+  ApplyEvent(session, options, form);
   PrintId(Context::Saved(judgement::SaveNewEvent(session, form, WholeOption("CLIENT", options.Id))),
           context.Json);
 }
 
-void RunEdit(Context& context, const EventOptions& options) {
+void RunEditEvent(Context& context, const EventOptions& options) {
   core::Session& session = context.Writing();
   const std::int32_t id = WholeOption("ID", options.Id);
   std::optional<judgement::EventForm> form = judgement::OpenEditEvent(session, id);
   if (!form) {
     throw CommandFailed("");
   }
-  Apply(session, options, *form);
+  ApplyEvent(session, options, *form);
   PrintId(Context::Saved(judgement::SaveEventChanges(session, *form, id)), context.Json);
 }
 
-void RunDelete(Context& context, const EventOptions& options) {
+void RunDeleteEvent(Context& context, const EventOptions& options) {
   const std::int32_t id = WholeOption("ID", options.Id);
   if (!options.Yes) {
     throw CommandFailed(judgement::kDeleteEventQuestion);
@@ -61,7 +62,7 @@ void RunDelete(Context& context, const EventOptions& options) {
   PrintId(Context::Saved(judgement::DeleteEvent(context.Writing(), id)), context.Json);
 }
 
-void AddFieldOptions(Command command, EventOptions& options) {
+void AddEventFieldOptions(Command command, EventOptions& options) {
   command.add_option("--date", options.Date, "YYYY-MM-DD");
   command.add_option("--matter", options.Matter, "name or id of the matter");
   command.add_option("--remark", options.Remark, "at most 250 characters");
@@ -79,18 +80,19 @@ void AddEventCommands(Command app, Context& context) {
     command.add_option(id, options->Id, "id").required();
     return std::pair(command, options);
   };
-  add("list", "list the events of a client", RunList, "CLIENT");
+  add("list", "list the events of a client", RunListEvent, "CLIENT");
 
-  const auto [addCommand, addOptions] = add("add", "note an event", RunAdd, "CLIENT");
-  AddFieldOptions(addCommand, *addOptions);
+  const auto [addCommand, addOptions] = add("add", "note an event", RunAddEvent, "CLIENT");
+  AddEventFieldOptions(addCommand, *addOptions);
   addCommand.get_option("--date").required();
   addCommand.get_option("--matter").required();
 
   const auto [editCommand, editOptions] =
-      add("edit", "change an event; the rest stays", RunEdit, "ID");
-  AddFieldOptions(editCommand, *editOptions);
+      add("edit", "change an event; the rest stays", RunEditEvent, "ID");
+  AddEventFieldOptions(editCommand, *editOptions);
 
-  const auto [deleteCommand, deleteOptions] = add("delete", "delete an event", RunDelete, "ID");
+  const auto [deleteCommand, deleteOptions] =
+      add("delete", "delete an event", RunDeleteEvent, "ID");
   deleteCommand.add_flag("--yes", deleteOptions->Yes, "do not ask");
 }
 

@@ -75,8 +75,8 @@ exact::Depth DepthOf(const std::string& option) {
   return option == "sub" ? exact::Depth::Sub : exact::Depth::SubSub;
 }
 
-exact::CrossingSearch SearchOf(core::Session& session, const CrossingOptions& options,
-                               const CityPlace& city) {
+exact::CrossingSearch CrossingSearchOf(core::Session& session, const CrossingOptions& options,
+                                       const CityPlace& city) {
   const std::optional<exact::Point> point = exact::PointOfName(options.Point);
   if (!point) {
     throw CommandFailed("POINT takes the name of a planet or Ascendant.");
@@ -103,7 +103,7 @@ exact::CrossingSearch SearchOf(core::Session& session, const CrossingOptions& op
 void RunCrossings(Context& context, const CrossingOptions& options) {
   core::Session& session = context.Reading();
   const CityPlace city = CityPlaceOf(session, options.City);
-  const exact::CrossingSearch search = SearchOf(session, options, city);
+  const exact::CrossingSearch search = CrossingSearchOf(session, options, city);
   const exact::ExactZodiac zodiac(session.Reference);
   const exact::ExactSky sky(session.Ephemeris, ReadingFor(session, options.Ayanamsa),
                             session.State.RahuKetuCalculation);

@@ -14,11 +14,11 @@ struct GroupOptions {
   bool Yes = false;
 };
 
-void RunList(Context& context, const GroupOptions& /*options*/) {
+void RunListGroup(Context& context, const GroupOptions& /*options*/) {
   PrintList(practice::LoadGroups(context.Reading()), context.Json);
 }
 
-void RunAdd(Context& context, const GroupOptions& options) {
+void RunAddGroup(Context& context, const GroupOptions& options) {
   PrintId(Context::Saved(practice::AddGroup(context.Writing(), options.Name)), context.Json);
 }
 
@@ -27,7 +27,7 @@ void RunRename(Context& context, const GroupOptions& options) {
   PrintId(Context::Saved(practice::RenameGroup(context.Writing(), id, options.Name)), context.Json);
 }
 
-void RunDelete(Context& context, const GroupOptions& options) {
+void RunDeleteGroup(Context& context, const GroupOptions& options) {
   const std::int32_t id = WholeOption("ID", options.Id);
   if (!options.Yes) {
     throw CommandFailed(practice::kDeleteGroupQuestion);
@@ -46,9 +46,9 @@ void AddGroupCommands(Command app, Context& context) {
         AddCommand(group, name, description, [&context, options, run] { run(context, *options); });
     return std::pair(command, options);
   };
-  add("list", "list the groups", RunList);
+  add("list", "list the groups", RunListGroup);
 
-  const auto [addCommand, addOptions] = add("add", "add a group", RunAdd);
+  const auto [addCommand, addOptions] = add("add", "add a group", RunAddGroup);
   addCommand.add_option("NAME", addOptions->Name, "its name").required();
 
   const auto [renameCommand, renameOptions] = add("rename", "give a group a new name", RunRename);
@@ -56,7 +56,7 @@ void AddGroupCommands(Command app, Context& context) {
   renameCommand.add_option("NAME", renameOptions->Name, "its new name").required();
 
   const auto [deleteCommand, deleteOptions] =
-      add("delete", "delete a group with all its clients", RunDelete);
+      add("delete", "delete a group with all its clients", RunDeleteGroup);
   deleteCommand.add_option("ID", deleteOptions->Id, "id of the group").required();
   deleteCommand.add_flag("--yes", deleteOptions->Yes, "do not ask");
 }

@@ -16,7 +16,7 @@ struct MattersOptions {
   bool Yes = false;
 };
 
-void Apply(const MattersOptions& options, judgement::MatterForm& form) {
+void ApplyMatter(const MattersOptions& options, judgement::MatterForm& form) {
   form.Name = options.Name.value_or(form.Name);
   form.MainCusp = options.Main.value_or(form.MainCusp);
   form.Supporting = options.Supporting.value_or(form.Supporting);
@@ -24,28 +24,28 @@ void Apply(const MattersOptions& options, judgement::MatterForm& form) {
   form.Source = options.Source.value_or(form.Source);
 }
 
-void RunList(Context& context) {
+void RunListMatter(Context& context) {
   PrintList(judgement::LoadMatters(context.Reading()), context.Json);
 }
 
-void RunAdd(Context& context, const MattersOptions& options) {
+void RunAddMatter(Context& context, const MattersOptions& options) {
   judgement::MatterForm form;
-  Apply(options, form);
+  ApplyMatter(options, form);
   PrintId(Context::Saved(judgement::SaveNewMatter(context.Writing(), form)), context.Json);
 }
 
-void RunEdit(Context& context, const MattersOptions& options) {
+void RunEditMatter(Context& context, const MattersOptions& options) {
   core::Session& session = context.Writing();
   const std::int32_t id = WholeOption("ID", options.Id);
   std::optional<judgement::MatterForm> form = judgement::OpenEditMatter(session, id);
   if (!form) {
     throw CommandFailed("");
   }
-  Apply(options, *form);
+  ApplyMatter(options, *form);
   PrintId(Context::Saved(judgement::SaveMatterChanges(session, *form, id)), context.Json);
 }
 
-void RunDelete(Context& context, const MattersOptions& options) {
+void RunDeleteMatter(Context& context, const MattersOptions& options) {
   const std::int32_t id = WholeOption("ID", options.Id);
   if (!options.Yes) {
     throw CommandFailed(judgement::kDeleteMatterQuestion);
@@ -53,7 +53,7 @@ void RunDelete(Context& context, const MattersOptions& options) {
   PrintId(Context::Saved(judgement::DeleteMatter(context.Writing(), id)), context.Json);
 }
 
-void AddFieldOptions(Command command, MattersOptions& options) {
+void AddMatterFieldOptions(Command command, MattersOptions& options) {
   command.add_option("--name", options.Name, "at most 50 characters");
   command.add_option("--main", options.Main, "the main cusp, 1 to 12");
   command.add_option("--supporting", options.Supporting, "houses with blanks between them");
@@ -68,7 +68,7 @@ void AddMattersCommands(Command app, Context& context) {
   auto named = std::make_shared<bool>(false);
   Command matters = AddCommand(app, "matters", "house groups of the questions", [&context, named] {
     if (!*named) {
-      RunList(context);
+      RunListMatter(context);
     }
   });
   const auto add = [&](const char* name, const char* description, auto run) {
@@ -80,18 +80,19 @@ void AddMattersCommands(Command app, Context& context) {
     return std::pair(command, options);
   };
   add("list", "list the matters",
-      [](Context& list, const MattersOptions& /*options*/) { RunList(list); });
+      [](Context& list, const MattersOptions& /*options*/) { RunListMatter(list); });
 
-  const auto [addCommand, addOptions] = add("add", "add a matter", RunAdd);
-  AddFieldOptions(addCommand, *addOptions);
+  const auto [addCommand, addOptions] = add("add", "add a matter", RunAddMatter);
+  AddMatterFieldOptions(addCommand, *addOptions);
   for (const char* needed : {"--name", "--main", "--supporting", "--denying"}) {
     addCommand.get_option(needed).required();
   }
-  const auto [editCommand, editOptions] = add("edit", "change a matter; the rest stays", RunEdit);
+  const auto [editCommand, editOptions] =
+      add("edit", "change a matter; the rest stays", RunEditMatter);
   editCommand.add_option("ID", editOptions->Id, "id of the matter").required();
-  AddFieldOptions(editCommand, *editOptions);
+  AddMatterFieldOptions(editCommand, *editOptions);
 
-  const auto [deleteCommand, deleteOptions] = add("delete", "delete a matter", RunDelete);
+  const auto [deleteCommand, deleteOptions] = add("delete", "delete a matter", RunDeleteMatter);
   deleteCommand.add_option("ID", deleteOptions->Id, "id of the matter").required();
   deleteCommand.add_flag("--yes", deleteOptions->Yes, "do not ask");
 }

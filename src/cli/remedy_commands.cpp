@@ -32,7 +32,8 @@ std::int32_t PlanetOption(const core::Session& session, const std::string& name)
   throw CommandFailed("--planet: there is no planet of that name");
 }
 
-void Apply(const core::Session& session, const RemedyOptions& options, practice::RemedyForm& form) {
+void ApplyRemedy(const core::Session& session, const RemedyOptions& options,
+                 practice::RemedyForm& form) {
   form.Problem = options.Problem.value_or(form.Problem);
   form.Remedy = options.Remedy.value_or(form.Remedy);
   if (options.Planet) {
@@ -43,31 +44,31 @@ void Apply(const core::Session& session, const RemedyOptions& options, practice:
   }
 }
 
-void RunList(Context& context, const RemedyOptions& options) {
+void RunListRemedy(Context& context, const RemedyOptions& options) {
   PrintList(practice::LoadRemedies(context.Reading(), WholeOption("CLIENT", options.Id)),
             context.Json);
 }
 
-void RunAdd(Context& context, const RemedyOptions& options) {
+void RunAddRemedy(Context& context, const RemedyOptions& options) {
   core::Session& session = context.Writing();
   practice::RemedyForm form = practice::OpenAddRemedy(session);
-  Apply(session, options, form);
+  ApplyRemedy(session, options, form);
   PrintId(Context::Saved(practice::SaveNewRemedy(session, form, WholeOption("CLIENT", options.Id))),
           context.Json);
 }
 
-void RunEdit(Context& context, const RemedyOptions& options) {
+void RunEditRemedy(Context& context, const RemedyOptions& options) {
   core::Session& session = context.Writing();
   const std::int32_t id = WholeOption("ID", options.Id);
   std::optional<practice::RemedyForm> form = practice::OpenEditRemedy(session, id);
   if (!form) {
     throw CommandFailed("");
   }
-  Apply(session, options, *form);
+  ApplyRemedy(session, options, *form);
   PrintId(Context::Saved(practice::SaveRemedyChanges(session, *form, id)), context.Json);
 }
 
-void RunDelete(Context& context, const RemedyOptions& options) {
+void RunDeleteRemedy(Context& context, const RemedyOptions& options) {
   const std::int32_t id = WholeOption("ID", options.Id);
   if (!options.Yes) {
     throw CommandFailed(practice::kDeleteRemedyQuestion);
@@ -75,7 +76,7 @@ void RunDelete(Context& context, const RemedyOptions& options) {
   PrintId(Context::Saved(practice::DeleteRemedy(context.Writing(), id)), context.Json);
 }
 
-void AddFieldOptions(Command command, RemedyOptions& options) {
+void AddRemedyFieldOptions(Command command, RemedyOptions& options) {
   command.add_option("--problem", options.Problem, "problem or symptom");
   command.add_option("--remedy", options.Remedy, "remedy or solution");
   command.add_option("--planet", options.Planet, "planet that it is for; else none");
@@ -94,18 +95,19 @@ void AddRemedyCommands(Command app, Context& context) {
     command.add_option(id, options->Id, "id").required();
     return std::pair(command, options);
   };
-  add("list", "list the remedies of a client", RunList, "CLIENT");
+  add("list", "list the remedies of a client", RunListRemedy, "CLIENT");
 
-  const auto [addCommand, addOptions] = add("add", "note a remedy", RunAdd, "CLIENT");
-  AddFieldOptions(addCommand, *addOptions);
+  const auto [addCommand, addOptions] = add("add", "note a remedy", RunAddRemedy, "CLIENT");
+  AddRemedyFieldOptions(addCommand, *addOptions);
   addCommand.get_option("--problem").required();
   addCommand.get_option("--remedy").required();
 
   const auto [editCommand, editOptions] =
-      add("edit", "change a remedy; the rest stays", RunEdit, "ID");
-  AddFieldOptions(editCommand, *editOptions);
+      add("edit", "change a remedy; the rest stays", RunEditRemedy, "ID");
+  AddRemedyFieldOptions(editCommand, *editOptions);
 
-  const auto [deleteCommand, deleteOptions] = add("delete", "delete a remedy", RunDelete, "ID");
+  const auto [deleteCommand, deleteOptions] =
+      add("delete", "delete a remedy", RunDeleteRemedy, "ID");
   deleteCommand.add_flag("--yes", deleteOptions->Yes, "do not ask");
 }
 

@@ -68,7 +68,7 @@ std::vector<Setting> AllSettings() {
 }
 
 // Takes "KEY=VALUE" into the form; keys are columns of the settings row, in any case.
-void Apply(const std::string& assignment, SettingsForm& form) {
+void ApplySetting(const std::string& assignment, SettingsForm& form) {
   const std::size_t sign = assignment.find('=');
   if (sign == std::string::npos) {
     RefuseWords("settings set", "takes KEY=VALUE");
@@ -102,7 +102,7 @@ void RunSet(Context& context, const std::vector<std::string>& assignments) {
   core::Session& session = context.Writing();
   SettingsForm form = core::OpenSettings(session);
   for (const std::string& assignment : assignments) {
-    Apply(assignment, form);
+    ApplySetting(assignment, form);
   }
   Context::Saved(core::SaveSettings(session, form));
   PrintSettings(session, context.Json);

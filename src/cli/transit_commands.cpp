@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "chart/chart_moment.h"
+#include "cli/city_place.h"
 #include "cli/context.h"
 #include "cli/output.h"
 #include "core/exact_numbers.h"
@@ -38,14 +38,6 @@ struct TransitOptions {
   std::string IcsFile;
   std::string SvgFile;
 };
-
-void WriteCalendar(const core::Session& session, const std::string& file,
-                   const std::vector<transit::CalendarEvent>& events) {
-  core::CheckFileToWrite(session, file);
-  core::WriteFileSafely(
-      file, transit::CalendarText(
-                events, chart::PlainMomentUt(session.Time.Now(), session.State.UserCityOffset)));
-}
 
 void WriteGraph(const core::Session& session, const std::string& file,
                 const transit::MonthGrid& grid) {
@@ -236,9 +228,7 @@ void RunFind(Context& context, const TransitOptions& options) {
   if (results.empty()) {
     throw CommandFailed(last.Status);
   }
-  if (!options.IcsFile.empty()) {
-    WriteCalendar(session, options.IcsFile, transit::PassageEvents(session, results));
-  }
+  WriteCalendar(session, options.IcsFile, transit::PassageEvents(session, results));
   PrintFound(context, results);
   if (last.End != transit::SearchEnd::Found) {
     std::cerr << last.Status << "\n";

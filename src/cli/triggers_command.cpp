@@ -76,7 +76,7 @@ void TakeFromClient(Context& context, const TriggersOptions& options,
   search.Natal = judgement::NatalCusps(opened.Birth);
 }
 
-judgement::TriggerSearch SearchOf(Context& context, const TriggersOptions& options) {
+judgement::TriggerSearch TriggerSearchOf(Context& context, const TriggersOptions& options) {
   core::Session& session = context.Reading();
   const CityPlace city = CityPlaceOf(session, options.City);
   const core::DateTime from =
@@ -102,7 +102,7 @@ judgement::TriggerSearch SearchOf(Context& context, const TriggersOptions& optio
 
 void RunTriggers(Context& context, const TriggersOptions& options) {
   core::Session& session = context.Reading();
-  const judgement::TriggerSearch search = SearchOf(context, options);
+  const judgement::TriggerSearch search = TriggerSearchOf(context, options);
   const core::Table triggers = judgement::BuildTriggers(session, search);
   WriteCalendar(session, options.IcsFile, judgement::TriggerEvents(triggers, search.Offset));
   if (context.Json) {

@@ -78,7 +78,7 @@ class Reader {
   std::size_t line_ = 1;
 };
 
-bool IsBlank(const CsvRecord& record) {
+bool IsBlankRecord(const CsvRecord& record) {
   return record.Fields.size() == 1 && record.Fields.front().empty();
 }
 
@@ -91,7 +91,7 @@ std::vector<CsvRecord> ReadCsv(std::string_view text) {
   std::vector<CsvRecord> records;
   for (Reader reader(text); !reader.AtEnd();) {
     CsvRecord record = reader.Next();
-    if (!IsBlank(record)) {
+    if (!IsBlankRecord(record)) {
       records.push_back(std::move(record));
     }
   }

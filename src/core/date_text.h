@@ -17,6 +17,7 @@ using DateTime = std::chrono::local_seconds;
 // first period are measured by them.
 inline constexpr double kDaysOfYear = 365.25;
 inline constexpr double kDaysOfMonth = 30.4375;
+inline constexpr int kSecondsOfHour = 3600;
 
 struct DateParts {
   int Year = 0;

@@ -20,7 +20,7 @@ struct Names {
   std::string Key;
 };
 
-Names Checked(const std::string& appName, const std::string& section, const std::string& key) {
+Names CheckedNames(const std::string& appName, const std::string& section, const std::string& key) {
   Names names{Trim(appName), Trim(section), Trim(key)};
   if (names.AppName.empty()) {
     throw MachineSettingError("AppName may not be empty");
@@ -69,7 +69,7 @@ std::filesystem::path MachineSettings::DefaultFile() {
 
 void MachineSettings::SaveMachineSetting(const std::string& appName, const std::string& section,
                                          const std::string& key, const std::string& value) const {
-  const Names names = Checked(appName, section, key);
+  const Names names = CheckedNames(appName, section, key);
   constexpr const char* kNotOpened = "Could not open/create registry section";
   if (file_.empty() || !MakePrivateFolders(file_.parent_path())) {
     throw MachineSettingError(kNotOpened);
@@ -92,7 +92,7 @@ void MachineSettings::SaveMachineSetting(const std::string& appName, const std::
 std::string MachineSettings::ReadMachineSetting(const std::string& appName,
                                                 const std::string& section, const std::string& key,
                                                 const std::string& fallback) const {
-  const Names names = Checked(appName, section, key);
+  const Names names = CheckedNames(appName, section, key);
   const Json settings = Load(file_, "Could not open registry section");
   const Json* place = &settings;
   for (const std::string* name : {&names.AppName, &names.Section, &names.Key}) {

@@ -24,6 +24,16 @@ struct SaveResult {
   std::optional<Refusal> Refused;
 };
 
+// A refusal that is told with the mark of an information and gives a field the focus.
+inline Refusal RefusalOf(const std::string& text, const char* field) {
+  return {text, MessageIcon::Information, field};
+}
+
+// Nothing was written: a record is gone or may not be touched.
+inline SaveResult StoppedSave(const char* text) {
+  return {0, Refusal{text, MessageIcon::Stop, ""}};
+}
+
 inline constexpr const char* kRecordGone =
     "The record you are trying to edit could not be retrieved.";
 inline constexpr const char* kNoClientWithId = "There is no client with that id.";

@@ -9,8 +9,8 @@ namespace orvex::core {
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsLetter(char c) { return c >= 'a' && c <= 'z'; }
+bool IsTypedDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsTypedLetter(char c) { return c >= 'a' && c <= 'z'; }
 
 std::string Gap(std::string_view text) {
   const std::string gap = Trim(text);
@@ -29,11 +29,11 @@ Pieces PiecesOf(std::string_view typed) {
   std::size_t at = 0;
   std::size_t end = 0;
   while (at < text.size()) {
-    if (!IsDigit(text[at]) && !IsLetter(text[at])) {
+    if (!IsTypedDigit(text[at]) && !IsTypedLetter(text[at])) {
       ++at;
       continue;
     }
-    const auto kind = IsDigit(text[at]) ? IsDigit : IsLetter;
+    const auto kind = IsTypedDigit(text[at]) ? IsTypedDigit : IsTypedLetter;
     const std::size_t begin = at;
     while (at < text.size() && kind(text[at])) {
       ++at;

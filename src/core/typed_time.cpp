@@ -9,19 +9,19 @@ namespace orvex::core {
 
 namespace {
 
-using Spans = std::vector<PartSpan>;
+using TimeSpans = std::vector<PartSpan>;
 
 constexpr const char* kNoTime = "Not a time: write it as 1430, 14:30 or 2:30p.";
 constexpr int kHours = 24;
 constexpr int kHalfDay = 12;
-constexpr int kSixty = 60;
+constexpr int kSixtyParts = 60;
 
 // The hour, minute and second of a time as numbers, before AM or PM counts.
 struct ClockNumbers {
   int Hour = 0;
   int Minute = 0;
   int Second = 0;
-  Spans Parts;
+  TimeSpans Parts;
 };
 
 // "1430" and "143020"; "230" has an hour of one digit.
@@ -81,7 +81,7 @@ std::optional<ClockNumbers> ClockOf(const std::vector<Piece>& pieces, bool hasHa
 }
 
 // Takes "a", "am", "a.m." or the like from the end of the pieces: 'a', 'p', or ' ' for none.
-char TakeHalfOfDay(Pieces& pieces, Spans& parts) {
+char TakeHalfOfDay(Pieces& pieces, TimeSpans& parts) {
   std::vector<Piece>& all = pieces.All;
   if (all.size() > 2 && all.back().Text == "m" && all.back().Before == ".") {
     all[all.size() - 2].End = all.back().End;
@@ -127,7 +127,7 @@ TimeOfDay StepOf(MomentPart part) {
 
 TypedReading<TimeOfDay> ReadTypedTime(std::string_view text) {
   Pieces pieces = PiecesOf(text);
-  Spans half;
+  TimeSpans half;
   const char letter = TakeHalfOfDay(pieces, half);
   std::optional<ClockNumbers> clock = ClockOf(pieces.All, letter != ' ');
   if (!clock || pieces.IsFramed()) {
@@ -136,7 +136,7 @@ TypedReading<TimeOfDay> ReadTypedTime(std::string_view text) {
   if (letter != ' ' && (clock->Hour < 1 || clock->Hour > kHalfDay)) {
     return NoTime("With AM or PM the hours go from 1 to 12.");
   }
-  if (clock->Hour >= kHours || clock->Minute >= kSixty || clock->Second >= kSixty) {
+  if (clock->Hour >= kHours || clock->Minute >= kSixtyParts || clock->Second >= kSixtyParts) {
     return NoTime("The day goes from 00:00:00 to 23:59:59.");
   }
   if (letter != ' ') {

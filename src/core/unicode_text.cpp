@@ -29,7 +29,7 @@ constexpr std::array<std::uint32_t, 5> kFirstBits = {0, 0x7F, 0x1F, 0x0F, 0x07};
 constexpr std::array<std::uint32_t, 5> kLeastCode = {0, 0, 0x80, 0x800, 0x10000};
 // clang-format on
 
-std::uint32_t Byte(std::string_view text, std::size_t at) {
+std::uint32_t ByteAt(std::string_view text, std::size_t at) {
   return static_cast<unsigned char>(text[at]);
 }
 
@@ -48,9 +48,9 @@ std::size_t LengthToldBy(std::uint32_t first) {
 
 // The code of a character of so many bytes, whether or not it may be one.
 std::uint32_t CodeOf(std::string_view text, std::size_t length) {
-  std::uint32_t code = Byte(text, 0) & kFirstBits.at(length);
+  std::uint32_t code = ByteAt(text, 0) & kFirstBits.at(length);
   for (std::size_t at = 1; at < length; ++at) {
-    code = code << 6U | (Byte(text, at) & 0x3FU);
+    code = code << 6U | (ByteAt(text, at) & 0x3FU);
   }
   return code;
 }
@@ -87,12 +87,12 @@ std::string Shown(std::string_view character, std::uint32_t code) {
 
 std::size_t CharacterLength(std::string_view text) {
   constexpr std::uint32_t kLastCode = 0x10FFFF;
-  const std::size_t length = text.empty() ? 0 : LengthToldBy(Byte(text, 0));
+  const std::size_t length = text.empty() ? 0 : LengthToldBy(ByteAt(text, 0));
   if (length == 0 || text.size() < length) {
     return 0;
   }
   for (std::size_t at = 1; at < length; ++at) {
-    if ((Byte(text, at) & 0xC0U) != 0x80U) {
+    if ((ByteAt(text, at) & 0xC0U) != 0x80U) {
       return 0;
     }
   }

@@ -35,7 +35,7 @@ int BeginUnits(int seconds) { return (seconds + kHundredth - 1) / kHundredth * k
 // The last longitude of a row that goes up to the border `next`.
 int EndUnits(int next) { return next == kCircle ? BeginUnits(next) : BeginUnits(next) - 1; }
 
-std::string DegreesOf(int units) { return DoubleText(units / kUnitsOfDegree); }
+std::string DegreesText(int units) { return DoubleText(units / kUnitsOfDegree); }
 
 int SignAt(int seconds) { return seconds / kSign + 1; }
 
@@ -114,8 +114,8 @@ TsvTable DivideIntoSubs(const std::vector<DashaLord>& cycle,
     const int next = *++border;
     const auto star = static_cast<std::size_t>(begin / kStar);
     const int sign = SignAt(begin);
-    table.Rows.push_back({WholeText(++number), DegreesOf(BeginUnits(begin)),
-                          DegreesOf(EndUnits(next)),
+    table.Rows.push_back({WholeText(++number), DegreesText(BeginUnits(begin)),
+                          DegreesText(EndUnits(next)),
                           signLords.at(static_cast<std::size_t>(sign) - 1), WholeText(sign),
                           cycle.at(star % cycle.size()).Name, SubLordAt(cycle, begin)});
   }
@@ -131,8 +131,8 @@ TsvTable DivideIntoPadas() {
     const int start = BeginUnits(begin);
     const int end = EndUnits(begin + kPada);
     table.Rows.push_back({WholeText(begin / kStar + 1), WholeText(begin / kPada % 4 + 1),
-                          WholeText(sign), DegreesOf(start - signBegin), DegreesOf(end - signBegin),
-                          DegreesOf(start), DegreesOf(end)});
+                          WholeText(sign), DegreesText(start - signBegin),
+                          DegreesText(end - signBegin), DegreesText(start), DegreesText(end)});
   }
   return table;
 }
@@ -142,8 +142,8 @@ TsvTable DivideIntoHalfTithis() {
   for (std::size_t half = 0; half < 60; ++half) {
     const int begin = static_cast<int>(half) * kHalfTithi;
     const TithiName tithi = TithiOf(half);
-    table.Rows.push_back({tithi.Name, KaranOf(half), tithi.Type, DegreesOf(BeginUnits(begin)),
-                          DegreesOf(EndUnits(begin + kHalfTithi))});
+    table.Rows.push_back({tithi.Name, KaranOf(half), tithi.Type, DegreesText(BeginUnits(begin)),
+                          DegreesText(EndUnits(begin + kHalfTithi))});
   }
   return table;
 }

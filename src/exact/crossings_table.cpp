@@ -29,8 +29,7 @@ core::Table CrossingsTable(const ExactZodiac& zodiac, const std::vector<Crossing
 }
 
 std::chrono::seconds OffsetOf(double hours) {
-  constexpr double kSecondsOfHour = 3600;
-  return std::chrono::seconds(core::RoundToWhole(hours * kSecondsOfHour));
+  return std::chrono::seconds(core::RoundToWhole(hours * core::kSecondsOfHour));
 }
 
 std::string ChangeText(const ExactZodiac& zodiac, const std::string& name, Units before,

@@ -7,6 +7,7 @@
 #include "astro/sidereal.h"
 #include "core/settings.h"
 #include "core/text.h"
+#include "exact/circle.h"
 #include "exact/given_ascendant.h"
 
 namespace orvex::exact {
@@ -14,15 +15,9 @@ namespace orvex::exact {
 namespace {
 
 constexpr double kHalfCircle = 180;
-constexpr double kCircle = 360;
 
 constexpr std::array<const char*, 10> kNames = {
     "Sun", "Moon", "Mercury", "Venus", "Mars", "Jupiter", "Saturn", "Rahu", "Ketu", "Ascendant"};
-
-double Normalised(double degrees) {
-  const double rest = std::fmod(degrees, kCircle);
-  return rest < 0 ? rest + kCircle : rest;
-}
 
 }  // namespace
 

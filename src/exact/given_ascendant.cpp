@@ -1,4 +1,5 @@
 #include "exact/given_ascendant.h"
+#include "exact/circle.h"
 
 #include <array>
 #include <cmath>
@@ -10,14 +11,8 @@ namespace {
 
 constexpr double kDegree = std::numbers::pi / 180;
 constexpr double kQuarter = 90;
-constexpr double kCircle = 360;
 // How far the library's Ascendant may lie from the one that is wanted, degrees.
 constexpr double kClose = 1e-6;
-
-double Normalised(double degrees) {
-  const double rest = std::fmod(degrees, kCircle);
-  return rest < 0 ? rest + kCircle : rest;
-}
 
 // The arc between two longitudes, 0 to 180 degrees.
 double Apart(double a, double b) {

@@ -13,7 +13,7 @@ using std::chrono::seconds;
 
 constexpr double kSecondsOfDay = 86400;
 constexpr double kUnits = static_cast<double>(kUnitsOfDegree);
-constexpr double kCircle = static_cast<double>(kUnitsOfCircle);
+constexpr double kCircleUnits = static_cast<double>(kUnitsOfCircle);
 
 // The second at which the border would be reached at the sample's rate, within the two bounds;
 // halfway between them where that leads out of them.
@@ -41,11 +41,11 @@ Sample Path::At(core::DateTime moment) const {
 }
 
 double Path::Ahead(double from, double to) {
-  const double ahead = std::fmod(to - from, kCircle);
-  if (ahead >= kCircle / 2) {
-    return ahead - kCircle;
+  const double ahead = std::fmod(to - from, kCircleUnits);
+  if (ahead >= kCircleUnits / 2) {
+    return ahead - kCircleUnits;
   }
-  return ahead < -kCircle / 2 ? ahead + kCircle : ahead;
+  return ahead < -kCircleUnits / 2 ? ahead + kCircleUnits : ahead;
 }
 
 bool Path::HasPassed(double longitude, Units border, bool forward) {

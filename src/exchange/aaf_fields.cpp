@@ -11,7 +11,6 @@ namespace orvex::exchange {
 namespace {
 
 constexpr int kSixty = 60;
-constexpr int kSecondsOfHour = 3600;
 constexpr double kSecondsOfDay = 86400;
 constexpr double kDayOf1970 = 2440587.5;
 
@@ -62,9 +61,9 @@ std::string AngleText(double degrees, const char* positive, const char* negative
   if (degrees < -farthest || degrees > farthest) {
     return kEmptyField;
   }
-  const std::int64_t whole = core::RoundToWhole(degrees * kSecondsOfHour);
+  const std::int64_t whole = core::RoundToWhole(degrees * core::kSecondsOfHour);
   const std::int64_t seconds = whole < 0 ? -whole : whole;
-  return core::WholeText(seconds / kSecondsOfHour) + (whole < 0 ? negative : positive) +
+  return core::WholeText(seconds / core::kSecondsOfHour) + (whole < 0 ? negative : positive) +
          MinutesText(seconds);
 }
 
@@ -108,12 +107,13 @@ std::optional<core::TimeOfDay> ReadAafTime(const std::string& text) {
     return std::nullopt;
   }
   const std::optional<int> seconds = SecondsOfMinutes(text.substr(colon + 1));
-  return seconds ? std::optional(core::TimeOfDay(*hour * kSecondsOfHour + *seconds)) : std::nullopt;
+  return seconds ? std::optional(core::TimeOfDay(*hour * core::kSecondsOfHour + *seconds))
+                 : std::nullopt;
 }
 
 std::string AafTime(core::DateTime moment) {
   const std::int64_t seconds = core::TimeOfDayOf(moment).count();
-  return core::WholeText(seconds / kSecondsOfHour) + ":" + MinutesText(seconds);
+  return core::WholeText(seconds / core::kSecondsOfHour) + ":" + MinutesText(seconds);
 }
 
 std::optional<double> ReadAafZone(const std::string& text) {
@@ -128,14 +128,15 @@ std::optional<double> ReadAafZone(const std::string& text) {
   if (!hours || !seconds || (half != 'e' && half != 'w')) {
     return std::nullopt;
   }
-  const double east = static_cast<double>(*hours * kSecondsOfHour + *seconds) / kSecondsOfHour;
+  const double east =
+      static_cast<double>(*hours * core::kSecondsOfHour + *seconds) / core::kSecondsOfHour;
   return half == 'w' && east != 0 ? -east : east;
 }
 
 std::string AafZone(double hours) {
-  const std::int64_t whole = core::RoundToWhole(hours * kSecondsOfHour);
+  const std::int64_t whole = core::RoundToWhole(hours * core::kSecondsOfHour);
   const std::int64_t seconds = whole < 0 ? -whole : whole;
-  return core::WholeText(seconds / kSecondsOfHour) + (whole < 0 ? "hW" : "hE") +
+  return core::WholeText(seconds / core::kSecondsOfHour) + (whole < 0 ? "hW" : "hE") +
          MinutesText(seconds);
 }
 

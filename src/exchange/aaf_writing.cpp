@@ -68,17 +68,16 @@ std::string QueryLine(const core::Result& client) {
 }
 
 std::string PlaceLine(const core::Result& client, core::DateTime birth) {
-  constexpr double kSecondsOfHour = 3600;
   const double offset = client.Number("offset");
   const double longitude = client.Number("longitude");
   const core::DateTime ut =
-      birth - std::chrono::seconds(core::RoundToWhole(offset * kSecondsOfHour));
+      birth - std::chrono::seconds(core::RoundToWhole(offset * core::kSecondsOfHour));
   return "#B93:" + AafJulianDay(ut) + "," + AafLatitude(client.Number("latitude")) + "," +
          AafLongitude(longitude) + "," +
          ZoneFields(client.Text("timezone"), birth, longitude, offset) + kLineEnd;
 }
 
-std::string LinesOf(const core::Result& client, core::DateTime birth) {
+std::string RecordLinesOf(const core::Result& client, core::DateTime birth) {
   const std::string zone = AafText(client.Text("timezone"));
   return "#A93:" + NameFields(client.Text("fullname")) + "," + SexField(client.Text("gender")) +
          "," + AafDate(birth) + "," + AafTime(birth) + "," + AafText(client.Text("cityname")) +
@@ -108,7 +107,7 @@ std::optional<std::string> ClientsAsAaf(const core::Session& session,
     if (written.insert(id).second) {
       const core::Result client = ClientRow(session, id);
       const auto birth = client.AtEnd() ? std::nullopt : client.Moment("birthdate");
-      text += birth ? LinesOf(client, *birth) : "";
+      text += birth ? RecordLinesOf(client, *birth) : "";
     }
     ++done;
     if ((done % kProgressEvery == 0 || done == clientIds.size()) &&

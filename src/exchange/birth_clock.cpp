@@ -28,9 +28,8 @@ std::optional<ZoneClock> ClocksAt(const std::string& zone, core::DateTime local,
 }
 
 core::DateTime Moved(core::DateTime moment, double hours) {
-  constexpr double kSecondsOfHour = 3600;
-  return core::DateAdd(core::DateInterval::Seconds, core::RoundToWhole(hours * kSecondsOfHour),
-                       moment);
+  return core::DateAdd(core::DateInterval::Seconds,
+                       core::RoundToWhole(hours * core::kSecondsOfHour), moment);
 }
 
 // The zone whose clocks stand in for an offset that the file does not give.

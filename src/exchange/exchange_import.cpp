@@ -17,10 +17,9 @@ constexpr std::size_t kProgressEvery = 50;
 // What an exchange file can tell of a client.
 std::string ExchangeIdentity(const practice::ClientIdentity& client) {
   const auto seconds = [](const std::string& text) {
-    constexpr double kSecondsOfOne = 3600;
     constexpr double kFar = 1e6;
     const double value = std::clamp(core::ParseNumber(text).value_or(0), -kFar, kFar);
-    return core::WholeText(core::RoundToWhole(value * kSecondsOfOne));
+    return core::WholeText(core::RoundToWhole(value * core::kSecondsOfHour));
   };
   return core::Join({AafText(client.Name), client.Birth, seconds(client.Latitude),
                      seconds(client.Longitude), seconds(client.Offset)},

@@ -9,8 +9,6 @@ namespace orvex::exchange {
 
 namespace {
 
-constexpr double kSecondsOfHour = 3600;
-
 // The lines by their numbers.
 enum JhdLine : std::size_t {
   kMonth = 1,
@@ -54,7 +52,7 @@ class JhdLines {
     if (!value || *value < -limit || *value > limit) {
       Refuse(line, name);
     }
-    return core::RoundToWhole(*value * kSecondsOfHour);
+    return core::RoundToWhole(*value * core::kSecondsOfHour);
   }
 
   [[noreturn]] void Refuse(JhdLine line, const char* name) const {
@@ -68,7 +66,7 @@ class JhdLines {
   std::vector<FileLine> lines_;
 };
 
-core::DateTime LocalOf(const JhdLines& lines) {
+core::DateTime LocalOfLines(const JhdLines& lines) {
   constexpr double kLastHour = 24;
   const int month = lines.Whole(kMonth, "month");
   const int day = lines.Whole(kDay, "day");
@@ -83,7 +81,7 @@ core::DateTime LocalOf(const JhdLines& lines) {
     throw practice::RefusedLine{
         kYear, "before 15 October 1582 the file does not tell by which calendar it counts"};
   }
-  if (seconds < 0 || seconds >= static_cast<std::int64_t>(kLastHour * kSecondsOfHour)) {
+  if (seconds < 0 || seconds >= static_cast<std::int64_t>(kLastHour * core::kSecondsOfHour)) {
     lines.Refuse(kTime, "time");
   }
   return *date + std::chrono::seconds(seconds);
@@ -91,8 +89,8 @@ core::DateTime LocalOf(const JhdLines& lines) {
 
 std::string DegreesText(std::int64_t seconds) {
   constexpr int kDecimals = 5;
-  return core::DoubleText(
-      core::ToDouble(core::FixedText(static_cast<double>(seconds) / kSecondsOfHour, kDecimals)));
+  return core::DoubleText(core::ToDouble(
+      core::FixedText(static_cast<double>(seconds) / core::kSecondsOfHour, kDecimals)));
 }
 
 FileBirth BirthOf(const JhdLines& lines, const std::string& name) {
@@ -100,9 +98,9 @@ FileBirth BirthOf(const JhdLines& lines, const std::string& name) {
   FileBirth birth;
   birth.Line = 1;
   birth.Name = name;
-  birth.Local = LocalOf(lines);
+  birth.Local = LocalOfLines(lines);
   birth.ZoneHours =
-      static_cast<double>(-lines.Seconds(kZone, "time zone", kFarthestZone)) / kSecondsOfHour;
+      static_cast<double>(-lines.Seconds(kZone, "time zone", kFarthestZone)) / core::kSecondsOfHour;
   birth.SummerHours = 0;
   birth.Longitude = DegreesText(-lines.Seconds(kLongitude, "longitude", 180));
   birth.Latitude = DegreesText(lines.Seconds(kLatitude, "latitude", 90));
@@ -133,7 +131,7 @@ std::optional<double> ReadMinutesBehindPoint(const std::string& text) {
   const double whole =
       core::ToDouble(places.substr(0, point)) +
       static_cast<double>(minutes) / static_cast<double>(kSixty) +
-      static_cast<double>(hundredths) / static_cast<double>(kPair) / kSecondsOfHour;
+      static_cast<double>(hundredths) / static_cast<double>(kPair) / core::kSecondsOfHour;
   return isNegative ? -whole : whole;
 }
 

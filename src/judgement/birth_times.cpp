@@ -17,9 +17,7 @@ namespace orvex::judgement {
 
 namespace {
 
-constexpr std::size_t kStrongest = 5;
-
-core::Table EmptyTable() {
+core::Table EmptyBench() {
   return {{{"From", 150},
            {"Until", 150},
            {"Position", 110},
@@ -36,7 +34,7 @@ core::Table EmptyTable() {
 std::set<std::string> StrongRulers(const core::Table& rulers) {
   std::set<std::string> planets;
   for (std::size_t row = 0; row < rulers.Rows.size(); ++row) {
-    if (row < kStrongest || rulers.At(row, RulerColumn::Role).Text == "Node") {
+    if (row < kStrongestRulers || rulers.At(row, RulerColumn::Role).Text == "Node") {
       planets.insert(rulers.At(row, RulerColumn::Planet).Text);
     }
   }
@@ -111,7 +109,7 @@ core::Table BuildBirthTimes(core::Session& session, const chart::HoroscopeModel&
   }
   chart::ChartInput input =
       horoscope::ChartInputOf(session, model, horoscope::OpenRecalculation(model));
-  core::Table table = EmptyTable();
+  core::Table table = EmptyBench();
   for (const exact::Crossing& span : spans) {
     input.Birth = span.From + (span.Until - span.From) / 2 + clock;
     table.AddRow().Tag = core::StoredDateTimeText(input.Birth);

@@ -33,10 +33,6 @@ std::optional<core::Refusal> CheckEvent(const core::Session& session, const Even
 
 std::string DayLiteral(core::DateTime date) { return core::DateLiteral(core::DateOnly(date)); }
 
-core::SaveResult Refuse(const char* text) {
-  return {0, core::Refusal{text, core::MessageIcon::Stop, ""}};
-}
-
 }  // namespace
 
 std::vector<LifeEvent> EventsOfClient(const core::Session& session, std::int32_t clientId) {
@@ -80,7 +76,7 @@ core::SaveResult SaveNewEvent(core::Session& session, const EventForm& form,
     return {0, std::move(refused)};
   }
   if (!core::HasRow(session.StoreConnection, "client_master", clientId)) {
-    return Refuse(core::kNoClientWithId);
+    return core::StoppedSave(core::kNoClientWithId);
   }
   return core::WriteBatch(session, [&form, clientId](core::Store& store) {
     store.Execute("Insert into client_event (clientid, eventdate, matterid, remark) values (" +
@@ -93,7 +89,7 @@ core::SaveResult SaveNewEvent(core::Session& session, const EventForm& form,
 core::SaveResult SaveEventChanges(core::Session& session, const EventForm& form,
                                   std::int32_t eventId) {
   if (!core::HasRow(session.StoreConnection, "client_event", eventId)) {
-    return Refuse(core::kRecordGone);
+    return core::StoppedSave(core::kRecordGone);
   }
   if (std::optional<core::Refusal> refused = CheckEvent(session, form)) {
     return {0, std::move(refused)};
@@ -108,7 +104,7 @@ core::SaveResult SaveEventChanges(core::Session& session, const EventForm& form,
 
 core::SaveResult DeleteEvent(core::Session& session, std::int32_t eventId) {
   if (!core::HasRow(session.StoreConnection, "client_event", eventId)) {
-    return Refuse(core::kRecordGone);
+    return core::StoppedSave(core::kRecordGone);
   }
   return core::WriteBatch(session, [eventId](core::Store& store) {
     store.Execute("Delete from client_event where id = " + core::WholeText(eventId));

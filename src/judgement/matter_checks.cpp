@@ -14,10 +14,6 @@ constexpr std::size_t kLongestName = 50;
 constexpr std::size_t kLongestSource = 100;
 constexpr int kLastHouse = 12;
 
-core::Refusal Refuse(const std::string& text, const char* field) {
-  return {text, core::MessageIcon::Information, field};
-}
-
 bool IsTaken(const core::Session& session, const std::string& name, std::int32_t id) {
   const core::Result row = session.StoreConnection.Query(
       "Select id from matter_master where ucase(name) = " +
@@ -28,16 +24,17 @@ bool IsTaken(const core::Session& session, const std::string& name, std::int32_t
 std::optional<core::Refusal> CheckName(const core::Session& session, const std::string& name,
                                        std::int32_t id) {
   if (name.empty()) {
-    return Refuse("Matter Name is a mandatory field.", "matterName");
+    return core::RefusalOf("Matter Name is a mandatory field.", "matterName");
   }
   if (core::CharacterCount(name) > kLongestName) {
-    return Refuse("Matter Name cannot exceed 50 characters.", "matterName");
+    return core::RefusalOf("Matter Name cannot exceed 50 characters.", "matterName");
   }
   if (core::ParseWhole(name)) {
-    return Refuse("Matter Name cannot be a mere number.", "matterName");
+    return core::RefusalOf("Matter Name cannot be a mere number.", "matterName");
   }
   if (IsTaken(session, name, id)) {
-    return Refuse("The Matter '" + name + "' already exists in the database.", "matterName");
+    return core::RefusalOf("The Matter '" + name + "' already exists in the database.",
+                           "matterName");
   }
   return std::nullopt;
 }
@@ -76,22 +73,23 @@ int HouseInTwoLists(const Matter& matter) {
 std::optional<core::Refusal> ReadLists(const MatterForm& form, Matter& matter) {
   const std::optional<int> mainCusp = HouseOf(core::Trim(form.MainCusp));
   if (!mainCusp) {
-    return Refuse("Main Cusp takes one house from 1 to 12.", "mainCusp");
+    return core::RefusalOf("Main Cusp takes one house from 1 to 12.", "mainCusp");
   }
   matter.MainCusp = *mainCusp;
   if (!ReadHouses(form.Supporting, matter.Supporting)) {
-    return Refuse("Supporting takes houses from 1 to 12, each once, with blanks between them.",
-                  "supporting");
+    return core::RefusalOf(
+        "Supporting takes houses from 1 to 12, each once, with blanks between them.", "supporting");
   }
   if (!ReadHouses(form.Denying, matter.Denying)) {
-    return Refuse("Denying takes houses from 1 to 12, each once, with blanks between them.",
-                  "denying");
+    return core::RefusalOf(
+        "Denying takes houses from 1 to 12, each once, with blanks between them.", "denying");
   }
   if (const int twice = HouseInTwoLists(matter); twice != 0) {
     const bool denied =
         std::find(matter.Denying.begin(), matter.Denying.end(), twice) != matter.Denying.end();
-    return Refuse("House " + core::WholeText(twice) + " stands in two lists of the Matter.",
-                  denied ? "denying" : "supporting");
+    return core::RefusalOf(
+        "House " + core::WholeText(twice) + " stands in two lists of the Matter.",
+        denied ? "denying" : "supporting");
   }
   return std::nullopt;
 }
@@ -108,7 +106,7 @@ std::optional<core::Refusal> ReadMatter(const core::Session& session, const Matt
     return refused;
   }
   if (core::CharacterCount(matter.Source) > kLongestSource) {
-    return Refuse("Source cannot exceed 100 characters.", "source");
+    return core::RefusalOf("Source cannot exceed 100 characters.", "source");
   }
   return std::nullopt;
 }

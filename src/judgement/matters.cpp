@@ -26,10 +26,6 @@ std::optional<Matter> FirstMatter(const core::Session& session, const std::strin
   return row.AtEnd() ? std::nullopt : std::optional(MatterOfRow(row));
 }
 
-core::SaveResult Refuse(const char* text) {
-  return {0, core::Refusal{text, core::MessageIcon::Stop, ""}};
-}
-
 }  // namespace
 
 std::vector<int> GivingHouses(const Matter& matter) {
@@ -107,7 +103,7 @@ core::SaveResult SaveNewMatter(core::Session& session, const MatterForm& form) {
 core::SaveResult SaveMatterChanges(core::Session& session, const MatterForm& form,
                                    std::int32_t id) {
   if (!core::HasRow(session.StoreConnection, "matter_master", id)) {
-    return Refuse(core::kRecordGone);
+    return core::StoppedSave(core::kRecordGone);
   }
   Matter matter;
   if (std::optional<core::Refusal> refused = ReadMatter(session, form, id, matter)) {
@@ -126,7 +122,7 @@ core::SaveResult SaveMatterChanges(core::Session& session, const MatterForm& for
 core::SaveResult DeleteMatter(core::Session& session, std::int32_t id) {
   const core::Store& store = session.StoreConnection;
   if (!core::HasRow(store, "matter_master", id)) {
-    return Refuse(core::kRecordGone);
+    return core::StoppedSave(core::kRecordGone);
   }
   if (!store.Query("Select Top 1 id from client_event where matterid = " + core::WholeText(id))
            .AtEnd()) {

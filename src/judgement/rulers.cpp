@@ -12,8 +12,6 @@ namespace {
 
 using exact::Point;
 
-constexpr std::size_t kStrongest = 5;
-
 std::size_t PlaceOf(Point planet) { return static_cast<std::size_t>(planet); }
 
 int SignOf(exact::Units units) { return static_cast<int>(units / exact::kUnitsOfSign) + 1; }
@@ -84,7 +82,7 @@ class RulersBuilder {
     const int sign = SignOf(sky_.Planets.at(PlaceOf(node)));
     const std::string lord = LordsOf(node).Sign;
     return std::any_of(
-        table_.Rows.begin(), table_.Rows.begin() + static_cast<std::ptrdiff_t>(kStrongest),
+        table_.Rows.begin(), table_.Rows.begin() + static_cast<std::ptrdiff_t>(kStrongestRulers),
         [&](const core::Row& row) {
           const std::string& planet = row.Cells.at(core::Table::Index(RulerColumn::Planet)).Text;
           return planet == lord || Touches(planet, sign);

@@ -10,6 +10,8 @@
 
 namespace orvex::judgement {
 
+inline constexpr std::size_t kStrongestRulers = 5;  // the rows before the sub lords
+
 // What the rulers of a moment are read from. Planets stand in the order of exact::kPlanets.
 struct RulerSky {
   exact::Units Ascendant = 0;

@@ -13,7 +13,7 @@ using core::LastId;
 using core::Quoted;
 using core::WriteBatch;
 
-constexpr std::size_t kLongestName = 100;
+constexpr std::size_t kLongestCityName = 100;
 
 core::Table CityList(const core::Session& session, const std::string& statement) {
   core::Table table{
@@ -33,21 +33,17 @@ core::Table CityList(const core::Session& session, const std::string& statement)
   return table;
 }
 
-core::Refusal Refuse(const std::string& text, const char* field) {
-  return {text, core::MessageIcon::Information, field};
-}
-
 std::optional<core::Refusal> CheckCity(const core::Session& session, const CityForm& form,
                                        bool isNew) {
   const std::string name = core::Trim(form.CityName);
   if (name.empty()) {
-    return Refuse("City Name is a mandatory field.", "cityName");
+    return core::RefusalOf("City Name is a mandatory field.", "cityName");
   }
-  if (core::CharacterCount(name) > kLongestName) {
-    return Refuse("City Name cannot exceed 100 characters.", "cityName");
+  if (core::CharacterCount(name) > kLongestCityName) {
+    return core::RefusalOf("City Name cannot exceed 100 characters.", "cityName");
   }
   if (isNew && !OffsetOfZone(session, form.TimeZone)) {
-    return Refuse("Please select a Time Zone from the list.", "timeZone");
+    return core::RefusalOf("Please select a Time Zone from the list.", "timeZone");
   }
   if (std::optional<core::Refusal> refused = chart::CheckLatitude(form.Latitude)) {
     return refused;
@@ -82,7 +78,8 @@ core::Table SearchCities(const core::Session& session, const std::string& text) 
 }
 
 std::optional<core::Refusal> CheckPickedCity(std::int32_t cityId) {
-  return cityId == 0 ? std::optional(Refuse(core::kNoCityChosen, "cityList")) : std::nullopt;
+  return cityId == 0 ? std::optional(core::RefusalOf(core::kNoCityChosen, "cityList"))
+                     : std::nullopt;
 }
 
 core::Table LoadTimeZones(const core::Session& session) {

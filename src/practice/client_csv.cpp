@@ -124,7 +124,7 @@ std::int32_t CityByName(const core::Session& session, const Line& line) {
   return static_cast<std::int32_t>(found.front());
 }
 
-std::int32_t CityOf(const core::Session& session, const Line& line) {
+std::int32_t CityOfLine(const core::Session& session, const Line& line) {
   const std::string id = line.Trimmed(CsvColumn::CityId);
   if (!id.empty()) {
     return CityById(session, line, id);
@@ -146,7 +146,7 @@ std::string GenderOf(const Line& line) {
   throw LineRefusal{"gender: " + Shown(text) + " is none of M, F and O"};
 }
 
-std::int32_t GroupOf(const core::Session& session, const Line& line, std::int32_t groupId) {
+std::int32_t GroupOfLine(const core::Session& session, const Line& line, std::int32_t groupId) {
   const std::string name = line.Trimmed(CsvColumn::Group);
   if (name.empty()) {
     return groupId;
@@ -182,7 +182,7 @@ IncomingClient ReadLine(const core::Session& session, const Line& line, std::int
   chart::ClientForm& form = client.Form;
   form.FullName = line.Text(CsvColumn::Name);
   form.Birth = BirthOf(line);
-  chart::SelectCity(session, CityOf(session, line), form);
+  chart::SelectCity(session, CityOfLine(session, line), form);
   TakeIfGiven(line.Trimmed(CsvColumn::Latitude), form.Latitude);
   TakeIfGiven(line.Trimmed(CsvColumn::Longitude), form.Longitude);
   TakeIfGiven(line.Trimmed(CsvColumn::Offset), form.Offset);
@@ -191,7 +191,7 @@ IncomingClient ReadLine(const core::Session& session, const Line& line, std::int
   form.Mobile = line.Text(CsvColumn::Mobile);
   form.Comments = line.Text(CsvColumn::Comments);
   TakeQuery(line, form);
-  client.GroupId = GroupOf(session, line, groupId);
+  client.GroupId = GroupOfLine(session, line, groupId);
   return client;
 }
 

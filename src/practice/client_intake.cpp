@@ -9,7 +9,7 @@ namespace orvex::practice {
 
 namespace {
 
-constexpr std::size_t kLongestName = 100;
+constexpr std::size_t kLongestClientName = 100;
 
 // As the store will hold it; a form that was checked has numbers in its fields.
 ClientIdentity IdentityOf(const IncomingClient& client) {
@@ -17,7 +17,7 @@ ClientIdentity IdentityOf(const IncomingClient& client) {
   const auto number = [](const std::string& text) {
     return core::DoubleText(core::ToDouble(text));
   };
-  return {core::FirstCharacters(core::Trim(form.FullName), kLongestName),
+  return {core::FirstCharacters(core::Trim(form.FullName), kLongestClientName),
           core::StoredDateTimeText(form.Birth),
           number(form.Latitude),
           number(form.Longitude),

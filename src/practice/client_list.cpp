@@ -11,12 +11,13 @@ namespace orvex::practice {
 
 namespace {
 
-core::Refusal Refuse(const char* text, core::MessageIcon icon = core::MessageIcon::Information) {
+core::Refusal RefuseClient(const char* text,
+                           core::MessageIcon icon = core::MessageIcon::Information) {
   return {text, icon, "clientList"};
 }
 
 // The group of a client; nothing where the client is gone.
-std::optional<std::int32_t> GroupOf(const core::Session& session, std::int32_t clientId) {
+std::optional<std::int32_t> StoredGroupOf(const core::Session& session, std::int32_t clientId) {
   const core::Result row = session.StoreConnection.Query(
       "Select groupid from client_master where id = " + core::WholeText(clientId));
   return row.AtEnd() ? std::nullopt
@@ -27,7 +28,7 @@ std::optional<core::Refusal> CheckClosed(const core::Session& session, std::int3
                                          const char* text) {
   const std::vector<std::int32_t>& open = session.State.OpenHoroscopes;
   const bool isOpen = std::find(open.begin(), open.end(), clientId) != open.end();
-  return isOpen ? std::optional(Refuse(text)) : std::nullopt;
+  return isOpen ? std::optional(RefuseClient(text)) : std::nullopt;
 }
 
 core::Table EmptyList() {
@@ -126,8 +127,8 @@ core::SaveResult DeleteClient(core::Session& session, std::int32_t clientId) {
   if (std::optional<core::Refusal> refused = CheckDeleteClient(session, clientId)) {
     return {0, std::move(refused)};
   }
-  if (!GroupOf(session, clientId)) {
-    return {0, Refuse(core::kNoClientWithId, core::MessageIcon::Stop)};
+  if (!StoredGroupOf(session, clientId)) {
+    return {0, RefuseClient(core::kNoClientWithId, core::MessageIcon::Stop)};
   }
   return DeleteAfterBackup(session, [clientId](core::Store& store) {
     const std::string id = core::WholeText(clientId);
@@ -151,15 +152,15 @@ ClientPlace PlaceOfClient(const core::Session& session, std::int32_t clientId) {
 }
 
 core::SaveResult MoveClient(core::Session& session, std::int32_t clientId, std::int32_t groupId) {
-  const std::optional<std::int32_t> present = GroupOf(session, clientId);
+  const std::optional<std::int32_t> present = StoredGroupOf(session, clientId);
   if (!present) {
-    return {0, Refuse(core::kNoClientWithId, core::MessageIcon::Stop)};
+    return {0, RefuseClient(core::kNoClientWithId, core::MessageIcon::Stop)};
   }
   if (*present == groupId) {
-    return {0, Refuse("Source and Destination Groups cannot be the same.")};
+    return {0, RefuseClient("Source and Destination Groups cannot be the same.")};
   }
   if (!core::HasRow(session.StoreConnection, "group_master", groupId)) {
-    return {0, Refuse(core::kNoGroupWithId, core::MessageIcon::Stop)};
+    return {0, RefuseClient(core::kNoGroupWithId, core::MessageIcon::Stop)};
   }
   return core::WriteBatch(session, [clientId, groupId](core::Store& store) {
     store.Execute("Update client_master set groupid = " + core::WholeText(groupId) +

@@ -33,7 +33,7 @@ std::vector<KeptRow> RowsOf(const core::Store& store, const std::string& table,
   return rows;
 }
 
-void Write(core::Store& store, const KeptRow& row) {
+void WriteRow(core::Store& store, const KeptRow& row) {
   store.Execute("Insert into " + row.Table + " (" + core::Join(row.Columns, ", ") + ") values (" +
                 core::Join(row.Values, ", ") + ")");
 }
@@ -52,7 +52,7 @@ std::string GroupFor(core::Store& store, const KeptRow& group) {
       return there.Text("id");
     }
   }
-  Write(store, group);
+  WriteRow(store, group);
   return ValueOf(group, "id");
 }
 
@@ -89,7 +89,7 @@ core::SaveResult BringBack(core::Session& session, const KeptClient& client) {
   return core::WriteBatch(session, [&client, &id](core::Store& store) {
     const std::string group = GroupFor(store, client.Group);
     for (const KeptRow& row : client.Rows) {
-      Write(store, row);
+      WriteRow(store, row);
     }
     store.Execute("Update client_master set groupid = " + group + " where id = " + id);
     return client.Id;

@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kLongestCell = 32767;
-constexpr std::size_t kLongestName = 31;
+constexpr std::size_t kLongestSheetName = 31;
 constexpr double kPixelsOfCharacter = 7;
 constexpr double kPlainWidth = 16;
 
@@ -163,7 +163,7 @@ void WriteColumns(lxw_worksheet* sheet, const core::Table& table, const Formats&
   worksheet_freeze_panes(sheet, 1, 0);
 }
 
-void Write(const core::Table& table, const fs::path& file, const std::string& title) {
+void WriteWorkbook(const core::Table& table, const fs::path& file, const std::string& title) {
   Workbook book(file);
   const Formats formats = AddFormats(book);
   lxw_worksheet* sheet = book.AddSheet(SheetName(title));
@@ -188,7 +188,7 @@ std::string SheetName(const std::string& title) {
                         std::string_view("[]:*?/\\").find(c) != std::string_view::npos;
     name += breaks ? ' ' : c;
   }
-  name = core::Trim(core::FirstCharacters(core::Trim(name), kLongestName));
+  name = core::Trim(core::FirstCharacters(core::Trim(name), kLongestSheetName));
   while (name.starts_with('\'')) {
     name.erase(0, 1);
   }
@@ -204,7 +204,7 @@ std::optional<core::Refusal> ExportList(const core::Table& table, const fs::path
   try {
     const PointNumbers numbers;
     const FileBeside beside(file);
-    Write(table, beside.Path(), title);
+    WriteWorkbook(table, beside.Path(), title);
     core::WriteFileSafely(file, core::ReadTextFile(beside.Path()));
     return std::nullopt;
   } catch (const std::exception&) {

@@ -15,9 +15,9 @@ using core::LastId;
 using core::Quoted;
 using core::WriteBatch;
 
-constexpr std::size_t kLongestName = 20;
+constexpr std::size_t kLongestGroupName = 20;
 
-core::SaveResult Refuse(const std::string& text, core::MessageIcon icon) {
+core::SaveResult RefuseGroup(const std::string& text, core::MessageIcon icon) {
   return {0, core::Refusal{text, icon, "groupName"}};
 }
 
@@ -30,7 +30,7 @@ std::optional<core::Refusal> CheckName(const core::Session& session, const std::
   if (name.empty()) {
     return refuse("Group Name is a mandatory field.");
   }
-  if (core::CharacterCount(name) > kLongestName) {
+  if (core::CharacterCount(name) > kLongestGroupName) {
     return refuse("Group Name cannot exceed 20 characters.");
   }
   for (core::Result row =
@@ -109,7 +109,7 @@ core::SaveResult AddGroup(core::Session& session, const std::string& name) {
 core::SaveResult RenameGroup(core::Session& session, std::int32_t groupId,
                              const std::string& name) {
   if (!HasRow(session.StoreConnection, "group_master", groupId)) {
-    return Refuse(core::kRecordGone, core::MessageIcon::Stop);
+    return RefuseGroup(core::kRecordGone, core::MessageIcon::Stop);
   }
   const std::string trimmed = core::Trim(name);
   if (std::optional<core::Refusal> refused = CheckName(session, trimmed, groupId)) {
@@ -161,7 +161,7 @@ core::SaveResult DeleteGroup(core::Session& session, std::int32_t groupId) {
     return {0, std::move(refused)};
   }
   if (!HasRow(session.StoreConnection, "group_master", groupId)) {
-    return Refuse(core::kRecordGone, core::MessageIcon::Stop);
+    return RefuseGroup(core::kRecordGone, core::MessageIcon::Stop);
   }
   return DeleteAfterBackup(session, [&session, groupId](core::Store& store) {
     DeleteClients(store, core::WholeText(groupId));

@@ -18,22 +18,18 @@ using core::WriteBatch;
 constexpr std::size_t kLongestText = 1000;
 constexpr const char* kTooLong = "Text cannot exceed more than 1000 characters.";
 
-core::Refusal Refuse(const char* text, const char* field) {
-  return {text, core::MessageIcon::Information, field};
-}
-
 std::optional<core::Refusal> CheckRemedy(const RemedyForm& form) {
   if (core::Trim(form.Problem).empty()) {
-    return Refuse("Problem/Symptom is a mandatory field.", "problem");
+    return core::RefusalOf("Problem/Symptom is a mandatory field.", "problem");
   }
   if (core::CharacterCount(form.Problem) > kLongestText) {
-    return Refuse(kTooLong, "problem");
+    return core::RefusalOf(kTooLong, "problem");
   }
   if (core::Trim(form.Remedy).empty()) {
-    return Refuse("Remedy/Solution is a mandatory field.", "remedy");
+    return core::RefusalOf("Remedy/Solution is a mandatory field.", "remedy");
   }
   if (core::CharacterCount(form.Remedy) > kLongestText) {
-    return Refuse(kTooLong, "remedy");
+    return core::RefusalOf(kTooLong, "remedy");
   }
   return std::nullopt;
 }

@@ -11,11 +11,10 @@ namespace orvex::practice {
 namespace {
 
 constexpr const char* kMeanTime = "LMT";
-constexpr double kSecondsOfHour = 3600;
 constexpr double kDegreesOfHour = 15;
 
 double HoursOf(std::chrono::seconds offset) {
-  return static_cast<double>(offset.count()) / kSecondsOfHour;
+  return static_cast<double>(offset.count()) / core::kSecondsOfHour;
 }
 
 const date::time_zone& FindZone(const std::string& zone) {
@@ -82,7 +81,7 @@ std::chrono::seconds StandardOffset(const date::time_zone& zone, const date::sys
 
 ZoneClock MeanTimeClock(double longitude) {
   const double hours =
-      core::RoundHalfEven(longitude / kDegreesOfHour * kSecondsOfHour) / kSecondsOfHour;
+      core::RoundHalfEven(longitude / kDegreesOfHour * core::kSecondsOfHour) / core::kSecondsOfHour;
   return {ClockReading::LocalMeanTime, hours, hours, std::nullopt, kMeanTime};
 }
 
@@ -114,7 +113,7 @@ std::string OffsetText(double hours) {
 
 std::string ClockOffsetText(double hours) {
   constexpr int kSixty = 60;
-  const std::int64_t whole = core::RoundToWhole(hours * kSecondsOfHour);
+  const std::int64_t whole = core::RoundToWhole(hours * core::kSecondsOfHour);
   const std::int64_t seconds = whole < 0 ? -whole : whole;
   const std::string text = core::PaddedWhole(seconds / kSixty / kSixty, 1) + ":" +
                            core::PaddedWhole(seconds / kSixty % kSixty, 2);

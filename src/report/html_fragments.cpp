@@ -10,7 +10,6 @@ namespace orvex::report {
 namespace {
 
 constexpr const char* kFont = "<font face='Verdana' size='2'>";
-constexpr const char* kFontEnd = "</font></td>";
 constexpr const char* kGridOpening =
     "<div align='center'>\n"
     "  <table border='1' width='80%' cellspacing='0' cellpadding='5'>\n"

@@ -9,6 +9,8 @@
 
 namespace orvex::report {
 
+inline constexpr const char* kFontEnd = "</font></td>";
+
 // A text that a user typed, made harmless between tags: &, <, >, and the bracket that would begin
 // a placeholder.
 std::string EscapeHtml(const std::string& text);

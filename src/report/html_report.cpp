@@ -14,7 +14,6 @@ namespace {
 constexpr const char* kGoodFont = "<font color='#008000' face='Verdana' size='2'>";
 constexpr const char* kHardFont = "<font color='#FF0000' face='Verdana' size='2'>";
 constexpr const char* kPlainFont = "<font face='Verdana' size='2'>";
-constexpr const char* kFontEnd = "</font></td>";
 
 // A template that is filled placeholder by placeholder, in the order of the calls. What was filled
 // in is text like any other for the next one.

@@ -47,7 +47,7 @@ core::Table CuspsOf(const ExactReading& reading, const core::Table& stored) {
 }
 
 // What stands at a longitude of the figure.
-struct Mark {
+struct ChartMark {
   double Longitude = 0;
   std::string Text;
 };
@@ -57,8 +57,8 @@ std::string ToTheMinute(const std::string& position) {
   return position.substr(0, position.find('\'') + 1);
 }
 
-std::vector<Mark> MarksOf(const ExactReading& reading) {
-  std::vector<Mark> marks;
+std::vector<ChartMark> MarksOf(const ExactReading& reading) {
+  std::vector<ChartMark> marks;
   for (std::size_t row = 0; row < reading.Cusps.Rows.size(); ++row) {
     marks.push_back({core::ToDouble(reading.Cusps.At(row, ExactCuspColumn::Longitude).Text),
                      std::string("(") + kRoman.at(row) + " " +
@@ -72,8 +72,9 @@ std::vector<Mark> MarksOf(const ExactReading& reading) {
                          (retrograde ? chart::kRetrogradeMark : "") + " " +
                          ToTheMinute(planets.At(row, ExactPlanetColumn::Position).Text)});
   }
-  std::stable_sort(marks.begin(), marks.end(),
-                   [](const Mark& a, const Mark& b) { return a.Longitude < b.Longitude; });
+  std::stable_sort(marks.begin(), marks.end(), [](const ChartMark& a, const ChartMark& b) {
+    return a.Longitude < b.Longitude;
+  });
   return marks;
 }
 
@@ -98,14 +99,14 @@ ChartPicture FigureOf(const ExactReading& reading, int ascendant, char style) {
     fieldOf(sign).Sign = core::WholeText(sign);
     fieldOf(sign).Ascendant = sign == ascendant;
   }
-  for (const Mark& mark : MarksOf(reading)) {
+  for (const ChartMark& mark : MarksOf(reading)) {
     fieldOf(chart::RashiOfDegree(mark.Longitude)).Codes.push_back(mark.Text);
   }
   return figure;
 }
 
-ReportFacts FactsOf(const std::vector<ReportScalar>& scalars, const chart::HoroscopeModel& model,
-                    const ExactReading& reading) {
+ReportFacts SheetFactsOf(const std::vector<ReportScalar>& scalars,
+                         const chart::HoroscopeModel& model, const ExactReading& reading) {
   return {
       {"Date and time", TextOf(scalars, "BIRTHDATE")},
       {"Place", TextOf(scalars, "BIRTHPLACE")},
@@ -167,7 +168,7 @@ KpSheet SheetOf(core::Session& session, const horoscope::OpenedHoroscope& opened
   sheet.Organization = state.AstrologerOrganization;
   sheet.Contact = state.AstrologerContactDetails;
   sheet.Date = core::LongDateText(session.Time.Today(), false);
-  sheet.Facts = FactsOf(scalars, model, reading);
+  sheet.Facts = SheetFactsOf(scalars, model, reading);
   sheet.Figure = FigureOf(reading, AscendantSign(reading, opened.Birth), style);
   sheet.Message = reading.Message;
   sheet.Planets = PlanetsOf(reading);

@@ -19,7 +19,7 @@ std::string NorthText(std::size_t house, const std::string& rashi, const std::st
   return std::string(kAscendant) + " " + rashi + planets.substr(kAscendant.size());
 }
 
-void FillSouth(std::size_t house, const core::Cell& east, SouthGrid& grid) {
+void FillSouthSky(std::size_t house, const core::Cell& east, SouthGrid& grid) {
   for (std::size_t row = 0; row < chart::kSouthSide; ++row) {
     for (std::size_t column = 0; column < chart::kSouthSide; ++column) {
       SouthSignCell& cell = grid.at(row).at(column);
@@ -44,7 +44,7 @@ ChartCells BuildSkyChart(const panchang::SkyView& view) {
     core::Cell& east = cells.East.at(static_cast<std::size_t>(*core::ParseWhole(rashi)) - 1);
     east.Text = planets;
     east.Tag = rashi;
-    FillSouth(house, east, cells.SouthRashi);
+    FillSouthSky(house, east, cells.SouthRashi);
   }
   return cells;
 }

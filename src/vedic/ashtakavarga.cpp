@@ -1,5 +1,6 @@
 #include "vedic/ashtakavarga.h"
 
+#include "chart/zodiac_lookups.h"
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
@@ -10,7 +11,6 @@ namespace orvex::vedic {
 
 namespace {
 
-constexpr int kSigns = 12;
 constexpr const char* kAscendant = "LA";
 
 constexpr std::size_t RowOf(AshtakavargaRow row) { return static_cast<std::size_t>(row); }
@@ -20,10 +20,10 @@ constexpr AshtakavargaColumn SignColumn(int sign) {
                                          1);
 }
 
-core::Table EmptyTable() {
+core::Table EmptyBindus() {
   core::Table table;
   table.Columns = {{"Rashi", 72}};
-  for (int sign = 1; sign <= kSigns; ++sign) {
+  for (int sign = 1; sign <= chart::kSignCount; ++sign) {
     table.Columns.push_back({" " + core::WholeText(sign), 42, "", true});
   }
   table.Columns.push_back({"Total ", 60});
@@ -39,7 +39,7 @@ void FillHouses(chart::HoroscopeModel& model) {
   core::Table& table = model.AshtakavargaTable;
   constexpr std::size_t kRow = RowOf(AshtakavargaRow::House);
   table.At(kRow, AshtakavargaColumn::Rashi).Text = "House";
-  for (int sign = 1; sign <= kSigns; ++sign) {
+  for (int sign = 1; sign <= chart::kSignCount; ++sign) {
     core::Cell& cell = table.At(kRow, SignColumn(sign));
     core::Attempt([&] { cell.Text = GridHouse(model, sign).Text; });
     cell.Bold = true;
@@ -61,7 +61,7 @@ SourceBindus BindusOfPlanet(const chart::HoroscopeModel& model, const Ashtakavar
 // Fills a row with the bindus and their total, and returns that.
 int FillSums(core::Table& table, std::size_t row, const SourceBindus& bindus) {
   int total = 0;
-  for (int sign = 1; sign <= kSigns; ++sign) {
+  for (int sign = 1; sign <= chart::kSignCount; ++sign) {
     const int count = bindus.at(static_cast<std::size_t>(sign));
     table.At(row, SignColumn(sign)).Text = core::WholeText(count);
     total += count;
@@ -74,9 +74,9 @@ int FillSums(core::Table& table, std::size_t row, const SourceBindus& bindus) {
 // the totals of the signs in every such chart depend on that.
 SourceBindus Rotated(const std::vector<std::string>& flags, int sourceSign) {
   SourceBindus bindus{};
-  const int shift = sourceSign == kSigns ? 0 : sourceSign - 1;
-  for (int place = 0; place < kSigns; ++place) {
-    const auto sign = static_cast<std::size_t>((place + shift) % kSigns + 1);
+  const int shift = sourceSign == chart::kSignCount ? 0 : sourceSign - 1;
+  for (int place = 0; place < chart::kSignCount; ++place) {
+    const auto sign = static_cast<std::size_t>((place + shift) % chart::kSignCount + 1);
     bindus.at(sign) = flags.at(static_cast<std::size_t>(place) + 1) == "1" ? 1 : 0;
   }
   return bindus;
@@ -105,7 +105,7 @@ SourceBindus AddSourceBindus(const chart::HoroscopeModel& model, const std::stri
 }
 
 void ComputeAshtakavarga(chart::HoroscopeModel& model) {
-  model.AshtakavargaTable = EmptyTable();
+  model.AshtakavargaTable = EmptyBindus();
   core::Table& table = model.AshtakavargaTable;
   FillHouses(model);
 

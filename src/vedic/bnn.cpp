@@ -24,7 +24,6 @@ using chart::PlanetColumn;
 
 constexpr const char* kRahu = "RA";
 constexpr const char* kKetu = "KE";
-constexpr std::int64_t kSigns = 12;
 
 // A place in the order of degrees before it becomes a row.
 struct Place {
@@ -205,7 +204,7 @@ void MarkRetrograde(chart::HoroscopeModel& model, const std::string& code) {
       if (core::Contains(HouseText(model, row, HouseColumn::RcPlanets), code)) {
         const std::int64_t sign = NumberIn(HouseText(model, row, HouseColumn::Rashi));
         model.HouseTable.At(row, HouseColumn::RetroRashi).Text =
-            core::WholeText(sign == 1 ? kSigns : sign - 1);
+            core::WholeText(sign == 1 ? chart::kSignCount : sign - 1);
       }
     });
   }

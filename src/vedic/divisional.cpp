@@ -16,8 +16,6 @@ namespace {
 using chart::HouseColumn;
 using chart::PlanetColumn;
 
-constexpr int kSigns = 12;
-
 std::span<const DivisionRow> RowsOf(Division division) {
   if (division == Division::Navamsha) {
     return kNavamshaTable;
@@ -32,8 +30,8 @@ float AscendantDegree(int sign, float longitude) {
 }
 
 void LayOutHouses(int ascendant, DivisionChart& chart) {
-  for (int house = 1; house <= kSigns; ++house) {
-    const int sign = (ascendant + house - 2) % kSigns + 1;
+  for (int house = 1; house <= chart::kSignCount; ++house) {
+    const int sign = (ascendant + house - 2) % chart::kSignCount + 1;
     const auto place = static_cast<std::size_t>(house);
     chart.HouseSigns.at(place) = sign;
     chart.North.at(place) = core::WholeText(sign);
@@ -41,7 +39,7 @@ void LayOutHouses(int ascendant, DivisionChart& chart) {
 }
 
 void PlacePlanet(const std::string& code, int sign, DivisionChart& chart) {
-  for (std::size_t house = 1; house <= kSigns; ++house) {
+  for (std::size_t house = 1; house <= chart::kSignCount; ++house) {
     if (chart.HouseSigns.at(house) == sign) {
       chart.North.at(house) = core::Trim(chart.North.at(house) + " " + code);
     }
@@ -59,7 +57,7 @@ void FillSouth(DivisionChart& chart) {
       if (cell.Sign == 0) {
         continue;
       }
-      for (std::size_t house = 1; house <= kSigns; ++house) {
+      for (std::size_t house = 1; house <= chart::kSignCount; ++house) {
         if (chart.HouseSigns.at(house) == cell.Sign && core::Contains(chart.North.at(house), " ")) {
           cell.Text = chart.North.at(house);
         }

@@ -20,7 +20,6 @@ namespace {
 using chart::AspectColumn;
 using chart::PlanetColumn;
 
-constexpr int kSigns = 12;
 constexpr std::size_t kFirstPlanet = static_cast<std::size_t>(GridRow::FirstPlanet);
 constexpr std::array<int, 2> kStrikingAspects = {90, 180};
 
@@ -106,7 +105,7 @@ void AddImpactsOnHouses(chart::HoroscopeModel& model, const core::AspectBandLimi
     if (planet == "Rahu" || planet == "Ketu") {
       continue;
     }
-    for (int sign = 1; sign <= kSigns; ++sign) {
+    for (int sign = 1; sign <= chart::kSignCount; ++sign) {
       core::Attempt([&] {
         AddImpacts(model, bands, planet, model.AspectGrid.At(row, GridSign(sign)).Text,
                    {GridCaption(model, sign), GridHouse(model, sign).Text, core::WholeText(sign)});
@@ -171,7 +170,7 @@ void AddHitsOnPlanets(chart::HoroscopeModel& model, const char* color, const cha
 
 void AddHitsOnHouses(chart::HoroscopeModel& model, const char* color, const char* type) {
   for (std::size_t row = kFirstPlanet; row < model.AspectGrid.Rows.size(); ++row) {
-    for (int sign = 1; sign <= kSigns; ++sign) {
+    for (int sign = 1; sign <= chart::kSignCount; ++sign) {
       core::Attempt([&] {
         const core::Cell& planet = model.AspectGrid.At(row, GridColumn::Dir);
         const core::Cell& angle = model.AspectGrid.At(row, GridSign(sign));

@@ -53,8 +53,7 @@ TEST(Combustion, MarksFollowTheTableOfThePlanets) {
       {"Mars", "117.01", 1},   {"Rahu", "280.00", 1},
       {"Jupiter", "89.00", 1}, {"Saturn", "84.99", 1},
       {"Mercury", "87.00", 1}};
-  using Texts = std::vector<std::string>;
-  const Texts wanted = {"", "", "", "C", "", "", "C", "", "C"};
+  const std::vector<std::string> wanted = {"", "", "", "C", "", "", "C", "", "C"};
   HoroscopeModel model = test::BuildModel(planets);
   model.PlanetTable.At(RowOf(PlanetPlace::Mars), PlanetColumn::C).Text = "C";  // an earlier mark
   MarkCombust(model);
@@ -65,7 +64,7 @@ TEST(Combustion, MarksFollowTheTableOfThePlanets) {
   model.PlanetTable.At(RowOf(PlanetPlace::Moon), PlanetColumn::C).Text.clear();
   MarkCombust(model);
   EXPECT_EQ(test::TextsOf(model.PlanetTable, PlanetColumn::C),
-            Texts({"", "C", "", "", "", "", "C", "", ""}));
+            std::vector<std::string>({"", "C", "", "", "", "", "C", "", ""}));
 }
 
 TEST(Combustion, WithoutASunNothingIsMarked) {

@@ -27,6 +27,19 @@ export DISPLAY=:$(cat "$work/display")
 
 await() { timeout 30 xdotool search --sync --onlyvisible --name "$1" | head -n 1; }
 
+# The key goes to the window that has the focus. Without a window manager a window that comes up at
+# the same moment (the splash) can take it away, so it is given anew and the key pressed again.
+press_for() {
+  local window=$1 key=$2 title=$3 found=""
+  for _ in $(seq 10); do
+    xdotool windowfocus "$window"
+    sleep 0.2
+    xdotool key "$key"
+    found=$(timeout 3 xdotool search --sync --onlyvisible --name "$title" | head -n 1) || true
+    if [ -n "$found" ]; then echo "$found"; return; fi
+  done
+}
+
 # The splash has the same name; the main window is the wide one.
 main_window() {
   for _ in $(seq 100); do
@@ -42,9 +55,7 @@ main_window() {
 program=$!
 main=$(main_window)
 [ -n "$main" ] || fail "no main window"
-xdotool windowfocus --sync "$main"
-xdotool key --window "$main" ctrl+n
-dialog=$(await '^Add Client$')
+dialog=$(press_for "$main" ctrl+n '^Add Client$')
 [ -n "$dialog" ] || fail "no client dialog"
 xdotool windowfocus --sync "$dialog"
 xdotool type "First Client"

@@ -21,7 +21,7 @@ constexpr uint kPrefersDark = 1;
 constexpr uint kPrefersLight = 2;
 
 // The value lies in one variant or, from older portals, in two.
-std::optional<bool> IsDark(const QVariant& answer) {
+std::optional<bool> TellsDark(const QVariant& answer) {
   QVariant value = answer;
   while (value.canConvert<QDBusVariant>()) {
     value = value.value<QDBusVariant>().variant();
@@ -41,14 +41,14 @@ std::optional<bool> AskPortal(const QDBusConnection& bus) {
   const QDBusMessage answer = bus.call(question, QDBus::Block, kPatience);
   return answer.arguments().isEmpty() || answer.type() != QDBusMessage::ReplyMessage
              ? std::nullopt
-             : IsDark(answer.arguments().constFirst());
+             : TellsDark(answer.arguments().constFirst());
 }
 
 }  // namespace
 
 void SchemeListener::Changed(const QString& group, const QString& key, const QDBusVariant& value) {
   if (group == kNamespace && key == kKey) {
-    show_(IsDark(value.variant()).value_or(false));
+    show_(TellsDark(value.variant()).value_or(false));
   }
 }
 

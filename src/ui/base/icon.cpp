@@ -18,7 +18,7 @@ namespace {
 constexpr int kSmallGrid = 16;
 constexpr int kLargeGrid = 20;
 
-QColor ColorOf(IconInk ink, QIcon::Mode mode) {
+QColor InkColor(IconInk ink, QIcon::Mode mode) {
   const Tokens& t = Theme::Now();
   if (mode == QIcon::Disabled) {
     return t.Ink3;
@@ -53,7 +53,7 @@ class TintedEngine final : public QIconEngine {
 
   QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/,
                        double scale) override {
-    const QColor color = ColorOf(ink_, mode);
+    const QColor color = InkColor(ink_, mode);
     const QString key = QString("icon/%1/%2x%3/%4")
                             .arg(name_)
                             .arg(size.width())

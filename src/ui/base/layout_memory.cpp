@@ -11,7 +11,7 @@ namespace orvex::ui {
 
 namespace {
 
-QString KeyOf(const char* kind, const QObject& widget) {
+QString LayoutKey(const char* kind, const QObject& widget) {
   return QString(kind) + '/' + widget.objectName();
 }
 
@@ -28,12 +28,12 @@ std::filesystem::path LayoutMemory::DefaultFile() {
 }
 
 QVariant LayoutMemory::Value(const char* kind, const QObject& widget) const {
-  return settings_.value(KeyOf(kind, widget));
+  return settings_.value(LayoutKey(kind, widget));
 }
 
 void LayoutMemory::Keep(const char* kind, const QObject& widget, const QByteArray& state) {
   if (Value(kind, widget).toByteArray() != state) {
-    settings_.setValue(KeyOf(kind, widget), state);
+    settings_.setValue(LayoutKey(kind, widget), state);
   }
 }
 
@@ -53,12 +53,12 @@ void LayoutMemory::Remember(QSplitter& splitter) {
 }
 
 std::optional<int> LayoutMemory::ColumnWidth(const QObject& table, const QString& caption) const {
-  const QVariant width = settings_.value(KeyOf("columns", table) + '/' + caption);
+  const QVariant width = settings_.value(LayoutKey("columns", table) + '/' + caption);
   return width.isValid() ? std::optional(width.toInt()) : std::nullopt;
 }
 
 void LayoutMemory::KeepColumnWidth(const QObject& table, const QString& caption, int width) {
-  settings_.setValue(KeyOf("columns", table) + '/' + caption, width);
+  settings_.setValue(LayoutKey("columns", table) + '/' + caption, width);
 }
 
 QString LayoutMemory::ChosenEntry(const QObject& list) const {

@@ -7,10 +7,10 @@
 #include <string>
 
 #include "core/date_text.h"
+#include "ui/painting/shown_text.h"
 
 namespace orvex::ui {
 
-inline QString Shown(const std::string& text) { return QString::fromStdString(text); }
 inline std::string Typed(const QString& text) { return text.toStdString(); }
 
 // A wall-clock moment as an edit field holds it: always in UTC, so that no hour is skipped where

@@ -18,7 +18,7 @@ namespace orvex::ui {
 namespace {
 
 // Small, but as wide as a coordinate of five decimals.
-QLineEdit* Field(const char* name) {
+QLineEdit* NumberField(const char* name) {
   auto* field = new QLineEdit;
   field->setObjectName(name);
   field->setMaximumWidth(field->fontMetrics().horizontalAdvance("-180.00000") + 2 * kMargin);
@@ -51,9 +51,9 @@ void Mark(QLineEdit& field, bool changed) {
 PlaceFields::PlaceFields(Workplace& place, QWidget* parent)
     : QWidget(parent),
       place_(place),
-      latitude_(Field("latitude")),
-      longitude_(Field("longitude")),
-      offset_(Field("offset")),
+      latitude_(NumberField("latitude")),
+      longitude_(NumberField("longitude")),
+      offset_(NumberField("offset")),
       clocks_(new QLabel),
       warning_(new QLabel),
       takeFirst_(TakeButton("takeOffset")),

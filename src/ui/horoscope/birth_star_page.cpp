@@ -14,23 +14,23 @@ namespace orvex::ui {
 
 namespace {
 
-using C = chart::HoroscopeCaptions;
+using Captions = chart::HoroscopeCaptions;
 using chart::PlanetColumn;
 using chart::PlanetPlace;
 using chart::StarColumn;
 
 struct Fact {
   const char* Label;
-  std::string C::*Value;
+  std::string Captions::*Value;
 };
 
 constexpr std::array<Fact, 6> kFacts = {{
-    {QT_TRANSLATE_NOOP("BirthStarPage", "Star of the Moon"), &C::Nakshatra},
-    {QT_TRANSLATE_NOOP("BirthStarPage", "Varna - Gana"), &C::VarnaGana},
-    {QT_TRANSLATE_NOOP("BirthStarPage", "Nadi - Yoni"), &C::NadiYoni},
-    {QT_TRANSLATE_NOOP("BirthStarPage", "Vasya - Rajju"), &C::VasyaRajju},
-    {QT_TRANSLATE_NOOP("BirthStarPage", "Tithi"), &C::Tithi},
-    {QT_TRANSLATE_NOOP("BirthStarPage", "Yoga - Karan"), &C::YogaKaran},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Star of the Moon"), &Captions::Nakshatra},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Varna - Gana"), &Captions::VarnaGana},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Nadi - Yoni"), &Captions::NadiYoni},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Vasya - Rajju"), &Captions::VasyaRajju},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Tithi"), &Captions::Tithi},
+    {QT_TRANSLATE_NOOP("BirthStarPage", "Yoga - Karan"), &Captions::YogaKaran},
 }};
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace {
 constexpr double kLargestText = 0.044;
 constexpr double kSmallestText = 0.018;
 constexpr double kSignText = 0.030;
-constexpr double kTitleText = 0.046;
+constexpr double kMiddleText = 0.046;
 constexpr double kNoteText = 0.8;  // of the planets' size
 constexpr double kBorderLine = 0.0055;
 constexpr double kInnerLine = 0.0030;
@@ -147,7 +147,7 @@ void PaintChart(QPainter& painter, const QRectF& area, const report::ChartPictur
     PaintField(painter, drawn.at(i), picture.Fields.at(i), font, colors, square.width());
   }
   if (!geometry.Middle.isEmpty()) {
-    painter.setFont(Sized(font, square.width() * kTitleText));
+    painter.setFont(Sized(font, square.width() * kMiddleText));
     painter.setPen(colors.Muted);
     const QRectF middle(Placed(square, geometry.Middle.topLeft()),
                         Placed(square, geometry.Middle.bottomRight()));

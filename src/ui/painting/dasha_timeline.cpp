@@ -11,13 +11,9 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr double kAir = 6;
-constexpr double kSmall = 0.9;  // of the text: dates and flags
 constexpr double kLowest = 14;  // of a bar
 constexpr double kUsual = 44;   // up to here all room goes to the bars
 constexpr std::array<const char*, kTimelineLevels> kLevelNames = {"Dasha", "Bhukti", "Antara"};
-
-QString Shown(const std::string& text) { return QString::fromStdString(text); }
 
 std::string DateText(core::DateTime date) { return core::LongDateText(date, true); }
 
@@ -49,7 +45,7 @@ TimelineLevel LevelOf(const core::Table& list, ColumnName planet, ColumnName end
 }
 
 // The days of a level along its row.
-struct Scale {
+struct DayScale {
   core::DateTime From;
   double Left = 0;
   double PerDay = 0;
@@ -59,7 +55,7 @@ struct Scale {
   }
 };
 
-Scale ScaleOf(const TimelineLevel& level, const QRectF& axis) {
+DayScale ScaleOf(const TimelineLevel& level, const QRectF& axis) {
   const core::DateTime from = level.Periods.front().Start;
   const auto days = core::DaysBetween(from, level.Periods.back().End);
   return {from, axis.left(), axis.width() / static_cast<double>(std::max<std::int64_t>(days, 1))};
@@ -75,7 +71,7 @@ QString BarName(const std::string& planet, double width, const QFont& font) {
   return {};
 }
 
-void PlaceBars(const TimelineLevel& level, const Scale& scale, const QFont& font,
+void PlaceBars(const TimelineLevel& level, const DayScale& scale, const QFont& font,
                TimelineRow& row) {
   for (const TimelinePeriod& period : level.Periods) {
     const double left = scale.X(period.Start);
@@ -97,7 +93,7 @@ GraphLabel DateLabel(core::DateTime date, double x, const QFont& font, const QRe
 }
 
 // The ends of the row and of the chosen period come first; the others where room is left.
-void PlaceDates(const TimelineLevel& level, const Scale& scale, const QFont& font,
+void PlaceDates(const TimelineLevel& level, const DayScale& scale, const QFont& font,
                 TimelineRow& row) {
   const auto add = [&](core::DateTime date) {
     AddApart(row.Dates, DateLabel(date, scale.X(date), font, row.Axis));
@@ -115,7 +111,7 @@ void PlaceDates(const TimelineLevel& level, const Scale& scale, const QFont& fon
 
 // The line of a day with its flag above the bars; nothing where the row does not reach it.
 std::optional<double> PlaceDay(const std::string& what, core::DateTime day,
-                               const TimelineLevel& level, const Scale& scale, const QFont& font,
+                               const TimelineLevel& level, const DayScale& scale, const QFont& font,
                                TimelineRow& row) {
   if (day < level.Periods.front().Start || day > level.Periods.back().End) {
     return std::nullopt;
@@ -158,7 +154,7 @@ struct RowHeights {
 RowHeights HeightsIn(double height, const QFont& font) {
   constexpr double kShare = 0.6;
   const double line = QFontMetricsF(font).height();
-  const double small = QFontMetricsF(Scaled(font, kSmall)).lineSpacing();
+  const double small = QFontMetricsF(Scaled(font, kSmallText)).lineSpacing();
   RowHeights heights{line, small + 2 * kAir, 0, 2 * small + kAir, 2 * kAir};
   const auto rows = static_cast<double>(kTimelineLevels);
   const double rest = (height - rows * heights.All() + heights.Gap) / rows;
@@ -176,8 +172,8 @@ void FillRow(const TimelinePicture& picture, std::size_t index, const QFont& fon
   if (level.Periods.empty()) {
     return;
   }
-  const Scale scale = ScaleOf(level, row.Axis);
-  const QFont small = Scaled(font, kSmall);
+  const DayScale scale = ScaleOf(level, row.Axis);
+  const QFont small = Scaled(font, kSmallText);
   PlaceBars(level, scale, Heavy(font), row);
   PlaceDates(level, scale, small, row);
   row.Today = PlaceDay("Today", picture.Today, level, scale, small, row);

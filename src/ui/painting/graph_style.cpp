@@ -120,8 +120,8 @@ std::vector<double> SpreadApart(const std::vector<double>& wanted, double gap, d
 }
 
 bool AddApart(std::vector<GraphLabel>& labels, GraphLabel label) {
-  constexpr double kAir = 2;
-  const QRectF room = label.Box.adjusted(-kAir, 0, kAir, 0);
+  constexpr double kApart = 2;
+  const QRectF room = label.Box.adjusted(-kApart, 0, kApart, 0);
   if (std::any_of(labels.begin(), labels.end(),
                   [&](const GraphLabel& other) { return other.Box.intersects(room); })) {
     return false;

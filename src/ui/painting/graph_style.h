@@ -8,7 +8,13 @@
 #include <string>
 #include <vector>
 
+#include "ui/painting/shown_text.h"
+
 namespace orvex::ui {
+
+inline constexpr double kSmallText = 0.9;  // of the text: dates, flags, legends
+inline constexpr double kHair = 0.8;       // of the lines
+inline constexpr double kAir = 6;          // between texts and what they name
 
 enum class Ground { Light, Dark };  // print and picture files are always light
 

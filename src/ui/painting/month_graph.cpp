@@ -16,12 +16,10 @@ namespace {
 
 constexpr double kCircle = 360;
 constexpr double kSign = 30;
-constexpr double kAir = 6;      // between texts and what they name
-constexpr double kSmall = 0.9;  // of the text
-constexpr double kReach = 9;    // how far from a line or mark the pointer still means it
+constexpr double kReach = 9;  // how far from a line or mark the pointer still means it
 
 // From days and longitudes to the plot. A row stands in the middle of its day.
-struct Scale {
+struct MonthScale {
   QRectF Plot;
   double DayWidth = 0;
 
@@ -29,8 +27,6 @@ struct Scale {
   double Y(double longitude) const { return Plot.bottom() - longitude / kCircle * Plot.height(); }
   QPointF At(double row, double longitude) const { return {X(row), Y(longitude)}; }
 };
-
-QString Shown(const std::string& text) { return QString::fromStdString(text); }
 
 // Across 360 degrees a longitude goes on counting, so that a step is never more than half a circle.
 double Onward(double from, double to) {
@@ -55,7 +51,7 @@ QRectF PlotIn(const QRectF& area, const QFont& font) {
                        -metrics.horizontalAdvance("MM") * 1.2 - 5 * kAir, -2 * line - 3 * kAir);
 }
 
-std::array<SignBand, 12> BandsOf(const Scale& scale, const QFont& font) {
+std::array<SignBand, 12> BandsOf(const MonthScale& scale, const QFont& font) {
   const QFontMetricsF metrics(font);
   std::array<SignBand, 12> bands;
   for (std::size_t i = 0; i < bands.size(); ++i) {
@@ -77,7 +73,8 @@ QString TickText(core::DateTime day) {
 }
 
 // Every day has its line; each, every second or every seventh is named, as the room allows.
-std::vector<DayTick> TicksOf(const MonthPicture& picture, const Scale& scale, const QFont& font) {
+std::vector<DayTick> TicksOf(const MonthPicture& picture, const MonthScale& scale,
+                             const QFont& font) {
   const QFontMetricsF metrics(font);
   const double needed = metrics.horizontalAdvance("We") + kAir;
   int step = 1;
@@ -98,7 +95,7 @@ std::vector<DayTick> TicksOf(const MonthPicture& picture, const Scale& scale, co
 
 // Adds the step to a row; at 0 and 360 degrees the run ends at the rim and another begins at the
 // other one.
-void AddStep(const Scale& scale, std::size_t row, double from, double to, LineRun& run,
+void AddStep(const MonthScale& scale, std::size_t row, double from, double to, LineRun& run,
              std::vector<LineRun>& done) {
   const double onward = Onward(from, to);
   const auto x = static_cast<double>(row);
@@ -112,7 +109,7 @@ void AddStep(const Scale& scale, std::size_t row, double from, double to, LineRu
   run.Points << scale.At(x, to);
 }
 
-std::vector<LineRun> RunsOf(const transit::PlanetSeries& series, const Scale& scale) {
+std::vector<LineRun> RunsOf(const transit::PlanetSeries& series, const MonthScale& scale) {
   std::vector<LineRun> runs;
   LineRun run{{{scale.At(0, series.Longitudes.front())}}, series.Retrograde.front()};
   for (std::size_t row = 1; row < series.Longitudes.size(); ++row) {
@@ -130,7 +127,7 @@ std::vector<LineRun> RunsOf(const transit::PlanetSeries& series, const Scale& sc
 // A change of sign stands where the line crosses the border, on the side of the new sign; a station
 // at the first day of the new motion.
 QPointF MarkPoint(const transit::PlanetSeries& series, const transit::SeriesMark& mark,
-                  const Scale& scale) {
+                  const MonthScale& scale) {
   const auto x = static_cast<double>(mark.Row);
   const double to = series.Longitudes[mark.Row];
   if (mark.Kind == transit::MarkKind::Station) {
@@ -145,7 +142,7 @@ QPointF MarkPoint(const transit::PlanetSeries& series, const transit::SeriesMark
   return scale.At(x - 1 + (border - from) / (onward - from), rim);
 }
 
-PlanetLine LineOf(const transit::PlanetSeries& series, const Scale& scale) {
+PlanetLine LineOf(const transit::PlanetSeries& series, const MonthScale& scale) {
   PlanetLine line{RunsOf(series, scale), {}, {}, {}};
   for (const transit::SeriesMark& mark : series.Marks) {
     line.Marks.push_back({MarkPoint(series, mark, scale), mark, series.Retrograde[mark.Row]});
@@ -273,8 +270,8 @@ MonthLayout LayOutMonth(const MonthPicture& picture, const QFont& font, const QR
   MonthLayout layout;
   layout.Plot = PlotIn(area, font);
   const auto days = static_cast<double>(std::max<std::size_t>(picture.Days.size(), 1));
-  const Scale scale{layout.Plot, layout.Plot.width() / days};
-  const QFont small = Scaled(font, kSmall);
+  const MonthScale scale{layout.Plot, layout.Plot.width() / days};
+  const QFont small = Scaled(font, kSmallText);
   layout.Title = LabelAt(Shown(picture.Title), Heavy(font), {0, 0});
   layout.Title.Box.moveTopLeft({layout.Plot.left(), area.top() + kAir});
   layout.Legend = LegendOf(layout, small);

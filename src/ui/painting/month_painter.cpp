@@ -4,9 +4,7 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr double kSmall = 0.9;  // of the text: days, legend, today
 constexpr double kLine = 1.8;
-constexpr double kHair = 0.8;
 constexpr double kDot = 3.4;      // radius of a change of sign
 constexpr double kStation = 8.5;  // radius of a station
 constexpr double kLetter = 0.78;  // of the text, inside a station
@@ -21,7 +19,7 @@ void PaintBands(QPainter& painter, const MonthLayout& layout, const GraphColors&
 
 void PaintDays(QPainter& painter, const MonthLayout& layout, const GraphColors& colors) {
   constexpr double kTick = 4;
-  const QFont font = Scaled(painter.font(), kSmall);
+  const QFont font = Scaled(painter.font(), kSmallText);
   for (const DayTick& day : layout.Days) {
     painter.setPen(QPen(colors.Grid, kHair));
     painter.drawLine(QPointF(day.X, layout.Plot.top()), QPointF(day.X, layout.Plot.bottom()));
@@ -41,13 +39,13 @@ void PaintFrame(QPainter& painter, const MonthLayout& layout, const GraphColors&
   painter.setPen(QPen(colors.Frame, kHair));
   painter.drawRect(layout.Plot);
   DrawLabel(painter, layout.Title, Heavy(painter.font()), colors.Text);
-  DrawLabel(painter, layout.Legend, Scaled(painter.font(), kSmall), colors.Muted);
+  DrawLabel(painter, layout.Legend, Scaled(painter.font(), kSmallText), colors.Muted);
 }
 
 void PaintToday(QPainter& painter, const MonthLayout& layout, const GraphColors& colors) {
   if (layout.Today) {
     DrawDay(painter, *layout.Today, layout.Plot, colors.Today, colors.Paper);
-    DrawLabel(painter, layout.TodayLabel, Scaled(painter.font(), kSmall), colors.Today);
+    DrawLabel(painter, layout.TodayLabel, Scaled(painter.font(), kSmallText), colors.Today);
   }
 }
 

@@ -134,4 +134,8 @@ QString PlainText(const QString& text) {
   return plain;
 }
 
+QString DocumentText(const std::string& text) { return PlainText(QString::fromStdString(text)); }
+
+QString OneLine(const std::string& text) { return DocumentText(text).replace('\n', ' ').trimmed(); }
+
 }  // namespace orvex::ui

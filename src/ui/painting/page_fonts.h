@@ -65,5 +65,8 @@ class PageFonts {
 
 // A text as a page takes it: every kind of line end is "\n", what no page can show is a blank.
 QString PlainText(const QString& text);
+QString DocumentText(const std::string& text);
+// The same on one line.
+QString OneLine(const std::string& text);
 
 }  // namespace orvex::ui

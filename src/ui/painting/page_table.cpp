@@ -11,13 +11,13 @@ namespace {
 constexpr double kSizes[] = {8, 7.5, 7, 6.5, 6, 5.5};  // points, tried in this order
 constexpr double kDenseSizes[] = {7, 6.5, 6, 5.5};
 constexpr double kLeastUnbroken = 7;  // points: above it the text gets smaller before cells break
-constexpr double kSide = 3.5;         // points left and right of a cell's text
+constexpr double kCellSide = 3.5;     // points left and right of a cell's text
 constexpr double kNarrowSide = 2.2;   // where many columns share the room
 constexpr std::size_t kManyColumns = 12;
 constexpr double kBehindFigures = 5;  // more, between figures and the next column
 constexpr double kAbove = 1.6;
 constexpr double kDenseAbove = 0.5;
-constexpr double kHair = 0.4;
+constexpr double kTableHair = 0.4;
 constexpr double kHeadRule = 1;
 
 // The widths that a column wants and that it needs.
@@ -29,7 +29,7 @@ struct Wish {
 PageFont TextFont(int size, bool bold = false) { return {size, bold, false, false}; }
 
 double SideOf(const PageTable& table, PageScale scale) {
-  return scale.Space(table.Columns() > kManyColumns ? kNarrowSide : kSide);
+  return scale.Space(table.Columns() > kManyColumns ? kNarrowSide : kCellSide);
 }
 
 // Figures, also several or with one in brackets; a column of nothing else is set to the right.
@@ -230,7 +230,7 @@ std::shared_ptr<PageSlab> RowSlab(const RowSetting& setting, const std::vector<P
       base += cells[column].Height;
     }
   }
-  const double hair = setting.Scale.Space(kHair);
+  const double hair = setting.Scale.Space(kTableHair);
   slab->Fills.push_back({{0, slab->Height - hair, setting.Right(), hair}, QColor(ink::kHair)});
   return slab;
 }

@@ -11,11 +11,6 @@ namespace {
 
 using report::ReportContent;
 
-QString Shown(const std::string& text) { return PlainText(QString::fromStdString(text)); }
-
-// Lines of a text on one line.
-QString OneLine(const std::string& text) { return Shown(text).replace('\n', ' ').trimmed(); }
-
 void AddTo(QStringList& texts, const QString& text) {
   if (!text.isEmpty()) {
     texts.append(text);
@@ -35,7 +30,7 @@ QColor InkOf(const core::Cell& cell) {
 std::vector<PageBlock> BlocksOf(const report::ReportFacts& facts) {
   PageFacts shown;
   for (const report::ReportFact& fact : facts) {
-    shown.Facts.push_back({Shown(fact.Caption), Shown(fact.Text)});
+    shown.Facts.push_back({DocumentText(fact.Caption), DocumentText(fact.Text)});
   }
   return {{shown}};
 }
@@ -45,7 +40,7 @@ std::vector<PageBlock> BlocksOf(const report::ReportCharts& charts) {
   PageFigures figures;
   for (const report::ChartPicture& picture : charts) {
     figures.Figures.push_back(
-        {Shown(picture.Title), kHalf, 1, [picture](QPainter& painter, const QRectF& box) {
+        {DocumentText(picture.Title), kHalf, 1, [picture](QPainter& painter, const QRectF& box) {
            PaintChart(painter, box, picture, PrintColors());
          }});
   }
@@ -54,7 +49,7 @@ std::vector<PageBlock> BlocksOf(const report::ReportCharts& charts) {
 
 std::vector<PageBlock> BlocksOf(const report::ReportTable& table) {
   PageTable shown = PageTableOf(table.Table);
-  shown.WhenEmpty = Shown(table.WhenEmpty);
+  shown.WhenEmpty = DocumentText(table.WhenEmpty);
   if (!table.Captions) {
     shown.Captions.clear();
   }
@@ -74,7 +69,8 @@ void PaintLoShu(QPainter& painter, const QRectF& box, const report::ReportLoShu&
     painter.setPen(QPen(QColor(PrintColors().Line), kLine));
     painter.drawRect(cell);
     painter.setPen(QColor(ink::kText));
-    painter.drawText(cell, Qt::AlignCenter | Qt::TextDontClip, Shown(cells.at(place)).trimmed());
+    painter.drawText(cell, Qt::AlignCenter | Qt::TextDontClip,
+                     DocumentText(cells.at(place)).trimmed());
   }
 }
 
@@ -109,7 +105,7 @@ std::vector<PageBlock> BlocksOf(const report::ReportPeriods& periods) {
 }
 
 std::vector<PageBlock> BlocksOf(const std::string& text) {
-  return {{PageText{PageRole::Body, Shown(text)}}};
+  return {{PageText{PageRole::Body, DocumentText(text)}}};
 }
 
 void AddSection(const report::ReportSection& section, std::vector<PageBlock>& blocks) {
@@ -139,14 +135,14 @@ PageTable PageTableOf(const core::Table& table) {
   PageTable shown;
   const std::vector<std::size_t> columns = report::ShownColumns(table);
   for (const std::size_t column : columns) {
-    shown.Captions.push_back(Shown(table.Columns[column].Caption));
+    shown.Captions.push_back(DocumentText(table.Columns[column].Caption));
   }
   for (const core::Row& row : table.Rows) {
     std::vector<PageCell> cells;
     cells.reserve(columns.size());
     for (const std::size_t column : columns) {
       const core::Cell& cell = row.Cells.at(column);
-      cells.push_back({Shown(cell.Text), InkOf(cell), {}, cell.Bold});
+      cells.push_back({DocumentText(cell.Text), InkOf(cell), {}, cell.Bold});
     }
     shown.Rows.push_back(std::move(cells));
   }
@@ -159,12 +155,13 @@ PageDocument ReportDocument(const ReportContent& content) {
   document.Author = OneLine(content.Astrologer);
   document.Head = OneLine(content.Name);
   document.Foot = FootOf(content);
-  document.Blocks = {{PageLetterhead{OneLine(content.Astrologer), Shown(content.Organization),
-                                     Shown(content.Contact)}},
-                     {PageText{PageRole::Title, OneLine(content.Name)}},
-                     {PageText{PageRole::Lead, OneLine(content.Birth)}}};
+  document.Blocks = {
+      {PageLetterhead{OneLine(content.Astrologer), DocumentText(content.Organization),
+                      DocumentText(content.Contact)}},
+      {PageText{PageRole::Title, OneLine(content.Name)}},
+      {PageText{PageRole::Lead, OneLine(content.Birth)}}};
   if (!content.Question.empty()) {
-    document.Blocks.push_back({PageText{PageRole::Lead, Shown(content.Question)}});
+    document.Blocks.push_back({PageText{PageRole::Lead, DocumentText(content.Question)}});
   }
   document.Blocks.push_back({PageContents{}});
   for (const report::ReportSection& section : content.Sections) {

@@ -8,10 +8,6 @@ namespace orvex::ui {
 
 namespace {
 
-QString Shown(const std::string& text) { return PlainText(QString::fromStdString(text)); }
-
-QString OneLine(const std::string& text) { return Shown(text).replace('\n', ' ').trimmed(); }
-
 PageBlock Caption(const char* text) { return {PageText{PageRole::Part, text}}; }
 
 PageBlock TableBlock(const core::Table& table, const char* whenEmpty = "") {
@@ -24,7 +20,7 @@ PageBlock FactsBlock(const report::ReportFacts& facts) {
   PageFacts shown;
   shown.Columns = 2;
   for (const report::ReportFact& fact : facts) {
-    shown.Facts.push_back({Shown(fact.Caption), Shown(fact.Text)});
+    shown.Facts.push_back({DocumentText(fact.Caption), DocumentText(fact.Text)});
   }
   return {shown};
 }
@@ -50,7 +46,7 @@ PageDocument SheetDocument(const report::KpSheet& sheet) {
   document.Author = OneLine(sheet.Astrologer);
   document.Foot = OneLine(sheet.Date);
   document.Blocks = {{PageLetterhead{OneLine(sheet.Astrologer), OneLine(sheet.Organization),
-                                     Shown(sheet.Contact)}},
+                                     DocumentText(sheet.Contact)}},
                      {PageText{PageRole::Title, OneLine(sheet.Name)}}};
   if (!sheet.Question.empty()) {
     document.Blocks.push_back({PageText{PageRole::Lead, OneLine(sheet.Question)}});

@@ -4,9 +4,6 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr double kHair = 0.8;
-constexpr double kSmall = 0.9;
-
 struct Brushes {
   const GraphColors& Colors;
   Ground On;
@@ -47,7 +44,7 @@ void PaintDates(QPainter& painter, const TimelineRow& row, const GraphColors& co
     painter.drawLine(bar.Box.bottomRight(), bar.Box.bottomRight() + QPointF(0, kTick));
   }
   for (const GraphLabel& date : row.Dates) {
-    DrawLabel(painter, date, Scaled(painter.font(), kSmall), colors.Muted);
+    DrawLabel(painter, date, Scaled(painter.font(), kSmallText), colors.Muted);
   }
 }
 
@@ -69,7 +66,7 @@ void PaintRow(QPainter& painter, const TimelineRow& row, const TimelineLevel& le
   PaintDay(painter, row, row.Birth, colors.Text, colors.Paper);
   PaintDay(painter, row, row.Today, colors.Today, colors.Paper);
   for (const GraphLabel& flag : row.Flags) {
-    DrawLabel(painter, flag, Scaled(painter.font(), kSmall),
+    DrawLabel(painter, flag, Scaled(painter.font(), kSmallText),
               flag.Text.startsWith("Today") ? colors.Today : colors.Text);
   }
   // The names stand before the lines.
