@@ -20,6 +20,15 @@ bool HasSelection(const QWidget& field) {
   return line != nullptr && line->hasSelectedText();
 }
 
+// A press on text that is still marked would begin to drag it and unmark it when it ends.
+void Unmark(QWidget& field) {
+  if (auto* text = qobject_cast<QPlainTextEdit*>(&field)) {
+    QTextCursor cursor = text->textCursor();
+    cursor.clearSelection();
+    text->setTextCursor(cursor);
+  }
+}
+
 class TextMarker final : public QObject {
  public:
   explicit TextMarker(QWidget& window) : QObject(&window) {
@@ -60,7 +69,9 @@ class TextMarker final : public QObject {
                         (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason);
     last_ = &field;
     clicked_ = reason == Qt::MouseFocusReason ? &field : nullptr;
-    if (clicked_ == nullptr && !isBack) {
+    if (clicked_ != nullptr) {
+      Unmark(field);
+    } else if (!isBack) {
       SelectAllText(field);
     }
   }
