@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+// Named as the library behind them names them.
+// NOLINTBEGIN(readability-identifier-naming)
 namespace CLI {
 class App;
 class Option;
@@ -57,6 +59,8 @@ class Command {
  private:
   CLI::App* command_;
 };
+
+// NOLINTEND(readability-identifier-naming)
 
 // Ends a call whose words are off, with exit status 2 and a line of usage.
 [[noreturn]] void RefuseWords(const std::string& name, const std::string& text);

@@ -56,7 +56,7 @@ Json::Json(std::initializer_list<Json> parts) {
   }
   Object members;
   for (const Json& part : parts) {
-    const Array& pair = std::get<Array>(part.value_);
+    const auto& pair = std::get<Array>(part.value_);
     members.emplace_back(pair.front().text(), pair.back());
   }
   value_ = std::move(members);

@@ -28,6 +28,8 @@ class Json {
   // Pairs that each begin with a text are the members of an object, anything else an array.
   Json(std::initializer_list<Json> parts);
 
+  // Named as those of a container.
+  // NOLINTBEGIN(readability-identifier-naming)
   static Json array() { return Json(Array{}); }
   static Json object() { return Json(Object{}); }
 
@@ -39,6 +41,7 @@ class Json {
 
   const std::vector<Member>& items() const { return std::get<Object>(value_); }
   const std::string& text() const { return std::get<std::string>(value_); }
+  // NOLINTEND(readability-identifier-naming)
 
   // UTF-8, one blank a level; bytes that are no UTF-8 become replacement characters.
   std::string Printed() const;

@@ -24,7 +24,7 @@ std::string GenderLetter(const std::string& text) {
   const std::string word = core::UpperCase(text);
   for (const char* name : {"MALE", "FEMALE", "OTHER"}) {
     if (word == name || word == std::string(1, *name)) {
-      return std::string(1, *name);
+      return {*name};
     }
   }
   if (word != "ANY") {

@@ -168,12 +168,12 @@ bool CitySearch::FollowsIn(const Entry& entry, std::size_t from,
                            const std::vector<std::string>& words) const {
   const std::size_t lineEnd = keys_.find(kLineEnd, entry.Begin);
   std::string_view rest = std::string_view(keys_).substr(from, lineEnd - from);
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    const std::size_t at = rest.find(" " + words[i]);
+  for (const std::string& word : words) {
+    const std::size_t at = rest.find(" " + word);
     if (at == std::string_view::npos) {
       return false;
     }
-    rest.remove_prefix(at + 1 + words[i].size());
+    rest.remove_prefix(at + 1 + word.size());
   }
   return true;
 }

@@ -1,11 +1,11 @@
 #include "practice/export_list.h"
 
-#include <stdlib.h>
 #include <unistd.h>
 #include <xlsxwriter.h>
 
 #include <algorithm>
 #include <clocale>
+#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 

@@ -69,32 +69,36 @@ void DrawRowGround(QPainter& painter, const QStyleOptionViewItem& option) {
   }
 }
 
+QColor ButtonGround(const QStyleOption& option, bool filled) {
+  const Tokens& t = Theme::Now();
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+  const bool byDefault =
+      button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
+  if (filled) {
+    return t.Accent;
+  }
+  if (byDefault || (option.state & (QStyle::State_On | QStyle::State_Sunken)) != 0) {
+    return t.Sel;
+  }
+  const QStyle::State over = QStyle::State_Enabled | QStyle::State_MouseOver;
+  return (option.state & over) == over ? t.Sunk : t.Sheet;
+}
+
 void DrawButton(QPainter& painter, const QStyleOption& option, const QWidget* widget) {
   const Tokens& t = Theme::Now();
   const QStyle::State state = option.state;
   const bool enabled = state.testFlag(QStyle::State_Enabled);
-  const bool down = state.testFlag(QStyle::State_Sunken);
-  const bool over = enabled && state.testFlag(QStyle::State_MouseOver);
-  const bool on = state.testFlag(QStyle::State_On);
   const bool filled = enabled && Has(widget, kFilledButton);
-  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
-  const bool byDefault =
-      button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
-  const QColor ground = filled                    ? t.Accent
-                        : on || down || byDefault ? t.Sel
-                        : over                    ? t.Sunk
-                                                  : t.Sheet;
   const bool focus = state.testFlag(QStyle::State_HasFocus);
-  DrawBox(painter, option.rect, ground,
-          focus && !filled ? t.Accent
-          : filled         ? t.Accent
-          : enabled        ? t.Edge
-                           : t.Rule2,
+  DrawBox(painter, option.rect, ButtonGround(option, filled),
+          focus || filled ? t.Accent
+          : enabled       ? t.Edge
+                          : t.Rule2,
           focus ? line::kFocus : line::kHair);
   if (focus && filled) {
     DrawBox(painter, option.rect.adjusted(2, 2, -2, -2), {}, t.OnAccent, line::kHair);
   }
-  if (on && Has(widget, kSegmentButton)) {
+  if (state.testFlag(QStyle::State_On) && Has(widget, kSegmentButton)) {
     painter.fillRect(QRect(option.rect.left() + 1, option.rect.bottom() - line::kHead,
                            option.rect.width() - 2, line::kHead),
                      t.Accent);
@@ -137,7 +141,6 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_LayoutBottomMargin:
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
-      return space::kS;
     case PM_SplitterWidth:
       return space::kS;
     default:

@@ -44,7 +44,7 @@ const std::vector<KeyEntry>& AllKeys() {
 QKeySequence KeysOf(const QString& window, const QString& name) {
   for (const KeyEntry& entry : AllKeys()) {
     if (window == entry.Window && name == entry.Name) {
-      return QKeySequence(entry.Keys, QKeySequence::PortableText);
+      return {entry.Keys, QKeySequence::PortableText};
     }
   }
   throw std::out_of_range("no key is named " + name.toStdString());

@@ -120,6 +120,33 @@ void TablePlan::SetChosen(const QString& code) {
   view_.viewport()->update();
 }
 
+// What the columns that may grow share, in parts of their least widths.
+void TablePlan::Spread(const std::vector<ColumnRoom>& rooms, const std::vector<bool>& shown,
+                       int over) {
+  const auto grows = [&](std::size_t i) {
+    return shown[i] && !view_.WidthByHand(needs_[i].Column);
+  };
+  int spread = 0;
+  for (std::size_t i = 0; i < rooms.size(); ++i) {
+    spread += grows(i) ? rooms[i].Least : 0;
+  }
+  std::vector<int> widths(view_.Table().Columns.size(), 0);
+  int given = 0;
+  int last = -1;
+  for (std::size_t i = 0; i < rooms.size(); ++i) {
+    if (shown[i]) {
+      const int more = grows(i) && spread > 0 ? over * rooms[i].Least / spread : 0;
+      widths.at(static_cast<std::size_t>(needs_[i].Column)) = rooms[i].Least + more;
+      given += more;
+      last = grows(i) ? needs_[i].Column : last;
+    }
+  }
+  if (last >= 0) {
+    widths.at(static_cast<std::size_t>(last)) += over - given;
+  }
+  view_.SetWidths(widths);
+}
+
 // Every shown column has its least width or the one that the user gave it, which keeps it in sight,
 // and its part of what is left over.
 void TablePlan::ShareWidth() {
@@ -127,7 +154,6 @@ void TablePlan::ShareWidth() {
     return;
   }
   std::vector<ColumnRoom> rooms;
-  int spread = 0;
   for (const Need& need : needs_) {
     const std::optional<int> byHand = view_.WidthByHand(need.Column);
     rooms.push_back({byHand.value_or(need.Least), byHand ? 0 : need.Rank});
@@ -136,29 +162,11 @@ void TablePlan::ShareWidth() {
   const std::vector<bool> shown = FitColumns(rooms, room);
   int taken = 0;
   for (std::size_t i = 0; i < rooms.size(); ++i) {
-    const bool grows = shown[i] && !view_.WidthByHand(needs_[i].Column);
     taken += shown[i] ? rooms[i].Least : 0;
-    spread += grows ? rooms[i].Least : 0;
   }
   // What the user has made wider than the room is reached by a bar.
   view_.setHorizontalScrollBarPolicy(taken > room ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
-  const int over = std::max(0, room - taken);
-  std::vector<int> widths(view_.Table().Columns.size(), 0);
-  int given = 0;
-  int last = -1;
-  for (std::size_t i = 0; i < rooms.size(); ++i) {
-    if (shown[i]) {
-      const bool grows = !view_.WidthByHand(needs_[i].Column);
-      const int more = grows && spread > 0 ? over * rooms[i].Least / spread : 0;
-      widths.at(static_cast<std::size_t>(needs_[i].Column)) = rooms[i].Least + more;
-      given += more;
-      last = grows ? needs_[i].Column : last;
-    }
-  }
-  if (last >= 0) {
-    widths.at(static_cast<std::size_t>(last)) += over - given;
-  }
-  view_.SetWidths(widths);
+  Spread(rooms, shown, std::max(0, room - taken));
 }
 
 void TablePlan::ShareHeight() {

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include "ui/base/cell_delegate.h"
+#include "ui/base/room_plan.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
 
@@ -52,6 +53,7 @@ class TablePlan final : public QObject {
   void TakeKinds();
   void PlaceColumns();
   void ShareWidth();
+  void Spread(const std::vector<ColumnRoom>& rooms, const std::vector<bool>& shown, int over);
   void ShareHeight();
   void Click(const QPoint& at);
 

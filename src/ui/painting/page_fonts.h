@@ -16,7 +16,8 @@ struct PageFont {
   bool Serif = false;
   bool Italic = false;
 
-  auto operator<=>(const PageFont&) const = default;
+  // The check takes the comparison's own zero for a pointer.
+  auto operator<=>(const PageFont&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 // A part of a text that stands on one line.
