@@ -1,7 +1,5 @@
 #include "practice/client_intake.h"
 
-#include <algorithm>
-
 #include "core/exact_numbers.h"
 #include "core/text.h"
 
@@ -39,13 +37,6 @@ std::set<std::string> StoredIdentities(const core::Store& store, const IdentityT
   return stored;
 }
 
-bool HasAllHouses(const chart::ChartResult& chart) {
-  return std::all_of(chart.Planets.begin(), chart.Planets.end(),
-                     [](const chart::PlanetRow& planet) {
-                       return planet.RashiHouse.has_value() && planet.ChalitHouse.has_value();
-                     });
-}
-
 }  // namespace
 
 std::string WholeIdentity(const ClientIdentity& client) {
@@ -64,9 +55,6 @@ std::variant<chart::ChartResult, std::string> ClientIntake::Check(
   chart::CheckedChart checked = chart::CheckAndCompute(session_, client.Form);
   if (checked.Refused) {
     return checked.Refused->Text;
-  }
-  if (!HasAllHouses(checked.Chart)) {
-    return core::kCouldNotUpdate;
   }
   return std::move(checked.Chart);
 }
