@@ -48,7 +48,10 @@ void PrintReport(const practice::ImportReport& report, bool json) {
 }
 
 bool TellBirths(std::size_t done, std::size_t all) {
-  std::cerr << done << " of " << all << " births\n";
+  constexpr std::size_t kEvery = 50;
+  if (all > 0 && (done % kEvery == 0 || done == all)) {
+    std::cerr << done << " of " << all << " births\n";
+  }
   return true;
 }
 

@@ -24,20 +24,6 @@ bool HasExchangeEnding(const fs::path& file) {
   return ending == ".aaf" || ending == ".jhd" || ending == ".mtx";
 }
 
-std::string ReadBounded(const fs::path& file) {
-  constexpr std::uintmax_t kLargest = 64U * 1024U * 1024U;
-  std::error_code unknown;
-  const std::uintmax_t size = fs::file_size(file, unknown);
-  if (!unknown && size > kLargest) {
-    throw std::runtime_error("The file " + FileNameText(file) + " is larger than 64 MB.");
-  }
-  try {
-    return core::ReadTextFile(file);
-  } catch (const std::runtime_error&) {
-    throw std::runtime_error("The file " + file.string() + " could not be read.");
-  }
-}
-
 }  // namespace
 
 bool IsExchangeSource(const fs::path& path) {
@@ -52,6 +38,24 @@ bool IsExchangeSource(const fs::path& path) {
   return HasExchangeEnding(path) || begin.front() == '#' ||
          begin == std::string(kByteOrderMark) + "#";
 }
+
+std::string ReadBoundedFile(const fs::path& file) {
+  constexpr std::uintmax_t kLargest = 64U * 1024U * 1024U;
+  std::error_code unknown;
+  const std::uintmax_t size = fs::file_size(file, unknown);
+  if (!unknown && size > kLargest) {
+    throw std::runtime_error("The file " + FileNameText(file) + " is larger than 64 MB.");
+  }
+  try {
+    return core::ReadTextFile(file);
+  } catch (const std::runtime_error&) {
+    throw std::runtime_error("The file " + file.string() + " could not be read.");
+  }
+}
+
+bool IsCsvFile(const fs::path& file) { return EndingOf(file) == ".csv" && !IsExchangeSource(file); }
+
+bool IsImportSource(const fs::path& path) { return IsExchangeSource(path) || IsCsvFile(path); }
 
 bool IsAafName(const fs::path& file) { return EndingOf(file) == ".aaf"; }
 
@@ -78,7 +82,7 @@ std::vector<fs::path> ExchangeFilesOf(const fs::path& source) {
 }
 
 FileReading ReadExchangeFile(const fs::path& file) {
-  const std::string bytes = ReadBounded(file);
+  const std::string bytes = ReadBoundedFile(file);
   const std::string ending = EndingOf(file);
   const std::string name = core::WithoutControlCharacters(core::Utf8Of(file.stem().string()));
   if (ending == ".jhd") {

@@ -13,6 +13,12 @@ namespace orvex::exchange {
 // .mtx, or whose text begins with a "#", as AAF does under any name.
 bool IsExchangeSource(const std::filesystem::path& path);
 
+// Whether an import takes a path: one of these, or a file that ends in .csv.
+bool IsImportSource(const std::filesystem::path& path);
+
+// Whether a file is read as CSV: one that ends so and whose text does not begin with a "#".
+bool IsCsvFile(const std::filesystem::path& file);
+
 // Whether a file to be written is to be AAF by its ending.
 bool IsAafName(const std::filesystem::path& file);
 
@@ -22,6 +28,9 @@ std::vector<std::filesystem::path> ExchangeFilesOf(const std::filesystem::path& 
 
 // The births of a file. std::runtime_error where it can't be read or is larger than 64 MB.
 FileReading ReadExchangeFile(const std::filesystem::path& file);
+
+// The text of a file. std::runtime_error as of ReadExchangeFile.
+std::string ReadBoundedFile(const std::filesystem::path& file);
 
 // A file's name as text in UTF-8.
 std::string FileNameText(const std::filesystem::path& file);

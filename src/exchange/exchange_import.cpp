@@ -1,18 +1,20 @@
 #include "exchange/exchange_import.h"
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "exchange/aaf_fields.h"
+#include "exchange/csv_births.h"
 #include "exchange/exchange_files.h"
 
 namespace orvex::exchange {
 
 namespace {
 
-constexpr std::size_t kProgressEvery = 50;
+constexpr std::size_t kProgressEvery = 10;
 
 // What an exchange file can tell of a client.
 std::string ExchangeIdentity(const practice::ClientIdentity& client) {
@@ -50,9 +52,13 @@ practice::IncomingClient ClientOf(const FileBirth& birth, const BirthPlace& plac
   return client;
 }
 
+// A file that was read, by its kind.
 struct ReadFile {
   std::string Name;
   FileReading Reading;
+  CsvFile Csv;
+
+  std::size_t Count() const { return Reading.Births.size() + Csv.Records.size(); }
 };
 
 // The path of a file below the folder that was named, or the file's name.
@@ -64,14 +70,33 @@ std::string NameBelow(const std::filesystem::path& source, const std::filesystem
   return file == source ? FileNameText(file) : name;
 }
 
-std::vector<ReadFile> ReadAll(const ImportSource& source) {
+ReadFile ReadOne(const std::filesystem::path& source, const std::filesystem::path& file) {
+  ReadFile read{NameBelow(source, file), {}, {}};
+  if (!IsCsvFile(file)) {
+    read.Reading = ReadExchangeFile(file);
+    return read;
+  }
+  const std::string text = ReadBoundedFile(file);
+  try {
+    read.Csv = ReadCsvFile(text);
+  } catch (const std::runtime_error& unread) {
+    throw std::runtime_error(read.Name + ": " + unread.what());
+  }
+  return read;
+}
+
+// Nothing where it was canceled.
+std::optional<std::vector<ReadFile>> ReadAll(const ImportSource& source,
+                                             const ExchangeProgress& progress) {
   std::vector<ReadFile> files;
   bool isEmpty = true;
   for (const std::filesystem::path& path : source.Paths) {
     for (const std::filesystem::path& file : ExchangeFilesOf(path)) {
-      files.push_back({NameBelow(path, file), ReadExchangeFile(file)});
-      const FileReading& reading = files.back().Reading;
-      isEmpty = isEmpty && reading.Births.empty() && reading.Refused.empty();
+      files.push_back(ReadOne(path, file));
+      isEmpty = isEmpty && files.back().Count() == 0 && files.back().Reading.Refused.empty();
+      if (files.size() % kProgressEvery == 0 && !progress(0, 0)) {
+        return std::nullopt;
+      }
     }
   }
   if (isEmpty) {
@@ -85,6 +110,7 @@ class Planning {
  public:
   Planning(core::Session& session, const ImportSource& source)
       : intake_(session, ExchangeIdentity),
+        csv_(session, source),
         places_(session, source.ShippedData),
         groupId_(source.GroupId) {}
 
@@ -104,6 +130,16 @@ class Planning {
       return;
     }
     Check(file, birth, std::get<BirthPlace>(place), std::get<BirthClock>(clock));
+  }
+
+  void TakeLine(const ReadFile& file, const core::CsvRecord& record) {
+    auto birth = csv_.Of(file.Csv, record);
+    if (const auto* reason = std::get_if<std::string>(&birth)) {
+      Refuse(file.Name, {record.Line, *reason});
+      return;
+    }
+    plan_.Births.push_back(std::get<PlannedBirth>(std::move(birth)));
+    plan_.Births.back().File = file.Name;
   }
 
   void Cancel() { plan_.IsCanceled = true; }
@@ -128,10 +164,31 @@ class Planning {
   }
 
   practice::ClientIntake intake_;
+  CsvBirths csv_;
   BirthPlaces places_;
   std::int32_t groupId_;
   ImportPlan plan_;
 };
+
+// Takes what a file holds. `goesOn` is asked after each birth; false where it said no.
+bool TakeFile(const ReadFile& file, Planning& planning, const std::function<bool()>& goesOn) {
+  for (const practice::RefusedLine& line : file.Reading.Refused) {
+    planning.Refuse(file.Name, line);
+  }
+  for (const FileBirth& birth : file.Reading.Births) {
+    planning.Take(file.Name, birth);
+    if (!goesOn()) {
+      return false;
+    }
+  }
+  for (const core::CsvRecord& record : file.Csv.Records) {
+    planning.TakeLine(file, record);
+    if (!goesOn()) {
+      return false;
+    }
+  }
+  return true;
+}
 
 bool IsTimeToTell(std::size_t done, std::size_t all) {
   return done % kProgressEvery == 0 || done == all;
@@ -146,25 +203,27 @@ std::size_t ImportPlan::StoredCount() const {
 
 ImportPlan PlanImport(core::Session& session, const ImportSource& source,
                       const ExchangeProgress& progress) {
-  const std::vector<ReadFile> files = ReadAll(source);
-  std::size_t all = 0;
-  for (const ReadFile& file : files) {
-    all += file.Reading.Births.size();
+  const std::optional<std::vector<ReadFile>> files = ReadAll(source, progress);
+  if (!files) {
+    ImportPlan canceled;
+    canceled.IsCanceled = true;
+    return canceled;
   }
-  Planning planning(session, source);
+  std::size_t all = 0;
+  for (const ReadFile& file : *files) {
+    all += file.Count();
+  }
   std::size_t done = 0;
-  for (const ReadFile& file : files) {
-    for (const practice::RefusedLine& line : file.Reading.Refused) {
-      planning.Refuse(file.Name, line);
-    }
-    for (const FileBirth& birth : file.Reading.Births) {
-      planning.Take(file.Name, birth);
-      ++done;
-      if (IsTimeToTell(done, all) && !progress(done, all)) {
-        planning.Cancel();
-        return std::move(planning).Plan();
-      }
-    }
+  const auto goesOn = [&] {
+    ++done;
+    return !IsTimeToTell(done, all) || progress(done, all);
+  };
+  Planning planning(session, source);
+  const bool isWhole = std::all_of(files->begin(), files->end(), [&](const ReadFile& file) {
+    return TakeFile(file, planning, goesOn);
+  });
+  if (!isWhole) {
+    planning.Cancel();
   }
   return std::move(planning).Plan();
 }

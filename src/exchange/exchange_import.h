@@ -13,7 +13,7 @@
 namespace orvex::exchange {
 
 struct ImportSource {
-  std::vector<std::filesystem::path> Paths;  // files and folders
+  std::vector<std::filesystem::path> Paths;  // files, also CSV, and folders
   std::int32_t GroupId = 0;                  // of the new clients
   std::filesystem::path ShippedData;         // the folder of the gazetteer
 };
@@ -44,13 +44,15 @@ struct ImportPlan {
   std::size_t NewCount() const { return Births.size() - StoredCount(); }
 };
 
-// Called now and then with the births done and all births; false cancels.
+// Called now and then with the births done and all births, both 0 while files are still read; false
+// cancels.
 using ExchangeProgress = std::function<bool(std::size_t done, std::size_t all)>;
 
 // Reads the files and takes every birth through the checks of the client dialog. Nothing is
 // written. A client counts as stored where one has its name, moment, place and offset as far as an
-// exchange file can tell them: coordinates and offset to the second, the name as AafText writes it.
-// std::runtime_error where a file or a folder can't be read or holds no births.
+// exchange file can tell them: coordinates and offset to the second, the name as AafText writes it;
+// of CSV see CsvBirths. std::runtime_error where a file or a folder can't be read or holds no
+// births.
 ImportPlan PlanImport(core::Session& session, const ImportSource& source,
                       const ExchangeProgress& progress);
 

@@ -15,6 +15,11 @@ std::string PlaceText(const BirthPlace& place) {
   return (place.IsNamed ? "" : "nearest city, ") + core::WholeText(place.Kilometres) + " km";
 }
 
+std::string RestText(const ImportPlan& plan) {
+  return NumberText(plan.StoredCount()) + " already stored, " + NumberText(plan.Refused.size()) +
+         " refused";
+}
+
 void FillNumber(core::Cell& cell, const std::string& number) {
   cell.Text = number;
   cell.SortKey = number;
@@ -81,9 +86,12 @@ core::Table RefusedTable(const ImportPlan& plan) {
   return table;
 }
 
+std::string PlanText(const ImportPlan& plan) {
+  return NumberText(plan.NewCount()) + " new, " + RestText(plan);
+}
+
 std::string CountText(std::size_t imported, const ImportPlan& plan) {
-  return NumberText(imported) + " imported, " + NumberText(plan.StoredCount()) +
-         " already stored, " + NumberText(plan.Refused.size()) + " refused";
+  return NumberText(imported) + " imported, " + RestText(plan);
 }
 
 }  // namespace orvex::exchange

@@ -20,6 +20,9 @@ core::Table PreviewTable(const ImportPlan& plan);
 // The lines that were refused.
 core::Table RefusedTable(const ImportPlan& plan);
 
+// "12 new, 3 already stored, 1 refused": before the saving.
+std::string PlanText(const ImportPlan& plan);
+
 // "12 imported, 3 already stored, 1 refused".
 std::string CountText(std::size_t imported, const ImportPlan& plan);
 

@@ -8,6 +8,7 @@
 #include "core/exact_numbers.h"
 #include "core/letter_case.h"
 #include "core/text.h"
+#include "core/unicode_text.h"
 
 namespace orvex::practice {
 
@@ -177,6 +178,18 @@ void TakeQuery(const Line& line, chart::ClientForm& form) {
   TakeIfGiven(number, form.HoraryNumber);
 }
 
+// Refuses fields that are no line of the file.
+void CheckFields(const CsvPlaces& places, const std::vector<std::string>& fields) {
+  const auto columns = std::count_if(places.begin(), places.end(),
+                                     [](const auto& place) { return place.has_value(); });
+  if (fields.size() != static_cast<std::size_t>(columns)) {
+    throw LineRefusal{"the line has not as many fields as the first one"};
+  }
+  if (!std::all_of(fields.begin(), fields.end(), core::IsUtf8Text)) {
+    throw LineRefusal{"the line is not text in UTF-8"};
+  }
+}
+
 IncomingClient ReadLine(const core::Session& session, const Line& line, std::int32_t groupId) {
   IncomingClient client;
   chart::ClientForm& form = client.Form;
@@ -240,6 +253,7 @@ std::variant<IncomingClient, std::string> ClientOfLine(const core::Session& sess
                                                        const std::vector<std::string>& fields,
                                                        std::int32_t groupId) {
   try {
+    CheckFields(places, fields);
     return ReadLine(session, Line(places, fields), groupId);
   } catch (const LineRefusal& refusal) {
     return refusal.Reason;

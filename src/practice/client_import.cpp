@@ -1,11 +1,9 @@
 #include "practice/client_import.h"
 
-#include <algorithm>
 #include <optional>
 #include <stdexcept>
 
 #include "core/csv.h"
-#include "core/unicode_text.h"
 #include "practice/client_csv.h"
 
 namespace orvex::practice {
@@ -34,14 +32,6 @@ class Import {
  private:
   // The reason why a line is refused; nothing where it was taken or is stored already.
   std::optional<std::string> TryTake(const std::vector<std::string>& fields) {
-    if (fields.size() !=
-        static_cast<std::size_t>(std::count_if(
-            places_.begin(), places_.end(), [](const auto& place) { return place.has_value(); }))) {
-      return "the line has not as many fields as the first one";
-    }
-    if (!std::all_of(fields.begin(), fields.end(), core::IsUtf8Text)) {
-      return "the line is not text in UTF-8";
-    }
     const auto read = ClientOfLine(session_, places_, fields, request_.GroupId);
     if (const auto* reason = std::get_if<std::string>(&read)) {
       return *reason;

@@ -9,9 +9,11 @@
 #include "core/text.h"
 #include "exchange/aaf_fields.h"
 #include "exchange/aaf_writing.h"
+#include "exchange/client_export.h"
 #include "exchange/exchange_files.h"
 #include "exchange/exchange_preview.h"
 #include "practice/client_csv.h"
+#include "practice/groups.h"
 #include "support/test_home.h"
 
 namespace orvex::exchange {
@@ -299,6 +301,23 @@ TEST_F(Exchange, WhatGoesOutComesInAgainUnchanged) {
             core::ReplaceAll(csv, "\n*,", "\n**,"));  // a star alone is the one name that changes
 }
 
+// A planet there may have no rashi house; the import writes the rows that the dialog writes.
+TEST_F(Exchange, ABirthInTheFarNorthIsSavedAsTheDialogSavesIt) {
+  AddClient("Far North", "1971-06-18 00:19", [](auto& form) {
+    form.Latitude = "60.12";
+    form.Longitude = "20";
+    form.Offset = "0";
+  });
+  ASSERT_EQ(Save(PlanOf("#A93:North,Far,m,18.6.1971,0:19:30,*,*\n#B93:*,60N07:12,20E00,0hE00,0\n")),
+            1U);
+  const std::string rows =
+      "select planetid, rashihouse, chalithouse, degree, starlord, sublord, inretro from "
+      "client_planets where clientid = ";
+  EXPECT_EQ(Count("client_planets where clientid = 1 and rashihouse is null"), 1);
+  EXPECT_EQ(Count("client_planets where clientid = 2"), 9);
+  EXPECT_EQ(Count("(" + rows + "1 except " + rows + "2)"), 0);
+}
+
 TEST_F(Exchange, WhatTheFormatCannotHoldIsToldInAComment) {
   AddClient("Smith, John", "2020-02-29 12:00", [](auto& form) {
     form.Horary = true;
@@ -331,6 +350,78 @@ TEST_F(Exchange, WhatTheFormatCannotHoldIsToldInAComment) {
   EXPECT_EQ(test::ReadFile(file), aaf);  // canceled
   EXPECT_EQ(ExportAaf(*session_, {1}, "/nowhere/out.aaf", GoOn)->Text,
             "The file /nowhere/out.aaf could not be written.");
+}
+
+// A CSV file stands beside the others in one plan: the same rows, the same all or nothing.
+TEST_F(Exchange, CsvIsPlannedWithTheOthersAndKeepsWhatTheyCannotHold) {
+  ASSERT_FALSE(practice::AddGroup(*session_, "Family").Refused);
+  const auto csv = Write("b.csv",
+                         "name,birth,city id,offset,horary,question,ascendant,group\n"
+                         "Query,1990-07-05 14:30,1,9.5,147,Rain?,,family\n"
+                         "Hand,1990-07-05 14:30,1,,,,12.5,\n"
+                         "Bad,never,1,,,,,\n"
+                         "Short,1990-07-05 14:30,1\n");
+  const ImportSource source{
+      {Write("a.aaf", Birth("5.7.1990,14:30", "Pune,IN", "*,18N31,73E51,5hE30,0")), csv},
+      1,
+      test::DataFolder()};
+  const ImportPlan plan = PlanImport(*session_, source, GoOn);
+  ASSERT_EQ(plan.Births.size(), 3U);
+  ASSERT_EQ(plan.Refused.size(), 2U);
+  EXPECT_EQ(plan.Refused[0].File, "b.csv");
+  EXPECT_EQ(plan.Refused[0].Line, 4U);
+  EXPECT_EQ(plan.Refused[1].Reason, "the line has not as many fields as the first one");
+  EXPECT_EQ(plan.Births[1].Clock.OffsetInFile + " " + plan.Births[1].Clock.OffsetOfClocks, "9.5 5.5");
+  EXPECT_FALSE(plan.Births[1].Clock.AgreesWithClocks);
+  EXPECT_TRUE(plan.Births[2].Clock.AgreesWithClocks);
+  EXPECT_EQ(PlanText(plan), "3 new, 0 already stored, 2 refused");
+  EXPECT_EQ(Save(plan), 0U);
+  EXPECT_EQ(Save(plan, WithRefused::LeaveOut), 3U);
+  EXPECT_EQ(
+      Count("client_master where horaryno = 147 and horaryquestion = 'Rain?' and groupid = 2"), 1);
+  EXPECT_EQ(Count("client_master where ascdegreetype = 'M' and groupid = 1"), 1);
+  EXPECT_EQ(PlanImport(*session_, source, GoOn).StoredCount(), 3U);
+  EXPECT_THROW(Plan(Write("c.csv", "name,birth\nA,1990-07-05 14:30\n")), std::runtime_error);
+  EXPECT_THROW(Plan(Write("d.csv", "")), std::runtime_error);
+  EXPECT_TRUE(IsImportSource(csv));
+  EXPECT_FALSE(IsImportSource(Write("e.txt", "text")));
+  EXPECT_FALSE(IsCsvFile(Write("f.csv", "#A93:")));
+}
+
+TEST_F(Exchange, WhatGoesOutIsOfTheChosenClientsAndNeverOneOfTheProgramsFiles) {
+  ASSERT_FALSE(practice::AddGroup(*session_, "Empty").Refused);
+  AddClient("Asha", "1990-07-05 14:30", [](auto& /*form*/) {});
+  AddClient("Ravi", "1990-07-06 14:30", [](auto& /*form*/) {});
+  core::Table found{{{"Name"}}, {}};
+  found.AddRow().Tag = "2";
+  const auto file = home_.Place.Folder / "out";
+  const auto out = [&](const ExportRequest& request) {
+    std::filesystem::remove(file);
+    const auto refused = ExportClients(*session_, request, file, GoOn);
+    return refused ? refused->Text : test::ReadFile(file);
+  };
+  const auto holds = [](const std::string& text, const char* name) {
+    return text.find(name) != std::string::npos;
+  };
+  const std::string one = out({ExportedClients::One, ExportFormat::Aaf, 1, {}, "Asha"});
+  EXPECT_TRUE(holds(one, "#A93:Asha") && !holds(one, "Ravi")) << one;
+  const std::string searched = out({ExportedClients::Found, ExportFormat::Aaf, 0, found, "Found"});
+  EXPECT_TRUE(holds(searched, "#A93:Ravi") && !holds(searched, "Asha")) << searched;
+  const std::string csv = out({ExportedClients::Group, ExportFormat::Csv, 1, {}, "General"});
+  EXPECT_EQ(csv, practice::ClientsAsCsv(*session_, 1));
+  EXPECT_TRUE(holds(out({ExportedClients::All, ExportFormat::Spreadsheet, 0, {}, "All"}), "PK"));
+  EXPECT_EQ(out({ExportedClients::Group, ExportFormat::Csv, 2, {}, "Empty"}),
+            "There are no clients in it.");
+  EXPECT_FALSE(std::filesystem::exists(file));
+  const std::string store = test::ReadFile(home_.Place.StoreFile());
+  for (const ExportFormat format :
+       {ExportFormat::Aaf, ExportFormat::Csv, ExportFormat::Spreadsheet}) {
+    EXPECT_TRUE(ExportClients(*session_, {ExportedClients::All, format, 0, {}, "All"},
+                              home_.Place.StoreFile(), GoOn));
+  }
+  EXPECT_EQ(test::ReadFile(home_.Place.StoreFile()), store);
+  EXPECT_EQ(ExportFileName("../A/B", ExportFormat::Aaf), "-A-B.aaf");
+  EXPECT_EQ(ExportFileName("..", ExportFormat::Csv), "Clients.csv");
 }
 
 TEST_F(Exchange, ThePreviewMarksOffsetsThatTheClocksDidNotShow) {
