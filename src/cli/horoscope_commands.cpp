@@ -8,7 +8,7 @@
 #include "core/own_files.h"
 #include "horoscope/catalogue.h"
 #include "horoscope/create_horoscope.h"
-#include "horoscope/recalculation.h"
+#include "horoscope/moved_lords.h"
 #include "ui/painting/dasha_timeline.h"
 #include "ui/painting/graph_files.h"
 #include "ui/painting/offscreen.h"
@@ -138,15 +138,19 @@ void RunRectify(Context& context, const RectifyOptions& options) {
     throw CommandFailed(result.Refused->Text);
   }
   const std::string birth = core::StoredDateTimeText(result.Birth);
+  const core::Table lords = horoscope::MovedLords(context.Reading(), opened.Model, form);
   if (context.Json) {
     PrintJson({{"birth", birth},
                {"cusps", TableJson(result.Cusps)},
                {"planets", TableJson(result.Planets)},
                {"dashas", TableJson(result.Dashas)},
-               {"dashaBalance", result.DashaBalance}});
+               {"dashaBalance", result.DashaBalance},
+               {"lords", TableJson(lords)}});
     return;
   }
   std::cout << birth << "\n\n";
+  PrintTable(lords);
+  std::cout << "\n";
   PrintTable(result.Cusps);
   std::cout << "\n";
   PrintTable(result.Planets);

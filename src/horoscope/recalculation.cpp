@@ -77,16 +77,6 @@ void WriteDashas(const core::Session& session, const chart::ChartResult& chart,
   result.DashaBalance = moved.Captions.DashaBalance;
 }
 
-std::optional<core::Refusal> CheckForm(const RecalculationForm& form) {
-  if (std::optional<core::Refusal> refused = chart::CheckOffset(form.Offset)) {
-    return refused;
-  }
-  if (std::optional<core::Refusal> refused = chart::CheckLatitude(form.Latitude)) {
-    return refused;
-  }
-  return chart::CheckLongitude(form.Longitude);
-}
-
 std::string ClientText(const chart::HoroscopeModel& model, const std::string& column) {
   for (const auto& [name, text] : model.Client) {
     if (name == column) {
@@ -97,6 +87,16 @@ std::string ClientText(const chart::HoroscopeModel& model, const std::string& co
 }
 
 }  // namespace
+
+std::optional<core::Refusal> CheckRecalculation(const RecalculationForm& form) {
+  if (std::optional<core::Refusal> refused = chart::CheckOffset(form.Offset)) {
+    return refused;
+  }
+  if (std::optional<core::Refusal> refused = chart::CheckLatitude(form.Latitude)) {
+    return refused;
+  }
+  return chart::CheckLongitude(form.Longitude);
+}
 
 chart::ChartInput ChartInputOf(const core::Session& session, const chart::HoroscopeModel& model,
                                const RecalculationForm& form) {
@@ -129,7 +129,7 @@ core::DateTime ShiftedBirth(core::DateTime birth, const BirthShift& shift) {
 Recalculation Recalculate(core::Session& session, const chart::HoroscopeModel& model,
                           const RecalculationForm& form) {
   Recalculation result;
-  result.Refused = CheckForm(form);
+  result.Refused = CheckRecalculation(form);
   if (result.Refused) {
     return result;
   }

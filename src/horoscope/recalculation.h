@@ -11,6 +11,9 @@
 
 namespace orvex::horoscope {
 
+// The background of the cells that differ from those of the birth.
+inline constexpr const char* kMovedColor = "FEFA85";
+
 enum class WorkCuspColumn { Cusp, Degree, SignLord, StarLord, SubLord, SubSubLord };
 
 enum class WorkPlanetColumn {
@@ -52,6 +55,9 @@ struct Recalculation {
 
 // The form of an open horoscope: its place and offset, no shift.
 RecalculationForm OpenRecalculation(const chart::HoroscopeModel& model);
+
+// The first of offset, latitude and longitude that is refused as the client dialog refuses it.
+std::optional<core::Refusal> CheckRecalculation(const RecalculationForm& form);
 
 // A birth time moved by a shift. core::DateRangeError outside the years 100 to 9999.
 core::DateTime ShiftedBirth(core::DateTime birth, const BirthShift& shift);

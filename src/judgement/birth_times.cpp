@@ -1,10 +1,11 @@
 #include "judgement/birth_times.h"
 
 #include <algorithm>
-#include <set>
+#include <utility>
 
 #include "core/attempt.h"
 #include "core/exact_numbers.h"
+#include "core/text.h"
 #include "exact/crossings.h"
 #include "exact/crossings_table.h"
 #include "horoscope/exact_reading.h"
@@ -30,37 +31,50 @@ core::Table EmptyBench() {
           {}};
 }
 
-// The planets of the first five rulers and of the nodes.
-std::set<std::string> StrongRulers(const core::Table& rulers) {
-  std::set<std::string> planets;
-  for (std::size_t row = 0; row < rulers.Rows.size(); ++row) {
-    if (row < kStrongestRulers || rulers.At(row, RulerColumn::Role).Text == "Node") {
-      planets.insert(rulers.At(row, RulerColumn::Planet).Text);
-    }
+// The three lords of a span, those that rule bold, and how many they are.
+void FillLords(const exact::Lords& lords, const std::vector<std::string>& rulers,
+               core::Table& table, std::size_t row) {
+  const std::pair<BirthTimeColumn, const std::string&> columns[] = {
+      {BirthTimeColumn::SignLord, lords.Sign},
+      {BirthTimeColumn::StarLord, lords.Star},
+      {BirthTimeColumn::SubLord, lords.Sub}};
+  int count = 0;
+  for (const auto& [column, lord] : columns) {
+    core::Cell& cell = table.At(row, column);
+    cell.Text = lord;
+    cell.Bold = std::find(rulers.begin(), rulers.end(), lord) != rulers.end();
+    count += cell.Bold ? 1 : 0;
   }
-  return planets;
+  table.At(row, BirthTimeColumn::Rulers).Text = core::WholeText(count);
 }
 
-std::string CountOfRulers(const exact::Lords& lords, const std::set<std::string>& rulers) {
-  int count = 0;
-  for (const std::string* lord : {&lords.Sign, &lords.Star, &lords.Sub}) {
-    count += rulers.contains(*lord) ? 1 : 0;
+// The events that a horoscope explains: "Marriage, 11 Feb 2003".
+std::vector<std::string> ExplainedEvents(const core::Session& session,
+                                         const chart::HoroscopeModel& model,
+                                         const std::vector<LifeEvent>& events) {
+  std::vector<std::string> explained;
+  for (const LifeEvent& event : events) {
+    if (IsExplained(session.Reference, model, event)) {
+      explained.push_back(event.What->Name + ", " + core::LongDateText(event.Date, true));
+    }
   }
-  return core::WholeText(count);
+  return explained;
 }
 
 // "2 of 3" by the horoscope of a birth. A birth whose chart cannot be computed explains none.
-std::string EventsText(core::Session& session, const chart::ChartInput& input,
-                       const std::vector<LifeEvent>& events) {
-  int explained = 0;
+void FillEvents(core::Session& session, const chart::ChartInput& input,
+                const std::vector<LifeEvent>& events, core::Cell& cell) {
+  std::vector<std::string> explained;
   if (!events.empty()) {
     core::Attempt([&] {
-      explained =
-          CountExplained(session.Reference, horoscope::UnsavedHoroscope(session, input), events);
+      explained = ExplainedEvents(session, horoscope::UnsavedHoroscope(session, input), events);
     });
   }
-  return core::WholeText(explained) + " of " +
-         core::WholeText(static_cast<std::int64_t>(events.size()));
+  const auto count = [](const auto& list) {
+    return core::WholeText(static_cast<std::int64_t>(list.size()));
+  };
+  cell.Text = count(explained) + " of " + count(events);
+  cell.Tooltip = core::Join(explained, "\n");
 }
 
 exact::CrossingSearch SearchAround(const chart::HoroscopeModel& model, int minutes) {
@@ -79,6 +93,18 @@ bool HasOwnAscendant(const chart::HoroscopeModel& model) {
 }
 
 }  // namespace
+
+std::vector<std::string> StrongRulers(const core::Table& rulers) {
+  std::vector<std::string> planets;
+  for (std::size_t row = 0; row < rulers.Rows.size(); ++row) {
+    const std::string& planet = rulers.At(row, RulerColumn::Planet).Text;
+    const bool strong = row < kStrongestRulers || rulers.At(row, RulerColumn::Role).Text == "Node";
+    if (strong && std::find(planets.begin(), planets.end(), planet) == planets.end()) {
+      planets.push_back(planet);
+    }
+  }
+  return planets;
+}
 
 std::optional<core::Refusal> CheckBench(const chart::HoroscopeModel& model, int minutes) {
   if (model.Horary || HasOwnAscendant(model)) {
@@ -100,7 +126,7 @@ core::Table BuildBirthTimes(core::Session& session, const chart::HoroscopeModel&
   const exact::CrossingSearch search = SearchAround(model, minutes);
   const core::DateTime birth = horoscope::ExactMomentUt(model);
   const std::chrono::seconds clock = model.Birth - birth;
-  const std::set<std::string> strong = StrongRulers(rulers);
+  const std::vector<std::string> strong = StrongRulers(rulers);
   std::vector<exact::Crossing> spans;
   {
     const exact::ExactSky sky(session.Ephemeris, exact::ReadingOf(session),
@@ -117,15 +143,23 @@ core::Table BuildBirthTimes(core::Session& session, const chart::HoroscopeModel&
     table.At(row, BirthTimeColumn::From).Text = core::StoredDateTimeText(span.From + clock);
     table.At(row, BirthTimeColumn::Until).Text = core::StoredDateTimeText(span.Until + clock);
     table.At(row, BirthTimeColumn::Position).Text = zodiac.PositionText(span.Longitude);
-    table.At(row, BirthTimeColumn::SignLord).Text = span.Held.Sign;
-    table.At(row, BirthTimeColumn::StarLord).Text = span.Held.Star;
-    table.At(row, BirthTimeColumn::SubLord).Text = span.Held.Sub;
-    table.At(row, BirthTimeColumn::Rulers).Text = CountOfRulers(span.Held, strong);
-    table.At(row, BirthTimeColumn::Events).Text = EventsText(session, input, events);
+    FillLords(span.Held, strong, table, row);
+    FillEvents(session, input, events, table.At(row, BirthTimeColumn::Events));
     table.At(row, BirthTimeColumn::Now).Text =
         span.From <= birth && birth < span.Until ? "Now" : "";
   }
   return table;
+}
+
+TakenTime TakeTime(const chart::HoroscopeModel& model, const core::Table& times, std::size_t row) {
+  const auto text = [&times, row](BirthTimeColumn column) { return times.At(row, column).Text; };
+  const std::string& middle = times.Rows.at(row).Tag;
+  return {core::ParseDateTime(middle).value(),
+          "Birth time " + middle + " taken in the place of " +
+              core::StoredDateTimeText(model.Birth) + ": Ascendant in the sign of " +
+              text(BirthTimeColumn::SignLord) + ", the star of " + text(BirthTimeColumn::StarLord) +
+              ", the sub of " + text(BirthTimeColumn::SubLord) + "; events " +
+              text(BirthTimeColumn::Events) + "."};
 }
 
 }  // namespace orvex::judgement

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "chart/horoscope_model.h"
 #include "core/save_result.h"
@@ -31,13 +33,26 @@ enum class BirthTimeColumn {
   Now
 };
 
+// The planets of the first five rows and of the nodes of a table of rulers, each once, in its
+// order.
+std::vector<std::string> StrongRulers(const core::Table& rulers);
+
 // A row for each span, the first beginning and the last ending so many minutes from the birth; From
 // and Until by the birth's clock in the stored form, Position at From. Rulers: how many of the
-// three lords are among the first five rows and the nodes of `rulers`. Events: "2 of 3", those that
-// the horoscope of the span's middle second explains. Now: "Now" in the row of the stored birth
-// time. The tag of a row is its middle second by the birth's clock. For a chart that CheckBench
-// takes.
+// three lords are among StrongRulers; those lords are bold. Events: "2 of 3", those that the
+// horoscope of the span's middle second explains, which the tool tip names. Now: "Now" in the row
+// of the stored birth time. The tag of a row is its middle second by the birth's clock. For a chart
+// that CheckBench takes.
 core::Table BuildBirthTimes(core::Session& session, const chart::HoroscopeModel& model, int minutes,
                             const core::Table& rulers, const std::vector<LifeEvent>& events);
+
+// A span of the bench taken for the birth time.
+struct TakenTime {
+  core::DateTime Birth{};  // its middle second, by the birth's clock
+  std::string Comment;     // a line for the client's comments: from which time, and by which lords
+};
+
+// Of a row of BuildBirthTimes. std::out_of_range beyond the table.
+TakenTime TakeTime(const chart::HoroscopeModel& model, const core::Table& times, std::size_t row);
 
 }  // namespace orvex::judgement

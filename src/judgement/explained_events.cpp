@@ -36,11 +36,4 @@ bool IsExplained(const core::ReferenceData& reference, const chart::HoroscopeMod
                               [&givers](const std::string& lord) { return givers.contains(lord); });
 }
 
-int CountExplained(const core::ReferenceData& reference, const chart::HoroscopeModel& model,
-                   const std::vector<LifeEvent>& events) {
-  return static_cast<int>(std::count_if(events.begin(), events.end(), [&](const LifeEvent& event) {
-    return IsExplained(reference, model, event);
-  }));
-}
-
 }  // namespace orvex::judgement

@@ -1,8 +1,6 @@
 // Which events of a life a horoscope explains by its periods.
 #pragma once
 
-#include <vector>
-
 #include "chart/horoscope_model.h"
 #include "core/reference_data.h"
 #include "judgement/life_events.h"
@@ -14,9 +12,5 @@ namespace orvex::judgement {
 // for a day outside the periods.
 bool IsExplained(const core::ReferenceData& reference, const chart::HoroscopeModel& model,
                  const LifeEvent& event);
-
-// How many of the events are.
-int CountExplained(const core::ReferenceData& reference, const chart::HoroscopeModel& model,
-                   const std::vector<LifeEvent>& events);
 
 }  // namespace orvex::judgement

@@ -102,6 +102,18 @@ core::SaveResult SaveEventChanges(core::Session& session, const EventForm& form,
   });
 }
 
+std::string DeleteEventQuestion(const core::Session& session, std::int32_t eventId) {
+  const core::Result row = session.StoreConnection.Query("Select * from client_event where id = " +
+                                                         core::WholeText(eventId));
+  const std::optional<core::DateTime> date = row.AtEnd() ? std::nullopt : row.Moment("eventdate");
+  if (!date) {
+    return kDeleteEventQuestion;
+  }
+  const std::optional<Matter> matter = MatterOfEvent(session, row);
+  return std::string(kDeleteEventQuestion) + "\n\n" + (matter ? matter->Name + ", " : "") +
+         core::LongDateText(*date, false);
+}
+
 core::SaveResult DeleteEvent(core::Session& session, std::int32_t eventId) {
   if (!core::HasRow(session.StoreConnection, "client_event", eventId)) {
     return core::StoppedSave(core::kRecordGone);

@@ -45,6 +45,9 @@ core::SaveResult SaveEventChanges(core::Session& session, const EventForm& form,
 inline constexpr const char* kDeleteEventQuestion =
     "Are you sure you want to delete the selected Life Event?";
 
+// The question before an event is deleted, with its matter and date below it.
+std::string DeleteEventQuestion(const core::Session& session, std::int32_t eventId);
+
 // Deletes an event; refused where it is gone.
 core::SaveResult DeleteEvent(core::Session& session, std::int32_t eventId);
 

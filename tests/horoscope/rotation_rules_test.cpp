@@ -9,8 +9,10 @@
 #include "chart/transit_now.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
+#include "exact/exact_tables.h"
 #include "horoscope/create_horoscope.h"
-#include "horoscope/recalculation.h"
+#include "horoscope/exact_reading.h"
+#include "horoscope/moved_lords.h"
 #include "support/test_home.h"
 
 namespace orvex::horoscope {
@@ -149,6 +151,40 @@ TEST_F(RotationRules, ABirthIsMovedByEachPartOfAShift) {
             "1985-09-05 11:59:01");
 }
 
+// Two hours move the Ascendant by a sign or so; the old row stays, and each new lord is marked.
+TEST_F(RotationRules, AMovedBirthHasItsOldAndItsNewLords) {
+  const OpenedHoroscope opened = Sample();
+  RecalculationForm form = OpenRecalculation(opened.Model);
+  const core::Table same = MovedLords(*session_, opened.Model, form);
+  ASSERT_EQ(same.Rows.size(), 2U);
+  const core::Table exact =
+      ReadToTheSecond(*session_, opened.Model, opened.Birth, exact::ReadingOf(*session_)).Cusps;
+  EXPECT_EQ(same.At(0, MovedLordsColumn::Position).Text,
+            exact.At(0, exact::ExactCuspColumn::Position).Text);
+  EXPECT_EQ(same.At(0, MovedLordsColumn::SubSubLord).Text,
+            exact.At(0, exact::ExactCuspColumn::SubSubLord).Text);
+  for (const bool byTime : {true, false}) {
+    form = OpenRecalculation(opened.Model);
+    if (byTime) {
+      form.Shift.Hours = 2;
+    } else {
+      form.Offset = "-7";
+    }
+    const core::Table moved = MovedLords(*session_, opened.Model, form);
+    for (const MovedLordsColumn lord :
+         {MovedLordsColumn::SignLord, MovedLordsColumn::StarLord, MovedLordsColumn::SubLord}) {
+      EXPECT_EQ(moved.At(0, lord).Text, same.At(0, lord).Text);
+      const bool differs = moved.At(1, lord).Text != moved.At(0, lord).Text;
+      EXPECT_EQ(moved.At(1, lord).Bold, differs);
+      EXPECT_EQ(moved.At(1, lord).Background, differs ? kMovedColor : "");
+    }
+    EXPECT_NE(moved.At(1, MovedLordsColumn::SignLord).Text,
+              moved.At(0, MovedLordsColumn::SignLord).Text);
+  }
+  form.Latitude = "91x";
+  EXPECT_TRUE(MovedLords(*session_, opened.Model, form).Rows.empty());
+}
+
 TEST_F(RotationRules, ARecalculationKeepsTheKindOfTheAscendant) {
   const std::pair<std::function<void(chart::ClientForm&)>, const char*> kinds[] = {
       {[](chart::ClientForm& form) {
@@ -169,6 +205,9 @@ TEST_F(RotationRules, ARecalculationKeepsTheKindOfTheAscendant) {
     const Recalculation same =
         Recalculate(*session_, opened.Model, OpenRecalculation(opened.Model));
     ASSERT_FALSE(same.Refused) << kind;
+    EXPECT_EQ(MovedLords(*session_, opened.Model, OpenRecalculation(opened.Model)).Rows.empty(),
+              std::string(kind) != "computed")
+        << kind;
     for (std::size_t row = 0; row < 12; ++row) {
       EXPECT_EQ(same.Cusps.At(row, WorkCuspColumn::Degree).Text,
                 opened.Model.CuspTable.At(row, chart::CuspColumn::Degree).Text)

@@ -105,9 +105,14 @@ TEST_F(BirthTimes, TheMiddleOfEachSpanEnteredAsABirthGivesItsRow) {
       EXPECT_EQ(bench.At(row, BirthTimeColumn::SubLord).Text,
                 cusps.At(0, exact::ExactCuspColumn::SubLord).Text);
       int explained = 0;
+      std::vector<std::string> named;
       for (const LifeEvent& event : events) {
-        explained += ExplainsTheLongWay(candidate, event) ? 1 : 0;
+        if (ExplainsTheLongWay(candidate, event)) {
+          ++explained;
+          named.push_back(event.What->Name + ", " + core::LongDateText(event.Date, true));
+        }
       }
+      EXPECT_EQ(bench.At(row, BirthTimeColumn::Events).Tooltip, core::Join(named, "\n"));
       EXPECT_EQ(bench.At(row, BirthTimeColumn::Events).Text, core::WholeText(explained) + " of 6");
       counts.insert(bench.At(row, BirthTimeColumn::Events).Text);
     }
@@ -164,12 +169,32 @@ TEST_F(BirthTimes, CountsTheLordsThatRule) {
                                        {"Moon Sub", "-"},
                                        {"Node", sub}});
     const std::string wanted = sign == star || sign == sub ? "3" : "2";
-    EXPECT_EQ(BuildBirthTimes(*session_, opened.Model, 30, ruling, {})
-                  .At(row, BirthTimeColumn::Rulers)
-                  .Text,
-              wanted)
+    const core::Table counted = BuildBirthTimes(*session_, opened.Model, 30, ruling, {});
+    EXPECT_EQ(counted.At(row, BirthTimeColumn::Rulers).Text, wanted)
         << sign << " " << star << " " << sub;
+    EXPECT_EQ(counted.At(row, BirthTimeColumn::SignLord).Bold, wanted == "3");
+    EXPECT_TRUE(counted.At(row, BirthTimeColumn::StarLord).Bold);
+    EXPECT_EQ(StrongRulers(ruling).size(), star == sub ? 2U : 3U);
   }
+}
+
+TEST_F(BirthTimes, ATakenTimeIsTheMiddleOfItsSpanAndTellsFromWhichItCame) {
+  const std::int32_t id = Add(test::Moment("1977-01-14 02:13"), kMumbai);
+  const core::Table bench = Bench(id, 10);
+  const TakenTime taken = TakeTime(Open(id).Model, bench, 1);
+  const auto at = [&bench](BirthTimeColumn column) {
+    return test::Moment(bench.At(1, column).Text);
+  };
+  const auto before = taken.Birth - at(BirthTimeColumn::From);
+  const auto after = at(BirthTimeColumn::Until) - taken.Birth;
+  EXPECT_LE(std::chrono::abs(after - before), std::chrono::seconds(1));
+  EXPECT_EQ(taken.Comment,
+            "Birth time " + core::StoredDateTimeText(taken.Birth) +
+                " taken in the place of 1977-01-14 02:13:00: Ascendant in the sign of " +
+                bench.At(1, BirthTimeColumn::SignLord).Text + ", the star of " +
+                bench.At(1, BirthTimeColumn::StarLord).Text + ", the sub of " +
+                bench.At(1, BirthTimeColumn::SubLord).Text + "; events 0 of 0.");
+  EXPECT_THROW(TakeTime(Open(id).Model, bench, bench.Rows.size()), std::out_of_range);
 }
 
 TEST_F(BirthTimes, AGivenAscendantAndAWindowOutOfBoundsAreRefused) {

@@ -114,6 +114,27 @@ TEST_F(SkyViews, AReaderBesideTheWorkbenchShowsTheSameAndLeavesTheStoreAsItWas) 
   }
 }
 
+// A tick while an import writes: the view is shown, the import stays whole and can be taken back.
+TEST_F(SkyViews, ATickWithinABatchOfAnotherLeavesThatBatchAlone) {
+  SkyView view;
+  GetCurrentTransit(*session_, view);
+  const std::string before = view.SkyPlanets.At(1, SkyPlanetColumn::Degree).Text;
+  home_.Clock.Set(test::Moment("2026-11-25 10:00:00"));
+  core::Store& store = session_->StoreConnection;
+  {
+    core::Batch batch(store);
+    store.Execute("Update group_master set groupname = 'Changed'");
+    GetCurrentTransit(*session_, view);
+    EXPECT_NE(view.SkyPlanets.At(1, SkyPlanetColumn::Degree).Text, before);
+    batch.Undo();
+  }
+  EXPECT_EQ(store.Query("Select groupname from group_master").Text("groupname"), "General");
+  GetCurrentTransit(*session_, view);
+  EXPECT_NEAR(
+      store.Query("Select degree from planet_positions where planetname = 'Moon'").Number("degree"),
+      core::ToDouble(view.SkyPlanets.At(1, SkyPlanetColumn::Degree).Text), 0.01);
+}
+
 TEST_F(SkyViews, AReworkedViewKeepsItsShapeHoweverOftenItTicks) {
   SkyView view;
   for (int tick = 0; tick < 60; ++tick) {
