@@ -8,11 +8,12 @@ core::Table GetBirthdaysToday(const core::Session& session) {
   const core::DateParts today = core::PartsOf(session.Time.Today());
   core::Table table{{{"Client Name", 105}, {"Email", 150}, {"Mobile", 100}, {"Age (Yr)", 60}}, {}};
   for (core::Result row = session.StoreConnection.Query(
-           "Select fullname, email, mobile, birthdate from client_master where (day(birthdate) = " +
+           "Select id, fullname, email, mobile, birthdate from client_master where (day(birthdate) "
+           "= " +
            core::WholeText(today.Day) + " and month(birthdate) = " + core::WholeText(today.Month) +
            ") and horary = 0 and year(birthdate) < " + core::WholeText(today.Year));
        !row.AtEnd(); row.Next()) {
-    table.AddRow();
+    table.AddRow().Tag = row.Text("id");
     const std::size_t at = table.Rows.size() - 1;
     table.At(at, BirthdayColumn::ClientName).Text = row.Text("fullname");
     table.At(at, BirthdayColumn::Email).Text = row.Text("email");

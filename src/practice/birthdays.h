@@ -11,7 +11,7 @@ namespace orvex::practice {
 enum class BirthdayColumn { ClientName, Email, Mobile, Age };
 
 // Clients born on today's day and month of an earlier year; the age is the difference of the
-// calendar years. Horary queries have no birthday.
+// calendar years. Horary queries have no birthday. The tag of a row is the client's id.
 core::Table GetBirthdaysToday(const core::Session& session);
 
 // "2 Birthday(s) Today".

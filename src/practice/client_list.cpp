@@ -4,6 +4,7 @@
 
 #include "core/exact_numbers.h"
 #include "core/store_write.h"
+#include "core/text.h"
 #include "practice/deletion.h"
 #include "practice/list_cells.h"
 
@@ -66,17 +67,52 @@ void AddClient(const core::Result& row, core::Table& table) {
   table.At(at, ClientColumn::Comments).Text = row.Text("comments");
 }
 
-}  // namespace
-
-core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::int32_t> groupId) {
-  const std::string ofGroup = groupId ? "cm.groupid = " + core::WholeText(*groupId) + " and " : "";
+// The clients that a condition, "" or one that ends with "and", leaves.
+core::Table LoadClients(const core::Session& session, const std::string& condition,
+                        const std::string& order) {
   core::Table table = EmptyList();
   for (core::Result row = session.StoreConnection.Query(
-           "Select cm.*, ct.cityname from client_master cm, city_master ct where " + ofGroup +
-           "cm.cityid = ct.id order by " + session.State.SortColumn + " collate names");
+           "Select cm.*, ct.cityname from client_master cm, city_master ct where " + condition +
+           "cm.cityid = ct.id order by " + order);
        !row.AtEnd(); row.Next()) {
     AddClient(row, table);
   }
+  return table;
+}
+
+}  // namespace
+
+core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::int32_t> groupId) {
+  return LoadClients(session, groupId ? "cm.groupid = " + core::WholeText(*groupId) + " and " : "",
+                     session.State.SortColumn + " collate names");
+}
+
+core::Table LoadRecentClients(const core::Session& session,
+                              const std::vector<std::int32_t>& opened) {
+  constexpr std::size_t kMost = 20;
+  std::vector<std::string> ids;
+  const auto take = [&ids](const std::string& id) {
+    if (ids.size() < kMost && std::find(ids.begin(), ids.end(), id) == ids.end()) {
+      ids.push_back(id);
+    }
+  };
+  for (auto last = opened.rbegin(); last != opened.rend(); ++last) {
+    take(core::WholeText(*last));
+  }
+  for (core::Result row = session.StoreConnection.Query(
+           "Select Top 20 id from client_master order by createddate desc, id desc");
+       !row.AtEnd(); row.Next()) {
+    take(row.Text("id"));
+  }
+  core::Table table =
+      ids.empty() ? EmptyList()
+                  : LoadClients(session, "cm.id in (" + core::Join(ids, ",") + ") and ", "cm.id");
+  const auto place = [&ids](const core::Row& row) {
+    return std::find(ids.begin(), ids.end(), row.Tag) - ids.begin();
+  };
+  std::sort(
+      table.Rows.begin(), table.Rows.end(),
+      [&](const core::Row& left, const core::Row& right) { return place(left) < place(right); });
   return table;
 }
 

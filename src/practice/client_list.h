@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/save_result.h"
 #include "core/session.h"
@@ -26,6 +27,11 @@ enum class ClientColumn {
 // The clients of a group, or of all groups, in the order of the settings. The tag of a row is the
 // client's id; dates sort by their sort keys. Clients whose city is gone are not listed.
 core::Table LoadClientsOfGroup(const core::Session& session, std::optional<std::int32_t> groupId);
+
+// The clients worked with last, 20 at most: those of `opened`, the last one first, then those added
+// last. Columns and tags as above.
+core::Table LoadRecentClients(const core::Session& session,
+                              const std::vector<std::int32_t>& opened);
 
 // What the list shows without rows.
 inline constexpr const char* kNoClients = "No Clients Found";

@@ -1,5 +1,7 @@
 #include "practice/groups.h"
 
+#include <map>
+
 #include "core/exact_numbers.h"
 #include "core/letter_case.h"
 #include "core/store_write.h"
@@ -85,6 +87,34 @@ core::Table LoadGroups(const core::Session& session) {
     core::Row& added = table.AddRow();
     added.Tag = row.Text("id");
     added.Cells.front().Text = row.Text("groupname");
+  }
+  return table;
+}
+
+core::Table LoadGroupsWithCounts(const core::Session& session) {
+  std::map<std::string, std::int64_t> counts;
+  std::int64_t all = 0;
+  for (core::Result row = session.StoreConnection.Query(
+           "Select groupid, count(id) as cnt from client_master group by groupid");
+       !row.AtEnd(); row.Next()) {
+    counts[row.Text("groupid")] = row.Integer("cnt");
+    all += row.Integer("cnt");
+  }
+  core::Table table{{{"Group"}, {"Clients"}}, {}};
+  const auto add = [&table](std::string tag, std::string name, std::string count) {
+    core::Row& row = table.AddRow();
+    row.Tag = std::move(tag);
+    row.Cells.front().Text = std::move(name);
+    row.Cells.back().Text = std::move(count);
+  };
+  const core::Table groups = LoadGroups(session);
+  if (groups.Rows.empty()) {
+    return table;
+  }
+  add(core::WholeText(kAllClients), "All clients", core::WholeText(all));
+  add(core::WholeText(kRecentClients), "Recent", "");
+  for (const core::Row& group : groups.Rows) {
+    add(group.Tag, group.Cells.front().Text, core::WholeText(counts[group.Tag]));
   }
   return table;
 }

@@ -28,6 +28,16 @@ enum class GroupColumn { GroupName };
 // All groups by name. The tag of a row is the group's id.
 core::Table LoadGroups(const core::Session& session);
 
+// The rows above the groups: all clients, and those worked with last.
+inline constexpr std::int32_t kAllClients = -1;
+inline constexpr std::int32_t kRecentClients = -2;
+
+enum class GroupCountColumn { GroupName, Clients };
+
+// What the list of groups shows: "All clients" and "Recent" with the tags above, then the groups by
+// name, each with its number of clients; Recent has none. Without groups there is no row at all.
+core::Table LoadGroupsWithCounts(const core::Session& session);
+
 // The group of a client; 0 where there is no such client.
 std::int32_t GroupOfClient(const core::Session& session, std::int32_t clientId);
 

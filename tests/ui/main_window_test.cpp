@@ -1,5 +1,3 @@
-#include "ui/main/main_window.h"
-
 #include <malloc.h>
 
 #include <QAction>
@@ -14,51 +12,15 @@
 #include <QTabBar>
 #include <QToolButton>
 
-#include "chart/client_saving.h"
 #include "practice/groups.h"
 #include "practice/remedies.h"
-#include "support/ui_desk.h"
-#include "ui/base/open_windows.h"
 #include "ui/dialogs/city_list.h"
 #include "ui/horoscope/horoscope_window.h"
 #include "ui/main/sky_panel.h"
+#include "ui/main_window_home.h"
 
 namespace orvex::ui {
 namespace {
-
-class MainWindowTest : public test::DeskTest {
- protected:
-  ~MainWindowTest() override { DeleteOpenWindows(); }
-
-  std::int32_t AddClient(const std::string& name, const std::string& birth) {
-    chart::ClientForm form = chart::OpenAddClient(*session_);
-    chart::SelectCity(*session_, 1, form);
-    form.FullName = name;
-    form.Birth = test::Moment(birth);
-    // Each in a second of its own, by which it is found again.
-    home_.Clock.Set(home_.Clock.Now() + std::chrono::seconds(1));
-    return chart::SaveNewClient(*session_, form, 1).Id;
-  }
-
-  void Open() {
-    window_ = std::make_unique<MainWindow>(place_);
-    Show(*window_);
-  }
-
-  void Trigger(const char* action) {
-    auto* found = window_->findChild<QAction*>(action);
-    ASSERT_NE(found, nullptr) << action;
-    ASSERT_TRUE(found->isEnabled()) << action;
-    found->trigger();
-    QCoreApplication::processEvents();
-  }
-
-  bool CanDo(const char* action) { return window_->findChild<QAction*>(action)->isEnabled(); }
-  QString Label(const char* name) { return Find<QLabel>(*window_, name).text(); }
-  TableView& List(const char* name) { return Find<TableView>(*window_, name); }
-
-  std::unique_ptr<MainWindow> window_;
-};
 
 TEST_F(MainWindowTest, ANewPracticeIsLedToItsFirstHoroscope) {
   Open();
@@ -155,9 +117,13 @@ TEST_F(MainWindowTest, AnInstantChartIsStoredShownAndOpened) {
 TEST_F(MainWindowTest, TheSkyFollowsTheClockWithoutGrowing) {
   AddClient("Asha Rao", "1990-11-24 14:30:00");
   Open();
-  EXPECT_EQ(Label("skyTitle"), "Sky View at 10:00:01 AM");
+  EXPECT_EQ(Label("nowTitle"), "Sky View at 10:00:01 AM");
   EXPECT_TRUE(Label("currentAscendant").startsWith("Current ASC: "));
+  EXPECT_EQ(List("nowRulingPlanets").Model().rowCount(), 7);
+  QTest::keyClick(window_.get(), Qt::Key_5, Qt::ControlModifier);
+  EXPECT_EQ(Label("skyTitle"), "Sky View at 10:00:01 AM");
   EXPECT_EQ(List("skyRulingPlanets").Model().rowCount(), 8);
+  QTest::keyClick(window_.get(), Qt::Key_1, Qt::ControlModifier);
   auto& sky = *window_->findChild<SkyPanel*>();
   const auto ticks = [&](int count) {
     for (int tick = 0; tick < count; ++tick) {
@@ -179,6 +145,9 @@ TEST_F(MainWindowTest, ATableIsCopiedWithItsCaptionsAndSortedByTrueDates) {
   auto& list = List("clientList");
   list.sortByColumn(2, Qt::AscendingOrder);
   EXPECT_EQ(list.Model().index(0, 0).data().toString(), "Born early");
+  QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Client Name\tBirth/Horary Date\tCity"));
+  QTest::keyClick(&list, Qt::Key_F4);
   QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
   EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Client Name\tGen\tBirth/Horary Date"));
 }

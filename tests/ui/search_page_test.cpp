@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTabWidget>
 
 #include "chart/client_saving.h"
 #include "practice/groups.h"

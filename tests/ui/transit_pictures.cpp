@@ -1,6 +1,7 @@
 // Writes pictures of the transit windows into a folder, and says how long they take:
 // transit_pictures FOLDER. The size of the pictures follows QT_SCALE_FACTOR, the palette
 // ORVEX_THEME.
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
@@ -9,7 +10,6 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
-#include <QTabWidget>
 #include <iostream>
 
 #include "support/picture_program.h"
@@ -45,7 +45,7 @@ void WriteGrid(Workplace& place, const std::filesystem::path& folder) {
   window.resize(kWidth, kHeight);
   window.show();
   QCoreApplication::processEvents();
-  window.findChild<QTabWidget*>("pages")->setCurrentWidget(&page);
+  window.findChild<QAction*>("transitGrid")->trigger();
   page.CreateGrid(11, 2026);
   WritePicture(window, folder / "transit-grid.png");
   auto& graph = *page.findChild<QPushButton*>("showGraph");

@@ -3,7 +3,6 @@
 #include <QContextMenuEvent>
 #include <QListWidget>
 #include <QMenu>
-#include <QTabWidget>
 
 #include "chart/client_saving.h"
 #include "core/cell_colors.h"
@@ -280,7 +279,7 @@ TEST_F(TransitWindowTest, TheMainWindowLeadsToAllOfThem) {
   };
   trigger("transitGrid");
   EXPECT_TRUE(Find<QWidget>(*window, "transitGrid").isVisible());
-  Find<QTabWidget>(*window, "pages").setCurrentIndex(0);
+  Press(*window, "showClientsButton");
   bool found = false;
   WhenOpen("findTransitDialog", [&found](QWidget& dialog) {
     found = true;

@@ -24,6 +24,12 @@ ChartColors ScreenColors() {
   return {t.Sheet, t.Edge, t.Ink, t.Ink2, t.Now, t.Ascendant};
 }
 
+// Pixels of a planet's code that are read without effort.
+double Readable() {
+  constexpr double kUsual = 12;
+  return kUsual * Theme::TextSize() / 100;
+}
+
 }  // namespace
 
 ChartView::ChartView(const QString& objectName, int smallestSide) : smallestSide_(smallestSide) {
@@ -44,7 +50,7 @@ void ChartView::SetPicture(const report::ChartPicture& picture) {
 }
 
 QString ChartView::CodeAt(const QPointF& point) const {
-  for (const DrawnField& field : LayOutChart(picture_, font(), ChartSquare(rect()))) {
+  for (const DrawnField& field : LayOutChart(picture_, font(), ChartSquare(rect()), Readable())) {
     for (const PlacedWord& word : field.Codes.Words) {
       if (word.Box.contains(point)) {
         return word.Text;
@@ -55,7 +61,8 @@ QString ChartView::CodeAt(const QPointF& point) const {
 }
 
 QString ChartView::TooltipAt(const QPointF& point) const {
-  const std::array<DrawnField, 12> drawn = LayOutChart(picture_, font(), ChartSquare(rect()));
+  const std::array<DrawnField, 12> drawn =
+      LayOutChart(picture_, font(), ChartSquare(rect()), Readable());
   for (std::size_t i = 0; i < drawn.size(); ++i) {
     if (drawn.at(i).Outline.containsPoint(point, Qt::OddEvenFill)) {
       return Shown(picture_.Fields.at(i).Tooltip).toHtmlEscaped();
@@ -75,7 +82,7 @@ bool ChartView::event(QEvent* event) {
 
 void ChartView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  PaintChart(painter, rect(), picture_, ScreenColors());
+  PaintChart(painter, rect(), picture_, ScreenColors(), Readable());
   PaintRings(painter);
 }
 
@@ -92,7 +99,7 @@ void ChartView::PaintRings(QPainter& painter) const {
   }
   const Tokens& t = Theme::Now();
   painter.setRenderHint(QPainter::Antialiasing);
-  for (const DrawnField& field : LayOutChart(picture_, font(), ChartSquare(rect()))) {
+  for (const DrawnField& field : LayOutChart(picture_, font(), ChartSquare(rect()), Readable())) {
     for (const PlacedWord& word : field.Codes.Words) {
       if (CodeOfWord(word.Text) == chosen_) {
         painter.setPen(QPen(t.Accent, line::kFocus));

@@ -6,6 +6,10 @@
 
 namespace orvex::ui {
 
+// Pixels: beside words, and over a word of the rail.
+inline constexpr int kWordIcon = 16;
+inline constexpr int kRailIcon = 20;
+
 enum class IconInk { Text, Quiet, Accent, OnAccent, Amber };
 
 // The icon of that name, such as "rotate". An unknown name gives an icon that draws nothing; a test

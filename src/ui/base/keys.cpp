@@ -15,6 +15,38 @@ constexpr const char* kHoroscope = "Horoscope";
 // clang-format off
 const std::vector<KeyEntry>& AllKeys() {
   static const std::vector<KeyEntry> kKeys = {
+      {kMainWindow, "addClient",        "Ctrl+N",       "new birth"},
+      {kMainWindow, "newQuery",         "Ctrl+Shift+N", "new query"},
+      {kMainWindow, "instantChart",     "Ctrl+I",       "chart of now: a horoscope of this moment"},
+      {kMainWindow, "findAnyone",       "Ctrl+K",       "find anyone, in whatever group; once more: the page Search"},
+      {kMainWindow, "viewHoroscope",    "Ctrl+Return",  "open the chosen client's horoscope"},
+      {kMainWindow, "editClient",       "F2",           "edit the chosen client, or in the list of groups the group"},
+      {kMainWindow, "deleteClient",     "Ctrl+Del",     "delete the chosen client"},
+      {kMainWindow, "deleteChosen",     "Del",          "in a list: delete what is chosen"},
+      {kMainWindow, "undoDelete",       "Ctrl+Z",       "bring back the client that was deleted last"},
+      {kMainWindow, "moveClient",       "Ctrl+M",       "move the chosen client to another group"},
+      {kMainWindow, "addGroup",         "Ctrl+G",       "add a group"},
+      {kMainWindow, "filterClients",    "Ctrl+F",       "narrow the list of clients"},
+      {kMainWindow, "showClients",      "Ctrl+1",       "the page Clients"},
+      {kMainWindow, "showSearch",       "Ctrl+2",       "the page Search"},
+      {kMainWindow, "showTransits",     "Ctrl+3",       "the page Transits"},
+      {kMainWindow, "showHoras",        "Ctrl+4",       "the page Horas"},
+      {kMainWindow, "showToday",        "Ctrl+5",       "the page Today: the whole sky of now, and birthdays"},
+      {kMainWindow, "transitGrid",      "Ctrl+T",       "the transits of the month"},
+      {kMainWindow, "findTransit",      "Ctrl+Shift+F", "find a transit"},
+      {kMainWindow, "hora",             "Ctrl+H",       "the horas of a date"},
+      {kMainWindow, "previousDay",      "Alt+Left",     "the day before, on the page Horas"},
+      {kMainWindow, "nextDay",          "Alt+Right",    "the day after"},
+      {kMainWindow, "allColumns",       "F4",           "all columns of the list of clients, and back"},
+      {kMainWindow, "refreshSky",       "F5",           "refresh the sky"},
+      {kMainWindow, "nextPane",         "F6",           "the next part of the window"},
+      {kMainWindow, "foldSky",          "F8",           "fold the sky, and back"},
+      {kMainWindow, "mainMenu",         "F10",          "the menus"},
+      {kMainWindow, "printGraph",       "Ctrl+P",       "print the graph of the month, on the page Transits"},
+      {kMainWindow, "saveGraph",        "Ctrl+S",       "save the graph of the month as SVG, on the page Transits"},
+      {kMainWindow, "settings",         "Ctrl+,",       "settings"},
+      {kMainWindow, "guide",            "F1",           "this guide"},
+      {kMainWindow, "quit",             "Ctrl+Q",       "exit"},
       {kHoroscope, "nextPage",         "Ctrl+PgDown",  "next page"},
       {kHoroscope, "previousPage",     "Ctrl+PgUp",    "page before"},
       {kHoroscope, "nextStyle",        "Ctrl+T",       "next style of charts"},
@@ -41,11 +73,26 @@ const std::vector<KeyEntry>& AllKeys() {
 }
 // clang-format on
 
-QKeySequence KeysOf(const QString& window, const QString& name) {
+namespace {
+
+const KeyEntry* EntryOf(const QString& window, const QString& name) {
   for (const KeyEntry& entry : AllKeys()) {
     if (window == entry.Window && name == entry.Name) {
-      return {entry.Keys, QKeySequence::PortableText};
+      return &entry;
     }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+bool HasKeys(const QString& window, const QString& name) {
+  return EntryOf(window, name) != nullptr;
+}
+
+QKeySequence KeysOf(const QString& window, const QString& name) {
+  if (const KeyEntry* entry = EntryOf(window, name)) {
+    return {entry->Keys, QKeySequence::PortableText};
   }
   throw std::out_of_range("no key is named " + name.toStdString());
 }

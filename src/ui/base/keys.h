@@ -10,6 +10,9 @@ class QAbstractButton;
 
 namespace orvex::ui {
 
+// The heading of the main window's keys.
+inline constexpr const char* kMainWindow = "Main window";
+
 struct KeyEntry {
   const char* Window;  // the heading of the guide's page
   const char* Name;    // the object name of what the key does
@@ -21,6 +24,7 @@ const std::vector<KeyEntry>& AllKeys();
 
 // The key of a name in a window; std::out_of_range for a name that the table does not have.
 QKeySequence KeysOf(const QString& window, const QString& name);
+bool HasKeys(const QString& window, const QString& name);
 
 // A text with its key behind it, "Rotate (Ctrl+R)", as tool tips say it.
 QString WithKeys(const QString& text, const QKeySequence& keys);

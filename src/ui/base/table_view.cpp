@@ -128,7 +128,8 @@ void TableView::KeepWidth(int column, int width) {
 }
 
 std::optional<int> TableView::KeptWidth(int column) const {
-  return memory_ == nullptr ? std::nullopt : memory_->ColumnWidth(*this, CaptionOf(column));
+  const bool any = memory_ != nullptr && column < model_->columnCount();
+  return !any ? std::nullopt : memory_->ColumnWidth(*this, CaptionOf(column));
 }
 
 QString TableView::CaptionOf(int column) const {

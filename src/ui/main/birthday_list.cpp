@@ -32,16 +32,21 @@ void BirthdayList::Reload() {
   caption_->setText(Shown(practice::BirthdayCaption(birthdays)));
   const bool any = !birthdays.Rows.empty();
   list_->SetTable(std::move(birthdays));
+  list_->setMinimumHeight(list_->sizeHint().height());
   list_->SetExport(
       any ? [this](const core::Table&
                        table) { ExportTable(place_, *this, table, Typed(caption_->text())); }
           : std::function<void(const core::Table&)>());
 }
 
-void BirthdayList::FollowDay() {
-  if (place_.Session.Time.Today() != day_) {
+bool BirthdayList::FollowDay() {
+  const bool another = place_.Session.Time.Today() != day_;
+  if (another) {
     Reload();
   }
+  return another;
 }
+
+const core::Table& BirthdayList::Table() const { return list_->Table(); }
 
 }  // namespace orvex::ui

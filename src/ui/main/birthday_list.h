@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "core/date_text.h"
+#include "core/table.h"
 #include "ui/base/workplace.h"
 
 class QLabel;
@@ -19,8 +20,10 @@ class BirthdayList final : public QWidget {
   explicit BirthdayList(Workplace& place, QWidget* parent = nullptr);
 
   void Reload();
-  // Reloads where the day has changed since.
-  void FollowDay();
+  // Reloads where the day has changed since, and says so.
+  bool FollowDay();
+
+  const core::Table& Table() const;
 
  private:
   Workplace& place_;

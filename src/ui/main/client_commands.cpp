@@ -1,12 +1,15 @@
 #include "ui/main/client_commands.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
+#include <QShortcut>
 #include <QWidget>
 #include <memory>
 
 #include "chart/instant_chart.h"
 #include "practice/client_list.h"
 #include "practice/groups.h"
+#include "ui/base/keys.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
@@ -20,42 +23,64 @@ namespace orvex::ui {
 
 ClientCommands::ClientCommands(Workplace& place, ClientLists& lists, QWidget& window)
     : QObject(&window),
-      AddClient(
-          Make("addClient", tr("&Add Client…"), QKeySequence::New, &ClientCommands::RunAddClient)),
-      View(Make("viewHoroscope", tr("&View Horoscope"), tr("Ctrl+Return"),
-                &ClientCommands::RunView)),
-      EditClient(Make("editClient", tr("&Edit Client…"), tr("F2"), &ClientCommands::RunEditClient)),
-      DeleteClient(Make("deleteClient", tr("&Delete Client"), tr("Ctrl+Del"),
-                        &ClientCommands::RunDeleteClient)),
-      UndoDelete(Make("undoDelete", {}, QKeySequence::Undo, &ClientCommands::RunUndoDelete)),
-      MoveClient(
-          Make("moveClient", tr("&Move to Group…"), tr("Ctrl+M"), &ClientCommands::RunMoveClient)),
-      AddGroup(Make("addGroup", tr("Add &Group…"), tr("Ctrl+G"), &ClientCommands::RunAddGroup)),
-      EditGroup(Make("editGroup", tr("Ed&it Group…"), {}, &ClientCommands::RunEditGroup)),
-      DeleteGroup(Make("deleteGroup", tr("De&lete Group"), {}, &ClientCommands::RunDeleteGroup)),
-      InstantChart(Make("instantChart", tr("&Instant Chart"), tr("Ctrl+I"),
-                        &ClientCommands::RunInstantChart)),
+      AddClient(Make("addClient", tr("&Add Client…"), &ClientCommands::RunAddClient)),
+      NewQuery(Make("newQuery", tr("Add &Query…"), &ClientCommands::RunNewQuery)),
+      View(Make("viewHoroscope", tr("&View Horoscope"), &ClientCommands::RunView)),
+      Report(Make("reportOfClient", tr("&Report…"), &ClientCommands::RunReport)),
+      EditClient(Make("editClient", tr("&Edit Client…"), &ClientCommands::RunEditClient)),
+      DeleteClient(Make("deleteClient", tr("&Delete Client"), &ClientCommands::RunDeleteClient)),
+      UndoDelete(Make("undoDelete", {}, &ClientCommands::RunUndoDelete)),
+      MoveClient(Make("moveClient", tr("&Move to Group…"), &ClientCommands::RunMoveClient)),
+      AddGroup(Make("addGroup", tr("Add &Group…"), &ClientCommands::RunAddGroup)),
+      EditGroup(Make("editGroup", tr("Ed&it Group…"), &ClientCommands::RunEditGroup)),
+      DeleteGroup(Make("deleteGroup", tr("De&lete Group"), &ClientCommands::RunDeleteGroup)),
+      InstantChart(Make("instantChart", tr("&Instant Chart"), &ClientCommands::RunInstantChart)),
       place_(place),
       lists_(lists),
       window_(window) {
-  for (QAction* action : {View, EditClient, DeleteClient, MoveClient}) {
+  for (QAction* action : {View, Report, EditClient, DeleteClient, MoveClient}) {
     lists.ClientTable().AddMenuAction(action);
   }
   for (QAction* action : {AddGroup, EditGroup, DeleteGroup}) {
     lists.GroupTable().AddMenuAction(action);
   }
+  DeleteIn(lists.ClientTable(), *DeleteClient);
+  DeleteIn(lists.GroupTable(), *DeleteGroup);
+  lists.GroupTable().installEventFilter(this);
   connect(&lists, &ClientLists::ChoiceChanged, this, &ClientCommands::Follow);
   connect(&lists, &ClientLists::ViewRequested, View, &QAction::trigger);
   OfferUndo();
 }
 
-QAction* ClientCommands::Make(const char* name, const QString& text, const QKeySequence& keys,
+// Some have no key of their own.
+QAction* ClientCommands::Make(const char* name, const QString& text,
                               void (ClientCommands::*run)()) {
   auto* action = new QAction(text, this);
   action->setObjectName(name);
-  action->setShortcut(keys);
+  if (HasKeys(kMainWindow, name)) {
+    action->setShortcut(KeysOf(kMainWindow, name));
+  }
   connect(action, &QAction::triggered, this, run);
   return action;
+}
+
+void ClientCommands::DeleteIn(TableView& list, QAction& deletes) {
+  auto* key = new QShortcut(KeysOf(kMainWindow, "deleteChosen"), &list);
+  key->setContext(Qt::WidgetShortcut);
+  connect(key, &QShortcut::activated, &deletes, &QAction::trigger);
+}
+
+// In the list of groups the key that edits means the group.
+bool ClientCommands::eventFilter(QObject* watched, QEvent* event) {
+  const bool key = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+  if (!key || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F2) {
+    return QObject::eventFilter(watched, event);
+  }
+  event->accept();
+  if (event->type() == QEvent::KeyPress) {
+    EditGroup->trigger();
+  }
+  return true;
 }
 
 void ClientCommands::ActOn(TableView* list) {
@@ -87,9 +112,11 @@ void ClientCommands::Follow() {
   const bool hasGroup = lists_.Group() != 0;
   const bool hasClient = Client() != 0;
   AddClient->setEnabled(hasGroup);
-  EditGroup->setEnabled(hasGroup && OnLists());
-  DeleteGroup->setEnabled(hasGroup && OnLists());
-  for (QAction* action : {View, EditClient, DeleteClient}) {
+  NewQuery->setEnabled(hasGroup);
+  const bool ownsGroup = lists_.Group() > 0 && OnLists();
+  EditGroup->setEnabled(ownsGroup);
+  DeleteGroup->setEnabled(ownsGroup);
+  for (QAction* action : {View, Report, EditClient, DeleteClient}) {
     action->setEnabled(hasClient);
   }
   MoveClient->setEnabled(hasClient && lists_.GroupCount() > 1);
@@ -106,28 +133,52 @@ void ClientCommands::ShowNewClient(std::int32_t groupId, std::int32_t clientId) 
   emit PageWanted();
   lists_.ShowGroup(groupId, clientId);
   emit ClientsChanged();
-  OpenHoroscope(place_, clientId);
+  Open(clientId);
 }
 
-void ClientCommands::RunAddClient() {
+void ClientCommands::AddNamed(const QString& name, bool query) {
   const std::unique_ptr<ClientDialog> dialog(
-      ClientDialog::ForNew(place_, lists_.Group(), &window_));
+      ClientDialog::ForNew(place_, lists_.OwnGroup(), &window_));
+  if (query || !name.isEmpty()) {
+    dialog->Begin(name, query);
+  }
   if (dialog->exec() == QDialog::Accepted) {
     ShowNewClient(dialog->GroupId(), dialog->SavedId());
   }
 }
 
-void ClientCommands::RunView() { OpenHoroscope(place_, Client()); }
+void ClientCommands::RunView() { Open(Client()); }
 
-void ClientCommands::RunEditClient() {
+void ClientCommands::Open(std::int32_t clientId) {
+  lists_.NoteOpened(clientId);
+  OpenHoroscope(place_, clientId);
+}
+
+void ClientCommands::RunReport() {
   const std::int32_t client = Client();
-  if (Refused(practice::CheckEditClient(place_.Session, client))) {
+  lists_.NoteOpened(client);
+  if (HoroscopeWindow* window = OpenHoroscope(place_, client)) {
+    auto* reports = window->findChild<QAction*>("exportMenu");
+    QMetaObject::invokeMethod(reports, &QAction::trigger, Qt::QueuedConnection);
+  }
+}
+
+void ClientCommands::RunEditClient() { Edit(Client()); }
+
+void ClientCommands::Edit(std::int32_t clientId) {
+  if (Refused(practice::CheckEditClient(place_.Session, clientId))) {
     return;
   }
-  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, client, &window_));
+  const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place_, clientId, &window_));
   if (dialog && dialog->exec() == QDialog::Accepted) {
-    ShowChanged(client);
+    ShowChanged(clientId);
   }
+}
+
+void ClientCommands::ShowInGroup(std::int32_t clientId) {
+  emit PageWanted();
+  lists_.ShowGroup(practice::PlaceOfClient(place_.Session, clientId).GroupId, clientId);
+  lists_.ClientTable().setFocus();
 }
 
 void ClientCommands::RunDeleteClient() {

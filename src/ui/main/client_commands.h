@@ -26,11 +26,25 @@ class ClientCommands final : public QObject {
   // that is the row's tag; without one, that of the client lists, whose group is then in sight too.
   void ActOn(TableView* list);
   void ActOnLists() { ActOn(nullptr); }
+  // The Del key in a list.
+  void DeleteIn(TableView& list, QAction& deletes);
   // Nothing that could be acted on is in sight.
   void ActOnNothing();
 
+  // The same of a client that is in no list: one that was found while its name was typed.
+  void Open(std::int32_t clientId);
+  void Edit(std::int32_t clientId);
+  // Its group and its row.
+  void ShowInGroup(std::int32_t clientId);
+  // The dialog of a new client whose name is typed already.
+  void AddNamed(const QString& name, bool query);
+
   QAction* AddClient;
+  // The same as a horary query of now.
+  QAction* NewQuery;
   QAction* View;
+  // Opens the horoscope with its reports to choose from.
+  QAction* Report;
   QAction* EditClient;
   QAction* DeleteClient;
   // Brings the client back that was deleted last; not in sight without one.
@@ -41,6 +55,9 @@ class ClientCommands final : public QObject {
   QAction* DeleteGroup;
   QAction* InstantChart;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  signals:
   // Clients were added, changed or deleted.
   void ClientsChanged();
@@ -50,15 +67,16 @@ class ClientCommands final : public QObject {
   void PageWanted();
 
  private:
-  QAction* Make(const char* name, const QString& text, const QKeySequence& keys,
-                void (ClientCommands::*run)());
+  QAction* Make(const char* name, const QString& text, void (ClientCommands::*run)());
   void Follow();
   bool OnLists() const { return sees_ && list_ == nullptr; }
   std::int32_t Client() const;
   void ShowChanged(std::int32_t clientId);
   void OfferUndo();
-  void RunAddClient();
+  void RunAddClient() { AddNamed({}, false); }
+  void RunNewQuery() { AddNamed({}, true); }
   void RunView();
+  void RunReport();
   void RunEditClient();
   void RunDeleteClient();
   void RunUndoDelete();

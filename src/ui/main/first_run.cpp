@@ -32,7 +32,7 @@ FirstRun::FirstRun(Workplace& place, QAction& addClient, QWidget* parent)
     : QWidget(parent),
       place_(place),
       city_(new QLabel),
-      chooseCity_(new QPushButton(tr("&Choose city…"))),
+      chooseCity_(new QPushButton(tr("Choose cit&y…"))),
       addClient_(new QPushButton(tr("Add a &first client…"))) {
   setObjectName("firstRun");
   Build(addClient);

@@ -2,19 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QMenuBar>
-#include <QSplitter>
-#include <QStackedWidget>
 #include <QStatusBar>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QToolBar>
-#include <QVBoxLayout>
-#include <utility>
 
 #include "practice/client_list.h"
 #include "ui/base/export_table.h"
 #include "ui/base/guide.h"
+#include "ui/base/keys.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -22,164 +15,153 @@
 #include "ui/dialogs/cities_dialog.h"
 #include "ui/dialogs/settings_dialog.h"
 #include "ui/main/birthday_list.h"
+#include "ui/main/client_card_panel.h"
 #include "ui/main/client_commands.h"
 #include "ui/main/client_lists.h"
+#include "ui/main/clients_page.h"
+#include "ui/main/find_anyone_box.h"
 #include "ui/main/first_run.h"
+#include "ui/main/group_column.h"
+#include "ui/main/main_menus.h"
+#include "ui/main/main_pages.h"
+#include "ui/main/next_pane.h"
+#include "ui/main/rail.h"
 #include "ui/main/search_page.h"
+#include "ui/main/sky_column.h"
 #include "ui/main/sky_panel.h"
+#include "ui/main/today_page.h"
+#include "ui/main/top_bar.h"
 #include "ui/main/transit_commands.h"
+#include "ui/transit/hora_view.h"
 #include "ui/transit/transit_grid_page.h"
 
 namespace orvex::ui {
 
-namespace {
-
-QAction* Command(QWidget& window, const char* name, const QString& text, const QKeySequence& keys) {
-  auto* action = new QAction(text, &window);
-  action->setObjectName(name);
-  action->setShortcut(keys);
-  return action;
-}
-
-}  // namespace
-
 MainWindow::MainWindow(Workplace& place)
     : place_(place),
-      pages_(new QTabWidget),
+      rail_(new Rail),
+      top_(new TopBar(place)),
+      pages_(new MainPages),
       clientsPage_(new QStackedWidget),
-      lists_(new ClientLists(place)),
+      clients_(new ClientsPage(place)),
+      lists_(&clients_->Lists()),
       sky_(new SkyPanel(place)),
+      today_(new TodayPage(place)),
       commands_(new ClientCommands(place, *lists_, *this)),
       transits_(new TransitCommands(place, *pages_, *this)),
+      firstRun_(new FirstRun(place, *commands_->AddClient)),
       search_(new SearchPage(place)),
-      halves_(new QSplitter(Qt::Horizontal)),
-      birthdays_(new BirthdayList(place)),
-      status_(*statusBar(), *commands_->UndoDelete) {
+      bar_(new QStatusBar),
+      status_(*bar_, *commands_->UndoDelete) {
   MakeActions();
+  MakeMenus();
+  MakeBars();
   LayOut();
   Connect();
+  ConnectFind();
+  OfferExports();
   Start();
 }
 
+QAction* MainWindow::Command(const char* name, const QString& text, void (MainWindow::*run)()) {
+  auto* action = new QAction(text, this);
+  action->setObjectName(name);
+  if (HasKeys(kMainWindow, name)) {
+    action->setShortcut(KeysOf(kMainWindow, name));
+  }
+  connect(action, &QAction::triggered, this, run);
+  addAction(action);
+  return action;
+}
+
 void MainWindow::MakeActions() {
-  settings_ = Command(*this, "settings", tr("&Settings…"), tr("Ctrl+,"));
-  cities_ = Command(*this, "cities", tr("&Cities…"), {});
-  refresh_ = Command(*this, "refreshSky", tr("&Refresh Sky"), tr("F5"));
-  filter_ = Command(*this, "filterClients", tr("&Filter Clients"), QKeySequence::Find);
-  find_ = Command(*this, "searchClients", tr("&Search…"), tr("Ctrl+K"));
-  quit_ = Command(*this, "quit", tr("E&xit"), tr("Ctrl+Q"));
-  MakeMenus();
-  MakeToolBar();
+  settings_ = Command("settings", tr("&Settings…"), &MainWindow::OpenSettings);
+  cities_ = Command("cities", tr("&Cities…"), &MainWindow::OpenCities);
+  refresh_ = Command("refreshSky", tr("&Refresh Sky"), &MainWindow::RefreshSky);
+  fold_ = Command("foldSky", tr("&Fold Sky"), &MainWindow::FoldSky);
+  filter_ = Command("filterClients", tr("&Filter Clients"), &MainWindow::FilterClients);
+  find_ = Command("findAnyone", tr("Fi&nd Anyone"), &MainWindow::FindAnyone);
+  advanced_ = Command("searchClients", tr("&Search…"), &MainWindow::SearchClients);
+  guide_ = Command("guide", tr("Orvex+ &Help"), &MainWindow::ShowGuide);
+  quit_ = Command("quit", tr("E&xit"), &MainWindow::Quit);
+  Command("nextPane", tr("Next Pane"), &MainWindow::NextPane);
 }
 
 void MainWindow::MakeMenus() {
-  QMenu* clients = menuBar()->addMenu(tr("&Clients"));
-  clients->addActions({commands_->AddClient, commands_->View, commands_->EditClient,
-                       commands_->DeleteClient, commands_->UndoDelete, commands_->MoveClient});
+  auto* menus = new MainMenus(*this, rail_->MenuButton());
+  QMenu* clients = menus->Add(tr("&Clients"));
+  clients->addActions({commands_->AddClient, commands_->NewQuery, commands_->View,
+                       commands_->EditClient, commands_->DeleteClient, commands_->UndoDelete,
+                       commands_->MoveClient});
   clients->addSeparator();
-  clients->addActions({commands_->InstantChart, filter_, find_});
+  clients->addActions({commands_->InstantChart, filter_, find_, advanced_});
   clients->addSeparator();
   clients->addAction(quit_);
-  QMenu* groups = menuBar()->addMenu(tr("&Groups"));
+  QMenu* groups = menus->Add(tr("&Groups"));
   groups->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
-  menuBar()->addMenu(transits_->Menu());
-  QMenu* tools = menuBar()->addMenu(tr("&Tools"));
-  tools->addActions({refresh_, cities_, settings_});
-  QMenu* help = menuBar()->addMenu(tr("&Help"));
-  help->addAction(tr("Orvex+ &Help"), QKeySequence::HelpContents, this,
-                  [this] { OpenGuide(place_); });
+  menus->Add(transits_->Menu());
+  QMenu* tools = menus->Add(tr("&Tools"));
+  tools->addActions({refresh_, fold_, cities_, settings_});
+  QMenu* help = menus->Add(tr("&Help"));
+  help->addAction(guide_);
   help->addAction(tr("Check for &Updates"), this, [this] { ShowBox<UpdateBox>(); });
   help->addAction(tr("&About Orvex+"), this, [this] { ShowBox<AboutBox>(); });
-}
-
-void MainWindow::MakeToolBar() {
-  QToolBar* tools = addToolBar(tr("Tools"));
-  tools->setObjectName("toolBar");
-  tools->setMovable(false);
-  tools->addActions(
-      {commands_->AddClient, commands_->View, commands_->EditClient, commands_->DeleteClient});
-  tools->addSeparator();
-  tools->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
-  tools->addSeparator();
-  tools->addActions({commands_->InstantChart, settings_});
-}
-
-void MainWindow::LayOut() {
-  setObjectName("mainWindow");
-  setWindowTitle("Orvex+");
-  pages_->setObjectName("pages");
-  pages_->setDocumentMode(true);
-  pages_->tabBar()->setDrawBase(false);
-  AddPage(BuildClientsPage(), tr("Clients"));
-  AddPage(search_, tr("Search"));
-  AddPage(&transits_->Page(), tr("Transit"));
-  halves_->setObjectName("mainHalves");
-  halves_->addWidget(pages_);
-  halves_->addWidget(sky_);
-  halves_->setStretchFactor(0, 1);
-  halves_->setStretchFactor(1, 1);
-  auto* middle = new QWidget;
-  auto* layout = new QVBoxLayout(middle);
-  layout->addWidget(halves_);
-  setCentralWidget(middle);
-  if (!place_.Layout.RestoreWindow(*this)) {
-    resize(1366, 720);
-  }
-  halves_->setSizes({84 * kGrid, 82 * kGrid});
-  place_.Layout.Remember(*halves_);
-}
-
-QWidget* MainWindow::BuildClientsPage() {
-  firstRun_ = new FirstRun(place_, *commands_->AddClient);
-  auto* rows = new QSplitter(Qt::Vertical);
-  rows->setObjectName("clientsAndBirthdays");
-  rows->addWidget(lists_);
-  rows->addWidget(birthdays_);
-  rows->setStretchFactor(0, 5);
-  rows->setStretchFactor(1, 1);
-  place_.Layout.Remember(*rows);
-  clientsPage_->addWidget(rows);
-  clientsPage_->addWidget(firstRun_);
-  return clientsPage_;
+  menus->TakeKeys();
 }
 
 void MainWindow::Connect() {
-  connect(settings_, &QAction::triggered, this, [this] { OpenSettings(); });
-  connect(cities_, &QAction::triggered, this, [this] { OpenCities(); });
-  connect(refresh_, &QAction::triggered, sky_, &SkyPanel::Refresh);
-  connect(filter_, &QAction::triggered, this, [this] {
-    pages_->setCurrentWidget(clientsPage_);
-    lists_->FocusFilter();
-  });
-  connect(find_, &QAction::triggered, this, [this] {
-    pages_->setCurrentWidget(search_);
-    search_->FocusText();
-  });
   connect(lists_, &ClientLists::GroupsLoaded, search_, &SearchPage::LoadGroups);
-  connect(quit_, &QAction::triggered, this, &QWidget::close);
-  connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::MakeRoom);
-  connect(pages_, &QTabWidget::currentChanged, this, &MainWindow::FollowPage);
+  connect(pages_, &MainPages::Turned, this, &MainWindow::FollowPage);
   connect(sky_, &SkyPanel::Refreshed, this, [this] {
     status_.ShowSky(sky_->View().Captions);
-    birthdays_->FollowDay();
+    today_->ShowSky(sky_->View());
+    if (today_->Birthdays().FollowDay()) {
+      clients_->Groups().ShowBirthdays(today_->Birthdays().Table());
+    }
   });
+  connect(sky_, &SkyPanel::FoldedChanged, this, [this](bool folded) { status_.ShowDate(folded); });
+  status_.ShowDate(sky_->IsFolded());
+  connect(sky_, &SkyPanel::TodayWanted, this, [this] { pages_->Turn(MainPage::Today); });
   connect(firstRun_, &FirstRun::CityChanged, sky_, &SkyPanel::Refresh);
   connect(lists_, &ClientLists::CountChanged, this,
           [this](const QString& text) { status_.ShowCount(text); });
   connect(commands_, &ClientCommands::ClientsChanged, this, [this] {
-    birthdays_->Reload();
+    lists_->ShowCounts();
+    ShowBirthdays();
     ShowClientCounts();
     search_->Reload();
   });
-  connect(commands_, &ClientCommands::SettingsWanted, this, [this] { OpenSettings(); });
+  connect(commands_, &ClientCommands::SettingsWanted, this, &MainWindow::OpenSettings);
   connect(commands_, &ClientCommands::PageWanted, this,
-          [this] { pages_->setCurrentWidget(clientsPage_); });
-  for (QAction* action :
-       {commands_->View, commands_->EditClient, commands_->DeleteClient, commands_->MoveClient}) {
+          [this] { pages_->Turn(MainPage::Clients); });
+  for (QAction* action : {commands_->View, commands_->Report, commands_->EditClient,
+                          commands_->DeleteClient, commands_->MoveClient}) {
     search_->Results().AddMenuAction(action);
   }
+  commands_->DeleteIn(search_->Results(), *commands_->DeleteClient);
+  clients_->Card().SetActions({commands_->View,
+                               commands_->EditClient,
+                               commands_->Report,
+                               commands_->MoveClient,
+                               {commands_->MoveClient, commands_->DeleteClient}});
+  clients_->Groups().SetAddAction(commands_->AddGroup);
+  connect(&clients_->Groups(), &GroupColumn::ClientWanted, commands_, &ClientCommands::ShowInGroup);
+  connect(&clients_->Groups(), &GroupColumn::TodayWanted, this,
+          [this] { pages_->Turn(MainPage::Today); });
+}
+
+void MainWindow::ConnectFind() {
+  FindAnyoneBox* find = &top_->Find();
+  connect(find, &FindAnyoneBox::OpenWanted, commands_, &ClientCommands::Open);
+  connect(find, &FindAnyoneBox::EditWanted, commands_, &ClientCommands::Edit);
+  connect(find, &FindAnyoneBox::ShowWanted, commands_, &ClientCommands::ShowInGroup);
+  connect(find, &FindAnyoneBox::NewWanted, commands_, &ClientCommands::AddNamed);
+  find->TakeKeysOf(lists_->ClientTable());
+}
+
+void MainWindow::OfferExports() {
   for (TableView* list : findChildren<TableView*>()) {
-    if (!birthdays_->isAncestorOf(list)) {
+    if (!today_->Birthdays().isAncestorOf(list) && !transits_->Horas().isAncestorOf(list)) {
       list->RememberWidths(place_.Layout);
       OfferExport(place_, *list);
     }
@@ -189,35 +171,32 @@ void MainWindow::Connect() {
   });
 }
 
-// A command acts on the list of the page in sight and on none behind it.
+// A command acts on the list of the page in sight and on none behind it; the page has the keys.
 void MainWindow::FollowPage() {
-  if (pages_->currentWidget() == clientsPage_) {
-    commands_->ActOnLists();
-  } else if (pages_->currentWidget() == search_) {
-    commands_->ActOn(&search_->Results());
-  } else {
-    commands_->ActOnNothing();
+  switch (pages_->Current()) {
+    case MainPage::Clients:
+      commands_->ActOnLists();
+      lists_->ClientTable().setFocus();
+      return;
+    case MainPage::Search:
+      commands_->ActOn(&search_->Results());
+      search_->FocusText();
+      return;
+    case MainPage::Transits:
+      transits_->Page().setFocus();
+      break;
+    case MainPage::Horas:
+      transits_->Horas().FocusDate();
+      break;
+    case MainPage::Today:
+      today_->setFocus();
+      break;
   }
-}
-
-// A page takes the room that it asks for; the clients get back what the user gave them.
-void MainWindow::MakeRoom() {
-  const QList<int> sizes = halves_->sizes();
-  if (pages_->currentIndex() == 0) {
-    halves_->setSizes(givenSizes_.isEmpty() ? sizes : std::exchange(givenSizes_, {}));
-    return;
-  }
-  if (givenSizes_.isEmpty()) {
-    givenSizes_ = sizes;
-  }
-  const int wanted = pages_->currentWidget()->sizeHint().width() + 2 * kGrid;
-  if (wanted > sizes.front()) {
-    halves_->setSizes({wanted, sizes.front() + sizes.back() - wanted});
-  }
+  commands_->ActOnNothing();
 }
 
 void MainWindow::Start() {
-  birthdays_->Reload();
+  ShowBirthdays();
   sky_->Refresh();
   lists_->LoadGroups();
   ShowClientCounts();
@@ -225,13 +204,40 @@ void MainWindow::Start() {
   lists_->ClientTable().setFocus();
 }
 
-void MainWindow::AddPage(QWidget* page, const QString& title) { pages_->addTab(page, title); }
-
 // A practice without clients shows the first steps in the place of its empty lists.
 void MainWindow::ShowClientCounts() {
   status_.ShowTotal(Shown(practice::TotalClients(place_.Session)));
   const bool anyone = practice::HasClients(place_.Session);
   clientsPage_->setCurrentIndex(anyone || lists_->Group() == 0 ? 0 : 1);
+}
+
+void MainWindow::ShowBirthdays() {
+  today_->Birthdays().Reload();
+  clients_->Groups().ShowBirthdays(today_->Birthdays().Table());
+}
+
+void MainWindow::FindAnyone() {
+  if (top_->Find().hasFocus()) {
+    pages_->Turn(MainPage::Search);
+  } else {
+    top_->Find().Begin();
+  }
+}
+
+void MainWindow::FilterClients() {
+  pages_->Turn(MainPage::Clients);
+  lists_->FocusFilter();
+}
+
+void MainWindow::SearchClients() { pages_->Turn(MainPage::Search); }
+void MainWindow::RefreshSky() { sky_->Refresh(); }
+void MainWindow::FoldSky() { sky_->Fold(); }
+void MainWindow::ShowGuide() { OpenGuide(place_); }
+
+void MainWindow::NextPane() {
+  FocusNextPane(*this, {&top_->Find(), &lists_->GroupTable(), &lists_->ClientTable(),
+                        &clients_->Card(), &search_->Results(), &transits_->Page(),
+                        &transits_->Horas(), today_, &sky_->Column().Planets()});
 }
 
 void MainWindow::OpenSettings() {
@@ -255,11 +261,12 @@ void MainWindow::ShowBox() {
   box.exec();
 }
 
-// Remedies are written in a horoscope's window; coming back from there shows them.
+// Clients and remedies are changed in a horoscope's window too; coming back from there shows it.
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-    lists_->ReloadRemedies();
+    lists_->FollowStore();
+    clients_->Card().Reload();
   }
 }
 

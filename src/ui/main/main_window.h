@@ -1,4 +1,5 @@
-// The main window: clients on the left, the sky of now always in sight on the right.
+// The main window: a rail with the pages, the search over all clients above them, and the sky of
+// now always in sight at the right.
 #pragma once
 
 #include <QMainWindow>
@@ -6,18 +7,22 @@
 #include "ui/base/workplace.h"
 #include "ui/main/status_panels.h"
 
-class QSplitter;
 class QStackedWidget;
-class QTabWidget;
+class QStatusBar;
 
 namespace orvex::ui {
 
-class BirthdayList;
 class ClientCommands;
 class ClientLists;
+class ClientsPage;
 class FirstRun;
+class MainMenus;
+class MainPages;
+class Rail;
 class SearchPage;
 class SkyPanel;
+class TodayPage;
+class TopBar;
 class TransitCommands;
 
 class MainWindow final : public QMainWindow {
@@ -26,48 +31,62 @@ class MainWindow final : public QMainWindow {
  public:
   explicit MainWindow(Workplace& place);
 
-  // Another page beside that of the clients.
-  void AddPage(QWidget* page, const QString& title);
-
  protected:
   // Ends the program, whatever other windows are open.
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  QAction* Command(const char* name, const QString& text, void (MainWindow::*run)());
   void MakeActions();
+  void MakeMenus();
+  void MakeBars();
   void LayOut();
+  void AddPages();
   void Connect();
-  void MakeRoom();
+  void ConnectFind();
+  void OfferExports();
   void FollowPage();
   void Start();
-  void MakeMenus();
-  void MakeToolBar();
-  QWidget* BuildClientsPage();
   void ShowClientCounts();
+  void ShowBirthdays();
+  void FindAnyone();
+  void FilterClients();
+  void SearchClients();
+  void RefreshSky();
+  void FoldSky();
+  void NextPane();
   void OpenSettings();
   void OpenCities();
+  void ShowGuide();
+  void Quit() { close(); }
   template <typename Box>
   void ShowBox();
 
   Workplace& place_;
-  QTabWidget* pages_;
-  QStackedWidget* clientsPage_;
-  ClientLists* lists_;
+  Rail* rail_;
+  TopBar* top_;
+  MainPages* pages_;
+  QStackedWidget* clientsPage_;  // the clients, or the first steps
+  ClientsPage* clients_;
+  ClientLists* lists_;  // of the clients' page
   SkyPanel* sky_;
+  TodayPage* today_;
   ClientCommands* commands_;
   TransitCommands* transits_;
-  FirstRun* firstRun_ = nullptr;
+  FirstRun* firstRun_;
   SearchPage* search_;
-  QSplitter* halves_;
-  QList<int> givenSizes_;  // of the halves beside the page of the clients
-  BirthdayList* birthdays_;
+  QStatusBar* bar_;
   StatusPanels status_;
   QAction* settings_ = nullptr;
   QAction* cities_ = nullptr;
   QAction* refresh_ = nullptr;
+  QAction* fold_ = nullptr;
   QAction* filter_ = nullptr;
   QAction* find_ = nullptr;
+  QAction* advanced_ = nullptr;
+  QAction* guide_ = nullptr;
   QAction* quit_ = nullptr;
 };
 

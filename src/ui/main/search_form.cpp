@@ -174,7 +174,7 @@ void SearchForm::BuildFields(QGridLayout& grid) {
   grid.addWidget(gender_, 2, 1);
   grid.addWidget(Caption(tr("Ascen&dant:"), ascendant_), 2, 2);
   grid.addWidget(ascendant_, 2, 3);
-  grid.addWidget(Caption(tr("&Retrograde:"), retrograde_), 3, 0);
+  grid.addWidget(Caption(tr("Retrograde:"), retrograde_), 3, 0);
   grid.addWidget(retrograde_, 3, 1);
   grid.addWidget(planetCaption_, 3, 2);
   grid.addWidget(forPlanet_, 3, 3);

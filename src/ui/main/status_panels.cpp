@@ -1,21 +1,33 @@
 #include "ui/main/status_panels.h"
 
 #include <QAction>
-#include <QLabel>
+#include <QFrame>
 #include <QStatusBar>
 #include <QToolButton>
 
+#include "ui/base/elided_label.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
+#include "ui/transit/disha_color.h"
 
 namespace orvex::ui {
 
 namespace {
 
-QLabel* Panel(const char* name) {
-  QLabel* label = Named(new QLabel, name);
-  label->setTextFormat(Qt::PlainText);
+ElidedLabel* Panel(const char* name) {
+  auto* label = new ElidedLabel(name);
+  label->setFont(Theme::Text(type::kSmall));
   return label;
+}
+
+QFrame* Swatch() {
+  constexpr int kSide = 10;
+  auto* swatch = new QFrame;
+  swatch->setFrameShape(QFrame::Box);
+  swatch->setFixedSize(kSide, kSide);
+  swatch->setAutoFillBackground(true);
+  return swatch;
 }
 
 QToolButton* UndoButton(QAction& undo) {
@@ -33,6 +45,7 @@ StatusPanels::StatusPanels(QStatusBar& bar, QAction& undo)
       total_(Panel("totalClients")),
       ascendant_(Panel("currentAscendant")),
       nodes_(Panel("nodeMode")),
+      swatch_(Swatch()),
       disha_(Panel("dishaShool")),
       date_(Panel("dateNow")) {
   bar.addWidget(count_);
@@ -40,18 +53,23 @@ StatusPanels::StatusPanels(QStatusBar& bar, QAction& undo)
   QToolButton* button = UndoButton(undo);
   bar.addWidget(button);
   button->setVisible(undo.isVisible());
-  for (QLabel* panel : {ascendant_, nodes_, disha_, date_}) {
+  for (QWidget* panel :
+       std::initializer_list<QWidget*>{ascendant_, nodes_, swatch_, disha_, date_}) {
     bar.addPermanentWidget(panel);
   }
 }
 
 void StatusPanels::ShowCount(const QString& text) { count_->setText(text); }
+void StatusPanels::ShowDate(bool shown) { date_->setVisible(shown); }
 void StatusPanels::ShowTotal(const QString& text) { total_->setText(text); }
 
 void StatusPanels::ShowSky(const panchang::SkyCaptions& captions) {
   ascendant_->setText(Shown(captions.Ascendant));
   nodes_->setText(Shown(captions.NodeMode));
   disha_->setText(Shown(captions.DishaShool));
+  QPalette colored = swatch_->palette();
+  colored.setColor(QPalette::Window, DishaColor(captions.DishaShoolColor));
+  swatch_->setPalette(colored);
   date_->setText(Shown(captions.WeekdayName + " " + captions.Date));
 }
 

@@ -5,10 +5,12 @@
 #include "ui/base/workplace.h"
 
 class QAction;
-class QLabel;
+class QFrame;
 class QStatusBar;
 
 namespace orvex::ui {
+
+class ElidedLabel;
 
 class StatusPanels final {
  public:
@@ -19,14 +21,17 @@ class StatusPanels final {
   // The clients of the whole practice.
   void ShowTotal(const QString& text);
   void ShowSky(const panchang::SkyCaptions& captions);
+  // The date stands here while the sky, which tells it too, is folded.
+  void ShowDate(bool shown);
 
  private:
-  QLabel* count_;
-  QLabel* total_;
-  QLabel* ascendant_;
-  QLabel* nodes_;
-  QLabel* disha_;
-  QLabel* date_;
+  ElidedLabel* count_;
+  ElidedLabel* total_;
+  ElidedLabel* ascendant_;
+  ElidedLabel* nodes_;
+  QFrame* swatch_;  // in the colour of the disha shool
+  ElidedLabel* disha_;
+  ElidedLabel* date_;
 };
 
 }  // namespace orvex::ui

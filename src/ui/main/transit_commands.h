@@ -1,4 +1,4 @@
-// What the main window offers of the transits: the page of the month, the search and the horas.
+// What the main window offers of the transits: the pages of the month and of the horas, the search.
 #pragma once
 
 #include <QObject>
@@ -7,32 +7,32 @@
 
 class QAction;
 class QMenu;
-class QTabWidget;
 
 namespace orvex::ui {
 
+class HoraView;
+class MainPages;
 class TransitGridPage;
 
 class TransitCommands final : public QObject {
   Q_OBJECT
 
  public:
-  TransitCommands(Workplace& place, QTabWidget& pages, QWidget& window);
+  TransitCommands(Workplace& place, MainPages& pages, QWidget& window);
 
   TransitGridPage& Page() { return *page_; }
+  HoraView& Horas() { return *horas_; }
   QMenu* Menu() { return menu_; }
 
  private:
-  void Add(const char* name, const QString& text, const QKeySequence& keys,
-           void (TransitCommands::*run)());
+  void Add(const char* name, const QString& text, void (TransitCommands::*run)());
   void ShowGrid();
   void FindTransit();
-  void OpenHora();
+  void ShowHoras();
 
-  Workplace& place_;
-  QTabWidget& pages_;
-  QWidget& window_;
+  MainPages& pages_;
   TransitGridPage* page_;
+  HoraView* horas_;
   QMenu* menu_;
 };
 

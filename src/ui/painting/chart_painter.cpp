@@ -17,6 +17,7 @@ constexpr double kSmallestText = 0.018;
 constexpr double kSignText = 0.030;
 constexpr double kMiddleText = 0.046;
 constexpr double kNoteText = 0.8;  // of the planets' size
+constexpr double kReadableSign = 0.8;
 constexpr double kBorderLine = 0.0055;
 constexpr double kInnerLine = 0.0030;
 
@@ -24,6 +25,10 @@ QFont Sized(const QFont& font, double pixels) {
   QFont sized = font;
   sized.setPixelSize(std::max(1, static_cast<int>(pixels)));
   return sized;
+}
+
+double SignText(double side, double readable) {
+  return std::max(side * kSignText, readable * kReadableSign);
 }
 
 QPointF Placed(const QRectF& square, const QPointF& unit) {
@@ -57,8 +62,8 @@ QStringList WordsOf(const report::PictureField& field) {
 }
 
 void PaintField(QPainter& painter, const DrawnField& drawn, const report::PictureField& field,
-                const QFont& font, const ChartColors& colors, double side) {
-  painter.setFont(Sized(font, side * kSignText));
+                const QFont& font, const ChartColors& colors, double signText) {
+  painter.setFont(Sized(font, signText));
   painter.setPen(colors.Muted);
   painter.drawText(drawn.SignBox, Qt::AlignCenter | Qt::TextDontClip,
                    QString::fromStdString(field.Sign));
@@ -108,9 +113,9 @@ QRectF ChartSquare(const QRectF& area) {
 }
 
 std::array<DrawnField, 12> LayOutChart(const report::ChartPicture& picture, const QFont& font,
-                                       const QRectF& square) {
+                                       const QRectF& square, double readable) {
   const ChartGeometry& geometry = GeometryOf(picture.Style);
-  const QFontMetricsF signMetrics(Sized(font, square.width() * kSignText));
+  const QFontMetricsF signMetrics(Sized(font, SignText(square.width(), readable)));
   QFont codeFont = font;
   codeFont.setWeight(QFont::DemiBold);
   std::array<DrawnField, 12> drawn;
@@ -121,17 +126,18 @@ std::array<DrawnField, 12> LayOutChart(const report::ChartPicture& picture, cons
     place.SignBox = NumberBox(Placed(square, geometry.Fields.at(i).Tip),
                               QString::fromStdString(field.Sign), signMetrics);
     place.Codes = LayOutWords(WordsOf(field), place.Outline, {place.SignBox}, codeFont,
-                              square.width() * kSmallestText, square.width() * kLargestText);
+                              square.width() * kSmallestText,
+                              std::max(square.width() * kLargestText, readable));
   }
   return drawn;
 }
 
 void PaintChart(QPainter& painter, const QRectF& area, const report::ChartPicture& picture,
-                const ChartColors& colors) {
+                const ChartColors& colors, double readable) {
   const QRectF square = ChartSquare(area);
   const ChartGeometry& geometry = GeometryOf(picture.Style);
   const QFont font = painter.font();
-  const std::array<DrawnField, 12> drawn = LayOutChart(picture, font, square);
+  const std::array<DrawnField, 12> drawn = LayOutChart(picture, font, square, readable);
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.fillRect(square, colors.Paper);
@@ -144,7 +150,8 @@ void PaintChart(QPainter& painter, const QRectF& area, const report::ChartPictur
   }
   PaintLines(painter, square, geometry, colors);
   for (std::size_t i = 0; i < drawn.size(); ++i) {
-    PaintField(painter, drawn.at(i), picture.Fields.at(i), font, colors, square.width());
+    PaintField(painter, drawn.at(i), picture.Fields.at(i), font, colors,
+               SignText(square.width(), readable));
   }
   if (!geometry.Middle.isEmpty()) {
     painter.setFont(Sized(font, square.width() * kMiddleText));

@@ -30,13 +30,14 @@ struct DrawnField {
   FieldText Codes;
 };
 
-// Where everything stands in a square of that side (pixels).
+// Where everything stands in a square of that side (pixels). Texts are parts of the side; where
+// that would be less than `readable` pixels for a planet with room, they are as large as this.
 std::array<DrawnField, 12> LayOutChart(const report::ChartPicture& picture, const QFont& font,
-                                       const QRectF& square);
+                                       const QRectF& square, double readable = 0);
 
-// Draws into the largest square in the middle of `area`.
+// Draws into the largest square in the middle of `area`, with texts as above.
 void PaintChart(QPainter& painter, const QRectF& area, const report::ChartPicture& picture,
-                const ChartColors& colors);
+                const ChartColors& colors, double readable = 0);
 
 // The largest square in the middle of an area, with room for the border.
 QRectF ChartSquare(const QRectF& area);

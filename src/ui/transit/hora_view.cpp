@@ -2,10 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QShortcut>
 
 #include "panchang/hora.h"
 #include "ui/base/export_table.h"
+#include "ui/base/keys.h"
 #include "ui/base/labels.h"
 #include "ui/base/moment_edit.h"
 #include "ui/base/named.h"
@@ -42,7 +42,7 @@ TableView* HoraList(Workplace& place, const char* name, const QString& title) {
 }  // namespace
 
 HoraView::HoraView(Workplace& place, QWidget* parent)
-    : QDialog(parent),
+    : QWidget(parent),
       place_(place),
       cityId_(place.Session.State.UserCityId),
       shown_(place.Session.Time.Today()),
@@ -50,20 +50,16 @@ HoraView::HoraView(Workplace& place, QWidget* parent)
       previous_(MakeButton("previousDay", tr("&Previous day"))),
       date_(new DateEdit("horaDate")),
       next_(MakeButton("nextDay", tr("&Next day"))),
-      city_(MakeButton("changeCity", tr("Change &city…"))),
+      city_(MakeButton("changeCity", tr("Change cit&y…"))),
       sunrise_(MakeCaptionLabel("sunrise")),
       sunset_(MakeCaptionLabel("sunset")),
       day_(HoraList(place, "dayHoras", tr("Horas of the day"))),
       night_(HoraList(place, "nightHoras", tr("Horas of the night"))) {
   setObjectName("horaView");
-  setAttribute(Qt::WA_DeleteOnClose);
   LayOut();
   date_->SetDate(shown_);
   Connect();
   CalcHora();
-  if (!place_.Layout.RestoreWindow(*this)) {
-    resize(72 * kGrid, 58 * kGrid);
-  }
 }
 
 void HoraView::LayOut() {
@@ -111,11 +107,8 @@ void HoraView::Connect() {
   connect(previous_, &QPushButton::clicked, this, [this] { Move(-1); });
   connect(next_, &QPushButton::clicked, this, [this] { Move(1); });
   connect(city_, &QPushButton::clicked, this, &HoraView::ChangeCity);
-  connect(new QShortcut(tr("Alt+Left"), this), &QShortcut::activated, previous_,
-          &QPushButton::click);
-  connect(new QShortcut(tr("Alt+Right"), this), &QShortcut::activated, next_, &QPushButton::click);
-  previous_->setToolTip(tr("Alt+Left"));
-  next_->setToolTip(tr("Alt+Right"));
+  BindKeys(*previous_, KeysOf(kMainWindow, "previousDay"));
+  BindKeys(*next_, KeysOf(kMainWindow, "nextDay"));
 }
 
 // The horas of a date stay while another one is typed. A city that is gone leaves its caption and
@@ -147,9 +140,9 @@ void HoraView::ChangeCity() {
   }
 }
 
-void HoraView::hideEvent(QHideEvent* event) {
-  place_.Layout.KeepWindow(*this);
-  QDialog::hideEvent(event);
+void HoraView::FocusDate() {
+  date_->setFocus(Qt::ShortcutFocusReason);
+  date_->selectAll();
 }
 
 }  // namespace orvex::ui

@@ -1,7 +1,7 @@
-// The 24 planetary hours of any date over any city.
+// The page of the 24 planetary hours of any date over any city.
 #pragma once
 
-#include <QDialog>
+#include <QWidget>
 
 #include "ui/base/workplace.h"
 
@@ -15,14 +15,14 @@ class DateEdit;
 class TableView;
 
 // Opens for the user city and today.
-class HoraView final : public QDialog {
+class HoraView final : public QWidget {
   Q_OBJECT
 
  public:
   explicit HoraView(Workplace& place, QWidget* parent = nullptr);
 
- protected:
-  void hideEvent(QHideEvent* event) override;
+  // Gives the focus to the date.
+  void FocusDate();
 
  private:
   void LayOut();

@@ -6,8 +6,6 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include "core/exact_numbers.h"
-#include "core/text.h"
 #include "report/chart_picture.h"
 #include "report/sky_chart.h"
 #include "ui/base/chart_view.h"
@@ -15,6 +13,7 @@
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
+#include "ui/transit/disha_color.h"
 
 namespace orvex::ui {
 
@@ -29,29 +28,22 @@ QLabel* PlainLabel(const char* name) {
   return label;
 }
 
-// The colour of a weekday, "255, 255, 255", as the ground of a strip, with a text that is readable
-// on it. White and no colour leave the ground as it is.
-void PaintStrip(QWidget& strip, const std::string& rgb) {
-  QColor ground;
-  const std::vector<std::string> parts = core::Split(rgb, ',');
-  if (parts.size() == 3) {
-    const auto part = [&parts](std::size_t i) {
-      return static_cast<int>(core::ParseWhole(core::Trim(parts[i])).value_or(255));
-    };
-    ground = Theme::Background(Typed(QColor(part(0), part(1), part(2)).name().mid(1).toUpper()));
-  }
+// A band in the colour of the weekday; without one it is not seen.
+void PaintBand(QWidget& band, const std::string& rgb) {
+  const QColor color = DishaColor(rgb);
   QPalette palette;
-  if (ground.isValid()) {
-    palette.setColor(QPalette::Window, ground);
+  if (color.isValid()) {
+    palette.setColor(QPalette::Window, color);
   }
-  strip.setAutoFillBackground(ground.isValid());
-  strip.setPalette(palette);
+  band.setAutoFillBackground(color.isValid());
+  band.setPalette(palette);
 }
 
 }  // namespace
 
 SkyBoard::SkyBoard(Workplace& place, Side side)
     : place_(place),
+      band_(new QWidget),
       title_(PlainLabel("skyTitle")),
       day_(PlainLabel("skyDay")),
       city_(PlainLabel("skyCity")),
@@ -74,7 +66,7 @@ TableView* SkyBoard::MakeTable(const char* name, const QString& title) {
 }
 
 void SkyBoard::Build(Side side) {
-  header_ = BuildHeader();
+  QWidget* header = BuildHeader();
   planets_->FreezeFirstColumn();
   auto* halves = new QSplitter(Qt::Vertical);
   halves->setObjectName(side == Side::Horas ? "detailsSkyHalves" : "skyHalves");
@@ -85,13 +77,15 @@ void SkyBoard::Build(Side side) {
   place_.Layout.Remember(*halves);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(header_);
+  layout->setSpacing(0);
+  band_->setFixedHeight(line::kWarning);
+  layout->addWidget(band_);
+  layout->addWidget(header);
   layout->addWidget(halves, 1);
 }
 
 QWidget* SkyBoard::BuildHeader() {
   auto* strip = new QWidget;
-  strip->setObjectName("skyStrip");
   title_->setFont(Theme::HeadingFont());
   auto* grid = new QGridLayout(strip);
   grid->setContentsMargins(kGrid, kGrid / 2, kGrid, kGrid / 2);
@@ -160,7 +154,7 @@ void SkyBoard::ShowHoras(TableView& list, const core::Table& horas) {
 }
 
 void SkyBoard::ShowHeader(const panchang::SkyCaptions& captions) {
-  PaintStrip(*header_, captions.DishaShoolColor);
+  PaintBand(*band_, captions.DishaShoolColor);
   title_->setText(Shown(captions.SkyView));
   day_->setText(Shown(captions.WeekdayName + ", " + captions.Date + "   " + captions.VikramSamvat));
   city_->setText(Shown(captions.City + " (" + captions.Place + ")"));

@@ -35,7 +35,7 @@ class SkyBoard final : public QWidget {
   void ShowHeader(const panchang::SkyCaptions& captions);
 
   Workplace& place_;
-  QWidget* header_ = nullptr;
+  QWidget* band_;  // in the colour of the disha shool
   QLabel* title_;
   QLabel* day_;
   QLabel* city_;
