@@ -1,9 +1,9 @@
 #include "cli/city_place.h"
 
 #include "core/exact_numbers.h"
-#include "core/own_files.h"
 #include "exact/crossings_table.h"
 #include "practice/cities.h"
+#include "transit/calendar_export.h"
 
 namespace orvex::cli {
 
@@ -41,9 +41,7 @@ core::DateTime NowAt(const core::Session& session, const CityPlace& city) {
 void WriteCalendar(const core::Session& session, const std::string& file,
                    const std::vector<transit::CalendarEvent>& events) {
   if (!file.empty()) {
-    core::CheckFileToWrite(session, file);
-    core::WriteFileSafely(file,
-                          transit::CalendarText(events, session.Time.Now() - UserClock(session)));
+    transit::WriteCalendar(session, file, events);
   }
 }
 

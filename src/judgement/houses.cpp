@@ -38,4 +38,8 @@ std::string HousesWithin(const std::vector<int>& asked, const std::vector<int>& 
   return TextOfHouses(within);
 }
 
+bool HoldsHouse(const std::vector<int>& houses, int house) {
+  return std::find(houses.begin(), houses.end(), house) != houses.end();
+}
+
 }  // namespace orvex::judgement

@@ -15,4 +15,7 @@ std::string TextOfHouses(const std::vector<int>& houses);
 // Those of `asked` that are among `there`, each once, ascending, as text.
 std::string HousesWithin(const std::vector<int>& asked, const std::vector<int>& there);
 
+// Whether a house is among them.
+bool HoldsHouse(const std::vector<int>& houses, int house);
+
 }  // namespace orvex::judgement

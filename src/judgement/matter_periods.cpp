@@ -109,4 +109,8 @@ core::Table BuildMatterPeriods(const std::vector<chart::TreeRow>& antaras,
   return table;
 }
 
+core::DateTime MomentOfPeriod(const core::Cell& cell) {
+  return core::ParseDateTime(cell.SortKey).value_or(core::DateTime{});
+}
+
 }  // namespace orvex::judgement

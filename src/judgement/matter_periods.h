@@ -29,4 +29,7 @@ core::Table BuildMatterPeriods(const std::vector<chart::TreeRow>& antaras,
                                const core::Table& matterPlanets, core::DateTime birth,
                                const PeriodWindow& window);
 
+// The moment of a cell of From or Until.
+core::DateTime MomentOfPeriod(const core::Cell& cell);
+
 }  // namespace orvex::judgement

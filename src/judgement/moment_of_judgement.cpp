@@ -1,5 +1,6 @@
 #include "judgement/moment_of_judgement.h"
 
+#include "core/exact_numbers.h"
 #include "exact/crossings_table.h"
 
 namespace orvex::judgement {
@@ -19,6 +20,12 @@ MomentOfJudgement AtUserCity(const core::Session& session, core::DateTime local)
 
 MomentOfJudgement NowAtUserCity(const core::Session& session) {
   return AtUserCity(session, session.Time.Now());
+}
+
+MomentOfJudgement AtBirth(const chart::HoroscopeModel& model) {
+  return {model.Birth,
+          {core::ToDouble(model.Latitude), core::ToDouble(model.Longitude)},
+          core::ToDouble(model.Offset)};
 }
 
 }  // namespace orvex::judgement

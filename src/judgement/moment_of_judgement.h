@@ -1,6 +1,7 @@
 // When and where a judgement is made.
 #pragma once
 
+#include "chart/horoscope_model.h"
 #include "core/session.h"
 #include "exact/exact_sky.h"
 
@@ -18,5 +19,8 @@ core::DateTime UtOf(const MomentOfJudgement& moment);
 // A moment of the user city's clock, and now there.
 MomentOfJudgement AtUserCity(const core::Session& session, core::DateTime local);
 MomentOfJudgement NowAtUserCity(const core::Session& session);
+
+// The birth, or the moment in which a query was put, at its own place.
+MomentOfJudgement AtBirth(const chart::HoroscopeModel& model);
 
 }  // namespace orvex::judgement

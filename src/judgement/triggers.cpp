@@ -10,29 +10,16 @@ namespace orvex::judgement {
 
 namespace {
 
-struct Trigger {
-  exact::Point Body = exact::Point::Sun;
-  exact::Crossing Span;
-};
-
-std::vector<Trigger> TriggersOf(const exact::ExactSky& sky, const exact::ExactZodiac& zodiac,
-                                const TriggerSearch& search, exact::Point body) {
-  std::vector<Trigger> triggers;
-  for (const exact::Crossing& span : exact::Crossings(
-           sky, zodiac, {body, search.From, search.To, exact::Depth::Sub, search.Where})) {
-    if (search.Lords.contains(span.Held.Sign) && search.Lords.contains(span.Held.Star) &&
-        search.Lords.contains(span.Held.Sub)) {
-      triggers.push_back({body, span});
-    }
-  }
-  return triggers;
+// So long a piece of a body's way takes a few milliseconds.
+std::chrono::seconds PieceOf(exact::Point body) {
+  return body == exact::Point::Ascendant ? std::chrono::days(1) : std::chrono::days(30);
 }
 
-void AddTrigger(const Trigger& trigger, const TriggerSearch& search, core::Table& table) {
+void AddTrigger(exact::Point body, const exact::Crossing& span, const TriggerSearch& search,
+                core::Table& table) {
   table.AddRow();
   const std::size_t row = table.Rows.size() - 1;
-  const exact::Crossing& span = trigger.Span;
-  table.At(row, TriggerColumn::Body).Text = exact::PointName(trigger.Body);
+  table.At(row, TriggerColumn::Body).Text = exact::PointName(body);
   table.At(row, TriggerColumn::From).Text = core::StoredDateTimeText(span.From + search.Offset);
   table.At(row, TriggerColumn::Until).Text = core::StoredDateTimeText(span.Until + search.Offset);
   table.At(row, TriggerColumn::SignLord).Text = span.Held.Sign;
@@ -59,16 +46,67 @@ astro::Cusps NatalCusps(const chart::BirthTables& birth) {
   return cusps;
 }
 
-core::Table BuildTriggers(core::Session& session, const TriggerSearch& search) {
-  const exact::ExactZodiac zodiac(session.Reference);
-  const exact::ExactSky sky(session.Ephemeris, exact::ReadingOf(session),
-                            session.State.RahuKetuCalculation);
-  std::vector<Trigger> triggers;
-  for (const exact::Point body : search.Bodies) {
-    for (Trigger& trigger : TriggersOf(sky, zodiac, search, body)) {
-      triggers.push_back(std::move(trigger));
-    }
+TriggerRun::TriggerRun(core::Session& session, TriggerSearch search)
+    : session_(session),
+      search_(std::move(search)),
+      zodiac_(session.Reference),
+      reached_(search_.From) {
+  if (search_.To <= search_.From) {
+    body_ = search_.Bodies.size();
   }
+}
+
+TriggerRun::~TriggerRun() = default;
+
+// A span goes on over the seam of two pieces as long as its lords stay.
+void TriggerRun::Take(exact::Crossing span) {
+  if (open_ && open_->Held == span.Held) {
+    open_->Until = span.Until;
+    return;
+  }
+  if (open_ && search_.Lords.contains(open_->Held.Sign) &&
+      search_.Lords.contains(open_->Held.Star) && search_.Lords.contains(open_->Held.Sub)) {
+    found_.push_back({body_, std::move(*open_)});
+  }
+  open_ = std::move(span);
+}
+
+void TriggerRun::NextBody() {
+  Take({});  // closes the last span
+  open_.reset();
+  ++body_;
+  reached_ = search_.From;
+}
+
+void TriggerRun::Step() {
+  if (Done()) {
+    return;
+  }
+  const exact::Point body = search_.Bodies[body_];
+  const core::DateTime end = std::min(search_.To, reached_ + PieceOf(body));
+  const exact::ExactSky sky(session_.Ephemeris, exact::ReadingOf(session_),
+                            session_.State.RahuKetuCalculation);
+  for (exact::Crossing& span :
+       exact::Crossings(sky, zodiac_, {body, reached_, end, exact::Depth::Sub, search_.Where})) {
+    Take(std::move(span));
+  }
+  reached_ = end;
+  if (reached_ >= search_.To) {
+    NextBody();
+  }
+}
+
+double TriggerRun::Part() const {
+  if (Done()) {
+    return 1;
+  }
+  const auto whole = static_cast<double>((search_.To - search_.From).count());
+  const double ofBody = static_cast<double>((reached_ - search_.From).count()) / whole;
+  return (static_cast<double>(body_) + ofBody) / static_cast<double>(search_.Bodies.size());
+}
+
+core::Table TriggerRun::Table() const {
+  std::vector<Trigger> triggers = found_;
   std::stable_sort(triggers.begin(), triggers.end(), [](const Trigger& left, const Trigger& right) {
     return left.Span.From < right.Span.From;
   });
@@ -81,9 +119,17 @@ core::Table BuildTriggers(core::Session& session, const TriggerSearch& search) {
                      {"House", 50}},
                     {}};
   for (const Trigger& trigger : triggers) {
-    AddTrigger(trigger, search, table);
+    AddTrigger(search_.Bodies[trigger.Body], trigger.Span, search_, table);
   }
   return table;
+}
+
+core::Table BuildTriggers(core::Session& session, const TriggerSearch& search) {
+  TriggerRun run(session, search);
+  while (!run.Done()) {
+    run.Step();
+  }
+  return run.Table();
 }
 
 }  // namespace orvex::judgement

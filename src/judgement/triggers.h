@@ -1,6 +1,7 @@
 // When moving bodies pass through spans whose three lords all belong to a set.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <set>
 #include <string>
@@ -9,7 +10,8 @@
 #include "chart/rotation.h"
 #include "core/session.h"
 #include "core/table.h"
-#include "exact/exact_sky.h"
+#include "exact/crossings.h"
+#include "exact/exact_zodiac.h"
 
 namespace orvex::judgement {
 
@@ -37,5 +39,43 @@ enum class TriggerColumn { Body, From, Until, SignLord, StarLord, SubLord, House
 // the set, ordered by From, within one moment by body in the order given. Spans that touch stay
 // apart. House: the natal house in which the body stands at From; empty without natal cusps.
 core::Table BuildTriggers(core::Session& session, const TriggerSearch& search);
+
+// The same, piece by piece, so that a window stays alive over a long search and may give it up.
+class TriggerRun {
+ public:
+  // The session outlives the run.
+  TriggerRun(core::Session& session, TriggerSearch search);
+  ~TriggerRun();
+  TriggerRun(const TriggerRun&) = delete;
+  TriggerRun& operator=(const TriggerRun&) = delete;
+
+  bool Done() const { return body_ >= search_.Bodies.size(); }
+
+  // Goes on by a piece of one body's way, a few milliseconds of work. Nothing where it is done.
+  void Step();
+
+  // How much is done, 0 to 1.
+  double Part() const;
+
+  // The table of what is found; complete when it is done.
+  core::Table Table() const;
+
+ private:
+  struct Trigger {
+    std::size_t Body = 0;  // its place in the search
+    exact::Crossing Span;
+  };
+
+  void NextBody();
+  void Take(exact::Crossing span);
+
+  core::Session& session_;
+  TriggerSearch search_;
+  exact::ExactZodiac zodiac_;
+  std::size_t body_ = 0;
+  core::DateTime reached_{};             // of the present body
+  std::optional<exact::Crossing> open_;  // the span that the next piece may go on with
+  std::vector<Trigger> found_;
+};
 
 }  // namespace orvex::judgement

@@ -76,6 +76,44 @@ TEST_F(Triggers, AreTheSpansWhoseThreeLordsAllBelongToTheSet) {
   EXPECT_TRUE(BuildTriggers(*session_, Search({})).Rows.empty());
 }
 
+// Pieces of a way are put together again: what a piece cuts in two is one span.
+TEST_F(Triggers, AreTheSameWhetherTheirWayIsTakenAtOnceOrPieceByPiece) {
+  const struct {
+    Point Body;
+    int Days;
+  } ways[] = {{Point::Mercury, 400}, {Point::Saturn, 900}, {Point::Ascendant, 3}, {Point::Sun, 0}};
+  const std::set<std::string> all = {"Sun",   "Moon",   "Mars", "Mercury", "Jupiter",
+                                     "Venus", "Saturn", "Rahu", "Ketu"};
+  for (const auto& way : ways) {
+    TriggerSearch search = Search(all);
+    search.Bodies = {way.Body};
+    search.To = search.From + std::chrono::days(way.Days);
+    search.Where = {19.07, 72.88};
+    const exact::ExactSky sky(session_->Ephemeris, exact::Reading::Kp, 'M');
+    const std::vector<exact::Crossing> whole = exact::Crossings(
+        sky, zodiac_, {way.Body, search.From, search.To, exact::Depth::Sub, search.Where});
+    TriggerRun run(*session_, search);
+    int steps = 0;
+    double part = 0;
+    for (; !run.Done(); ++steps) {
+      EXPECT_LE(part, run.Part());
+      part = run.Part();
+      run.Step();
+    }
+    EXPECT_EQ(run.Part(), 1);
+    EXPECT_TRUE(steps > 2 || way.Days == 0) << steps;
+    const core::Table found = run.Table();
+    ASSERT_EQ(found.Rows.size(), whole.size()) << exact::PointName(way.Body);
+    for (std::size_t row = 0; row < whole.size(); ++row) {
+      EXPECT_EQ(TextOf(found, row, TriggerColumn::From),
+                core::StoredDateTimeText(whole[row].From + search.Offset));
+      EXPECT_EQ(TextOf(found, row, TriggerColumn::Until),
+                core::StoredDateTimeText(whole[row].Until + search.Offset));
+      EXPECT_EQ(TextOf(found, row, TriggerColumn::SubLord), whole[row].Held.Sub);
+    }
+  }
+}
+
 // With all nine lords every span counts, and those that touch stay apart.
 TEST_F(Triggers, AreOrderedByFromThenByTheBodiesAsGivenAndNotJoined) {
   const std::set<std::string> all = {"Sun",   "Moon",   "Mars", "Mercury", "Jupiter",
