@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QPainter>
 
-#include "core/exact_numbers.h"
 #include "ui/base/cell_text.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
@@ -13,11 +12,7 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr int kPad = space::kS;
-constexpr int kGap = space::kXs;
-constexpr int kSignWidth = 20;  // two letters
-
-QFont ChipFont() { return Theme::Text(type::kHead, QFont::Bold); }
+constexpr int kMoreWidth = 20;  // "+2"
 
 QFont HouseFont(bool first) {
   return Theme::Text(type::kText, first ? QFont::Bold : QFont::Normal);
@@ -27,29 +22,21 @@ QRect Centred(const QRect& cell, int left, const QSize& size) {
   return {left, cell.top() + (cell.height() - size.height()) / 2, size.width(), size.height()};
 }
 
-QColor InkOf(const QStyleOptionViewItem& option) { return option.palette.color(QPalette::Text); }
+bool HasChips(CellKind kind) {
+  return kind == CellKind::Chip || kind == CellKind::Lord || kind == CellKind::Chips ||
+         kind == CellKind::Code || kind == CellKind::Agents;
+}
+
+// "RA KE" of "RA for SU MO, KE for VE".
+QString NodesOf(const QString& agents) {
+  QStringList nodes;
+  for (const QString& node : agents.split(',')) {
+    nodes << node.trimmed().section(' ', 0, 0);
+  }
+  return nodes.join(' ').trimmed();
+}
 
 }  // namespace
-
-QSize ChipSize() {
-  const QFontMetrics metrics(ChipFont());
-  return {metrics.horizontalAdvance("MO") + 2 * space::kXs - 1, metrics.height() + 2};
-}
-
-void DrawChip(QPainter& painter, const QRect& box, const QString& code, bool chosen) {
-  const Tokens& t = Theme::Now();
-  const ChipColors colors = ChipOf(t, code);
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(chosen ? QPen(t.Accent, line::kFocus) : QPen(Qt::NoPen));
-  painter.setBrush(colors.Ground);
-  const QRectF frame = chosen ? QRectF(box).adjusted(0, 0, 0, 0) : QRectF(box);
-  painter.drawRoundedRect(frame, radius::kChip, radius::kChip);
-  painter.setFont(ChipFont());
-  painter.setPen(colors.Letters);
-  painter.drawText(box, Qt::AlignCenter, code);
-  painter.restore();
-}
 
 CellKind CellDelegate::KindOf(int column) const {
   const auto place = static_cast<std::size_t>(column);
@@ -67,17 +54,17 @@ std::vector<CellDelegate::Placed> CellDelegate::LayOut(const QStyleOptionViewIte
   const CellKind kind = KindOf(index.column());
   const QSize chip = ChipSize();
   const QRect& cell = option.rect;
-  int left = cell.left() + kPad;
+  int left = cell.left() + kCellPad;
   const auto add = [&](const QString& text, const QFont& font, bool bold, bool quiet) {
     const int width = QFontMetrics(font).horizontalAdvance(text);
     placed.push_back({QRect(left, cell.top(), width, cell.height()), text, "", bold, quiet});
     left += width;
   };
   const bool underlined = IsUnderlined(index.column());
-  for (CellPiece& piece : PiecesOf(option.text)) {
+  for (CellPiece& piece : PiecesOf(kind == CellKind::Agents ? NodesOf(option.text) : option.text)) {
     if (piece.Code.isEmpty()) {
       add(piece.Word, option.font, false, piece.Word == "None");
-      left += kGap;
+      left += kCellGap;
       continue;
     }
     if (underlined && piece.Houses.isEmpty() && houses_) {
@@ -85,25 +72,28 @@ std::vector<CellDelegate::Placed> CellDelegate::LayOut(const QStyleOptionViewIte
     }
     placed.push_back(
         {Centred(cell, left, chip), piece.Code, piece.Code, false, false, false, underlined});
-    left += chip.width() + kGap;
+    left += chip.width() + kCellGap;
     if (kind == CellKind::Chip) {
-      left += kGap;
+      left += kCellGap;
       add(piece.Word, option.font, false, false);
     } else if (kind == CellKind::Lord && !piece.Houses.isEmpty()) {
-      left += kGap / 2;
+      left += kCellGap / 2;
       add(piece.Houses.section(' ', 0, 0), HouseFont(true), true, false);
       const QString others = piece.Houses.section(' ', 1);
       if (!others.isEmpty()) {
         add(' ' + others, HouseFont(false), false, true);
       }
-      left += kPad;
+      left += kCellPad;
     }
   }
-  if (kind == CellKind::Chip && marks_) {
+  if (kind == CellKind::Chips) {
+    FitChips(placed, option);
+  }
+  if ((kind == CellKind::Chip || kind == CellKind::Code) && marks_) {
     for (const QString& mark : marks_(index)) {
-      left += kGap;
+      left += kCellGap;
       const QFontMetrics metrics(ChipFont());
-      const QSize size(metrics.horizontalAdvance(mark) + kPad, metrics.height() + 1);
+      const QSize size(metrics.horizontalAdvance(mark) + kCellPad, metrics.height() + 1);
       placed.push_back({Centred(cell, left, size), mark, "", false, false, true});
       left += size.width();
     }
@@ -111,10 +101,25 @@ std::vector<CellDelegate::Placed> CellDelegate::LayOut(const QStyleOptionViewIte
   return placed;
 }
 
+// Of chips that find no room the last ones give way to their number.
+void CellDelegate::FitChips(std::vector<Placed>& placed, const QStyleOptionViewItem& option) {
+  const int room = option.rect.width();
+  int hidden = 0;
+  const auto right = [&] { return placed.back().Box.right() + (hidden > 0 ? kMoreWidth : 0); };
+  while (room > 0 && placed.size() > 1 && right() > option.rect.right()) {
+    placed.pop_back();
+    ++hidden;
+  }
+  if (hidden > 0) {
+    const QRect box(placed.back().Box.right() + kCellGap, option.rect.top(), kMoreWidth,
+                    option.rect.height());
+    placed.push_back({box, '+' + WholeText(hidden), "", false, true});
+  }
+}
+
 QString CellDelegate::CodeAt(const QStyleOptionViewItem& option, const QModelIndex& index,
                              const QPoint& point) const {
-  const CellKind kind = KindOf(index.column());
-  if (kind != CellKind::Chip && kind != CellKind::Lord && kind != CellKind::Chips) {
+  if (!HasChips(KindOf(index.column()))) {
     return {};
   }
   QStyleOptionViewItem own = option;
@@ -132,6 +137,9 @@ void CellDelegate::PaintPlaced(QPainter& painter, const QStyleOptionViewItem& op
   const Tokens& t = Theme::Now();
   if (!part.Code.isEmpty()) {
     DrawChip(painter, part.Box, part.Code, part.Code == chosen_);
+    if (fruitful_.contains(part.Code) && part.Code != chosen_) {
+      DrawFruitfulRing(painter, part.Box);
+    }
     if (part.Underlined) {
       painter.fillRect(QRect(part.Box.left(), part.Box.bottom() - 1, part.Box.width(), 2),
                        ChipOf(t, part.Code).Letters);
@@ -152,42 +160,67 @@ void CellDelegate::PaintPlaced(QPainter& painter, const QStyleOptionViewItem& op
   painter.drawText(part.Box, Qt::AlignVCenter | Qt::AlignLeft, part.Text);
 }
 
-void CellDelegate::PaintHeat(QPainter& painter, const QStyleOptionViewItem& option,
-                             const QString& text) const {
+void CellDelegate::PaintContents(QPainter& painter, QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const {
   const Tokens& t = Theme::Now();
-  const std::optional<std::int64_t> count = core::ParseWhole(Typed(text));
-  const std::size_t steps = t.Heat.size();
-  std::size_t step = text == "Yes" ? 2 : 0;
-  if (count && *count > 0) {
-    step = std::min<std::size_t>(static_cast<std::size_t>(*count), steps);
+  const CellKind kind = KindOf(index.column());
+  const bool marked = HasChips(kind) || kind == CellKind::Houses || kind == CellKind::Tick ||
+                      kind == CellKind::Bold;
+  if (marked && option.text.isEmpty()) {
+    option.text = "–";
+    option.palette.setColor(QPalette::Text, t.Ink2);
+    if (kind == CellKind::Tick) {
+      option.displayAlignment = Qt::AlignCenter;
+    }
+    PaintCellText(painter, option);
+    return;
   }
-  painter.setPen(count && *count == 0 ? t.Ink3 : InkOf(option));
-  if (step > 0) {
-    painter.fillRect(option.rect.adjusted(0, 0, -1, -1), t.Heat.at(step - 1));
-    painter.setPen(t.HeatText.at(step - 1));
+  switch (kind) {
+    case CellKind::Text:
+    case CellKind::Ingress:
+      PaintCellText(painter, option);
+      break;
+    case CellKind::Degree:
+      PaintDegreeCell(painter, option);
+      break;
+    case CellKind::Heat:
+      PaintHeatCell(painter, option);
+      break;
+    case CellKind::Bold:
+      option.font.setBold(true);
+      PaintCellText(painter, option);
+      break;
+    case CellKind::Letter:
+      option.text = option.text.left(1);
+      PaintCellText(painter, option);
+      break;
+    case CellKind::Age:
+      option.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+      option.palette.setColor(QPalette::Text, t.Ink2);
+      PaintCellText(painter, option);
+      break;
+    case CellKind::Houses:
+      PaintHousesCell(painter, option, roles_);
+      break;
+    case CellKind::Lords:
+      DrawLordMarks(painter, option.rect, option.text);
+      break;
+    case CellKind::Tick:
+      DrawTick(painter, option.rect, option.text == "Yes");
+      break;
+    default:
+      for (const Placed& part : LayOut(option, index)) {
+        PaintPlaced(painter, option, part);
+      }
   }
-  QFont font = option.font;
-  font.setBold(step > 1 && count.has_value());
-  painter.setFont(font);
-  painter.drawText(option.rect, Qt::AlignCenter, text);
-}
-
-void CellDelegate::PaintText(QPainter& painter, const QStyleOptionViewItem& option) const {
-  painter.setFont(option.font);
-  painter.setPen(InkOf(option));
-  const QRect room = option.rect.adjusted(kPad, 0, -kPad / 2, 0);
-  painter.drawText(room, static_cast<int>(option.displayAlignment) | Qt::TextSingleLine,
-                   QFontMetrics(option.font).elidedText(option.text, Qt::ElideRight, room.width()));
 }
 
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   QStyleOptionViewItem own = option;
   initStyleOption(&own, index);
-  const CellKind kind = KindOf(index.column());
-  const Tokens& t = Theme::Now();
   painter->save();
-  if (kind == CellKind::Text && own.text.contains('\n')) {
+  if (KindOf(index.column()) == CellKind::Text && own.text.contains('\n')) {
     own.palette.setColor(QPalette::HighlightedText, InkOf(own));
     QStyledItemDelegate::paint(painter, option, index);
   } else {
@@ -195,41 +228,11 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     QStyle& style = widget != nullptr ? *widget->style() : *QApplication::style();
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &own, painter, widget);
     painter->setClipRect(own.rect);
-    const std::optional<DegreeText> degree =
-        kind == CellKind::Degree ? DegreeInSign(own.text) : std::nullopt;
-    if (degree) {
-      const int sign = kSignWidth * Theme::TextSize() / 100;
-      const QRect room = own.rect.adjusted(kPad, 0, -kPad, 0);
-      painter->setFont(own.font);
-      painter->setPen(t.Ink2);
-      painter->drawText(QRect(room.right() - sign, room.top(), sign, room.height()),
-                        Qt::AlignVCenter | Qt::AlignLeft, degree->Sign);
-      painter->setPen(InkOf(own));
-      painter->drawText(room.adjusted(0, 0, -sign - kGap, 0), Qt::AlignVCenter | Qt::AlignRight,
-                        degree->Figures);
-    } else if (kind == CellKind::Heat) {
-      PaintHeat(*painter, own, own.text);
-    } else if (kind == CellKind::Bold) {
-      own.font.setBold(true);
-      PaintText(*painter, own);
-    } else if (kind == CellKind::Letter) {
-      own.text = own.text.left(1);
-      PaintText(*painter, own);
-    } else if (kind == CellKind::Age) {
-      own.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
-      own.palette.setColor(QPalette::Text, t.Ink2);
-      PaintText(*painter, own);
-    } else if (kind == CellKind::Text || kind == CellKind::Degree || kind == CellKind::Ingress) {
-      PaintText(*painter, own);
-    } else {
-      for (const Placed& part : LayOut(own, index)) {
-        PaintPlaced(*painter, own, part);
-      }
-    }
+    PaintContents(*painter, own, index);
   }
   painter->setClipping(false);
   painter->fillRect(QRect(own.rect.left(), own.rect.bottom(), own.rect.width(), line::kHair),
-                    t.Rule);
+                    Theme::Now().Rule);
   painter->restore();
 }
 
@@ -237,21 +240,26 @@ int CellDelegate::PlacedWidth(const QStyleOptionViewItem& option, const QModelIn
   QStyleOptionViewItem own = option;
   own.rect = QRect(0, 0, 0, 1);
   initStyleOption(&own, index);
+  if (KindOf(index.column()) == CellKind::Houses) {
+    return WidthOfHouses(own.text, roles_);
+  }
   const std::vector<Placed> placed = LayOut(own, index);
-  return placed.empty() ? 0 : placed.back().Box.right() + 1 + kGap;
+  return placed.empty() ? 0 : placed.back().Box.right() + 1 + kCellGap;
 }
 
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const CellKind kind = KindOf(index.column());
   QSize size = QStyledItemDelegate::sizeHint(option, index);
-  if (kind == CellKind::Chip || kind == CellKind::Lord || kind == CellKind::Chips) {
+  if (kind == CellKind::Houses) {
+    size.setWidth(WidthOfHouses(index.data().toString(), roles_));
+  } else if (HasChips(kind)) {
     QStyleOptionViewItem own = option;
     own.rect = QRect(0, 0, 0, size.height());
     initStyleOption(&own, index);
     const std::vector<Placed> placed = LayOut(own, index);
-    size.setWidth(placed.empty() ? 2 * kPad : placed.back().Box.right() + kPad);
+    size.setWidth(placed.empty() ? 2 * kCellPad : placed.back().Box.right() + kCellPad);
   } else {
-    size.rwidth() += kPad;
+    size.rwidth() += kCellPad;
   }
   return size;
 }

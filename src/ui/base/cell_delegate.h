@@ -4,9 +4,12 @@
 
 #include <QStyledItemDelegate>
 #include <functional>
+#include <set>
 #include <vector>
 
+#include "ui/base/cell_painting.h"
 #include "ui/base/column_plan.h"
+#include "ui/base/planet_chip.h"
 
 namespace orvex::ui {
 
@@ -36,6 +39,12 @@ class CellDelegate final : public QStyledItemDelegate {
   // The planet that wears a ring; "" for none.
   void SetChosen(const QString& code) { chosen_ = code; }
 
+  // The planets that wear the ring of those that give a matter.
+  void SetFruitful(std::set<QString> codes) { fruitful_ = std::move(codes); }
+
+  // What a house is to the matter, for cells of kind Houses.
+  void SetHouseRoles(HouseRoles roles) { roles_ = std::move(roles); }
+
   // The planet whose chip stands at a point of a cell; "" where none does.
   QString CodeAt(const QStyleOptionViewItem& option, const QModelIndex& index,
                  const QPoint& point) const;
@@ -61,20 +70,17 @@ class CellDelegate final : public QStyledItemDelegate {
   bool IsUnderlined(int column) const;
   std::vector<Placed> LayOut(const QStyleOptionViewItem& option, const QModelIndex& index) const;
   void PaintPlaced(QPainter& painter, const QStyleOptionViewItem& option, const Placed& part) const;
-  void PaintHeat(QPainter& painter, const QStyleOptionViewItem& option, const QString& text) const;
-  void PaintText(QPainter& painter, const QStyleOptionViewItem& option) const;
+  void PaintContents(QPainter& painter, QStyleOptionViewItem& option,
+                     const QModelIndex& index) const;
+  static void FitChips(std::vector<Placed>& placed, const QStyleOptionViewItem& option);
 
   std::vector<CellKind> kinds_;
   Marks marks_;
   Houses houses_;
   std::vector<bool> underlined_;
   QString chosen_;
+  std::set<QString> fruitful_;
+  HouseRoles roles_;
 };
-
-// The size of a chip in the present text size.
-QSize ChipSize();
-
-// Draws a chip, with the ring of the chosen planet around it.
-void DrawChip(QPainter& painter, const QRect& box, const QString& code, bool chosen);
 
 }  // namespace orvex::ui

@@ -17,7 +17,12 @@ enum class CellKind {
   Marks,    // letters in frames
   Heat,     // a count on a ground of four steps
   Ingress,  // a sign that begins here, on a ground
-  Age       // second figures, quiet and to the right
+  Age,      // second figures, quiet and to the right
+  Code,     // a planet's chip alone, with the marks of its row
+  Agents,   // of "RA for SU MO, KE for VE" the chips of the nodes
+  Houses,   // figures of houses with the marks of a matter's group
+  Lords,    // whether each lord of a period signifies a house
+  Tick      // "Yes" as a tick, "No" as a cross
 };
 
 struct ColumnPlan {

@@ -53,6 +53,7 @@ const std::vector<KeyEntry>& AllKeys() {
       {kHoroscope, "rotationMenu",     "Ctrl+R",       "rotate; then a digit is the house"},
       {kHoroscope, "resetRotation",    "Ctrl+0",       "back to the first house"},
       {kHoroscope, "divisions",        "Ctrl+D",       "divisional charts"},
+      {kHoroscope, "judgeMatter",      "Ctrl+M",       "judge a matter: the page Matter, with its name to be typed"},
       {kHoroscope, "rectify",          "Ctrl+B",       "rectify the birth time"},
       {kHoroscope, "allColumns",       "F4",           "all columns of the tables, and back"},
       {kHoroscope, "birthPanel",       "F9",           "all captions of the birth"},

@@ -141,6 +141,7 @@ void DateEdit::OpenCalendar() {
     SetDate(FromField(QDateTime(day, QTime(0, 0), Qt::UTC)));
     popup->close();
     setFocus(Qt::PopupFocusReason);
+    emit DayPicked();
   };
   connect(calendar, &QCalendarWidget::clicked, this, take);
   connect(calendar, &QCalendarWidget::activated, this, take);

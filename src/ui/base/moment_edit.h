@@ -66,6 +66,10 @@ class DateEdit final : public MomentEdit {
   // Drops down a calendar; a click on a day takes it.
   void OpenCalendar();
 
+ signals:
+  // A day was taken from the calendar.
+  void DayPicked();
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 

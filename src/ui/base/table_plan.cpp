@@ -43,7 +43,8 @@ int TablePlan::Least(const ColumnPlan& column, int place) const {
                           ? 0
                           : header.fontMetrics().horizontalAdvance(Shown(column.Caption)) +
                                 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin);
-  const bool whole = column.Kind == CellKind::Chip || column.Kind == CellKind::Lord;
+  const bool whole = column.Kind == CellKind::Chip || column.Kind == CellKind::Lord ||
+                     column.Kind == CellKind::Houses || column.Kind == CellKind::Code;
   return std::max({told, caption, whole ? WidestCell(place) : 0});
 }
 
@@ -104,6 +105,14 @@ void TablePlan::Fit() {
   Measure();
   ShareWidth();
   ShareHeight();
+}
+
+bool TablePlan::HasRoom() const {
+  int least = 0;
+  for (const Need& need : needs_) {
+    least += need.Rank == 0 ? view_.WidthByHand(need.Column).value_or(need.Least) : 0;
+  }
+  return least <= view_.viewport()->width();
 }
 
 void TablePlan::ShowAll(bool all) {

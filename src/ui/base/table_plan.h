@@ -28,6 +28,12 @@ class TablePlan final : public QObject {
   // To be called when the view has been given another table.
   void Fit();
 
+  // Whether the columns that always stay have room.
+  bool HasRoom() const;
+
+  // Another plan, for a table of other columns that is shown next.
+  void SetColumns(std::vector<ColumnPlan> columns) { columns_ = std::move(columns); }
+
   bool ShowsAll() const { return all_; }
   void ShowAll(bool all);
 
