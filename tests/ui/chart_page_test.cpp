@@ -53,12 +53,12 @@ TEST_F(HoroscopeWindowTest, TheWholeTableIsOneKeyAwayAndTheKeyTurnsBack) {
 TEST_F(HoroscopeWindowTest, AnAmberHeadShowsTheWayBackAndTheMenuTicksTheHouse) {
   Open();
   EXPECT_FALSE(Find<QWidget>("backToFirstHouse").isVisible());
-  MenuEntry("rotationMenu", "&7  spouse").trigger();
+  MenuEntry("rotationMenu", "&7 · spouse, partner").trigger();
   QStringList ticked;
   for (const QAction* house : Find<QMenu>("rotationMenu").actions()) {
     ticked += house->isChecked() ? QStringList(house->text()) : QStringList();
   }
-  EXPECT_EQ(ticked, QStringList("&7  spouse"));
+  EXPECT_EQ(ticked, QStringList("&7 · spouse, partner"));
   EXPECT_EQ(Find<QLabel>("rotatedTo").text(), "Rotated to 7");
   QTest::mouseClick(&Find<QWidget>("backToFirstHouse"), Qt::LeftButton);
   EXPECT_EQ(window_->windowTitle(), "Horoscope for Asha Rao");

@@ -131,6 +131,7 @@ void ClientDialog::AddPersonRows() {
 void ClientDialog::AddQueryRows() {
   rows_->Add(tr("Horary N&umber"), query_->Number(), {query_->NumberRow()});
   rows_->Add(tr("Ques&tion"), query_->Question(), {query_->Question()}, query_->Count());
+  rows_->Add({}, query_->Question(), {query_->Whose()});
 }
 
 void ClientDialog::AddPlaceRows() {
@@ -215,6 +216,7 @@ void ClientDialog::FollowKind() {
   const bool query = kinds_->checkedId() == 1;
   rows_->SetVisible(*query_->Number(), query);
   rows_->SetVisible(*query_->Question(), query);
+  rows_->SetVisible(*query_->Whose(), query);
   rows_->SetVisible(*ascendant_, !query);
   ascendant_->ChooseComputed();
   refusal_->Clear();

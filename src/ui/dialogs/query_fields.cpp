@@ -7,8 +7,11 @@
 #include <QPushButton>
 
 #include "core/text.h"
+#include "ui/base/labels.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
+#include "ui/dialogs/form_rows.h"
+#include "ui/dialogs/number_table.h"
 
 namespace orvex::ui {
 
@@ -21,15 +24,20 @@ constexpr const char* kOnlyNumbers = "Only a numeric value is accepted in this f
 
 QueryFields::QueryFields(Workplace& place, QObject* owner)
     : QObject(owner),
+      place_(place),
       numbers_(static_cast<quint32>(place.Session.Time.Now().time_since_epoch().count())),
       number_(Named(new QComboBox, "horaryNumber")),
       random_(MakeButton("random", tr("&Random"))),
+      tableLink_(new LinkButton("numberTableLink")),
       numberRow_(new QWidget),
       question_(Named(new QLineEdit, "horaryQuestion")),
-      count_(Named(new QLabel, "questionCount")) {
+      count_(Named(new QLabel, "questionCount")),
+      whose_(MakeHint(tr("Moment and place are yours, the astrologer's: when and where you judge, "
+                         "not those of the one who asks."))) {
   Build();
   connect(random_, &QPushButton::clicked, this,
           [this] { number_->setEditText(WholeText(numbers_.bounded(1, kLastNumber + 1))); });
+  connect(tableLink_, &QPushButton::clicked, this, &QueryFields::ShowTable);
   connect(number_->lineEdit(), &QLineEdit::textEdited, this, &QueryFields::RefuseLetters);
   connect(question_, &QLineEdit::textChanged, this, &QueryFields::CountQuestion);
   CountQuestion();
@@ -42,10 +50,14 @@ void QueryFields::Build() {
     number_->addItem(WholeText(number));
   }
   count_->setAlignment(Qt::AlignRight);
+  whose_->setObjectName("whoseMoment");
+  whose_->setWordWrap(true);
   auto* row = new QHBoxLayout(numberRow_);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(number_);
   row->addWidget(random_);
+  tableLink_->setText(tr("Table of the 249"));
+  row->addWidget(tableLink_);
   row->addStretch();
 }
 
@@ -56,6 +68,19 @@ void QueryFields::RefuseLetters(const QString& text) {
     number_->setEditText(digits);
     emit Refused({kOnlyNumbers, core::MessageIcon::Information, Typed(number_->objectName())});
   }
+}
+
+void QueryFields::ShowTable() {
+  auto* table = new NumberTable(place_, numberRow_->window());
+  table->setAttribute(Qt::WA_DeleteOnClose);
+  table->setModal(true);
+  connect(table, &NumberTable::NumberTaken, this, [this, table](const QString& number) {
+    number_->setEditText(number);
+    table->close();
+    number_->setFocus();
+  });
+  table->ChooseNumber(number_->currentText());
+  table->show();
 }
 
 // What is beyond the hundredth character is not stored.

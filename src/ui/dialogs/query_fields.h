@@ -15,6 +15,9 @@ class QWidget;
 
 namespace orvex::ui {
 
+class LinkButton;
+class NumberTable;
+
 class QueryFields final : public QObject {
   Q_OBJECT
 
@@ -26,6 +29,8 @@ class QueryFields final : public QObject {
   QWidget* NumberRow() const { return numberRow_; }
   QLineEdit* Question() const { return question_; }
   QLabel* Count() const { return count_; }
+  // Whose moment and place the fields below take.
+  QLabel* Whose() const { return whose_; }
 
   void Fill(const chart::ClientForm& form);
   void CopyInto(chart::ClientForm& form) const;
@@ -38,13 +43,17 @@ class QueryFields final : public QObject {
   void Build();
   void RefuseLetters(const QString& text);
   void CountQuestion();
+  void ShowTable();
 
+  Workplace& place_;
   QRandomGenerator numbers_;
   QComboBox* number_;
   QPushButton* random_;
+  LinkButton* tableLink_;
   QWidget* numberRow_;
   QLineEdit* question_;
   QLabel* count_;
+  QLabel* whose_;
 };
 
 }  // namespace orvex::ui

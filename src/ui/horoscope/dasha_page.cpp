@@ -2,13 +2,12 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QToolTip>
 
 #include "ui/base/keys.h"
+#include "ui/base/moment_edit.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
@@ -43,7 +42,7 @@ DashaPage::DashaPage(HoroscopeDocument& document)
              new CatalogueTable(document, "SookshmaList")},
       periods_(new CatalogueTable(document, "DBAPeriods")),
       houses_(new CatalogueTable(document, "DBAHouseCount")),
-      date_(Named(new QLineEdit, "goToDate")) {
+      date_(new DateEdit("goToDate")) {
   PlanTables();
   AddTools();
   auto* layout = new QVBoxLayout(this);
@@ -94,14 +93,15 @@ void DashaPage::PlanTables() {
 void DashaPage::AddTools() {
   date_->setPlaceholderText(tr("Go to a date"));
   date_->setAccessibleName(date_->placeholderText());
-  date_->setToolTip(tr("A date such as 5.9.2031, 2031-09-05 or 5 Sep 2031"));
+  date_->setToolTip(tr("A date such as 5.9.2031, 2031-09-05 or 5 Sep 2031; Enter goes there"));
   date_->setFixedWidth(kDateWidth * Theme::TextSize() / 100);
   connect(date_, &QLineEdit::returnPressed, this, &DashaPage::GoToTyped);
+  connect(date_, &DateEdit::DayPicked, this, &DashaPage::GoToTyped);
   QPushButton* running = MakeButton("runningPeriods", tr("Running periods"));
   running->setFixedHeight(height::kSmallField);
   BindKeys(*running, KeysOf("Horoscope", "running"));
   connect(running, &QPushButton::clicked, this,
-          [this] { GoTo(Document().Place().Session.Time.Today()); });
+          [this] { Document().GoToDay(Document().Place().Session.Time.Today()); });
   periods_->TitleLine().addWidget(date_);
   periods_->TitleLine().addWidget(running);
 }
@@ -124,31 +124,15 @@ QHBoxLayout* DashaPage::LayOutSummaries() {
 }
 
 void DashaPage::GoToTyped() {
-  constexpr std::array<const char*, 6> kForms = {"yyyy-MM-dd", "d.M.yyyy",   "d/M/yyyy",
-                                                 "d-M-yyyy",   "d MMM yyyy", "d MMMM yyyy"};
-  for (const char* form : kForms) {
-    const QDate day = QLocale::c().toDate(date_->text().simplified(), form);
-    if (day.isValid()) {
-      GoTo(core::DateOnly(FromField(QDateTime(day, QTime(), Qt::UTC))));
-      return;
-    }
+  const std::optional<core::DateTime> day = date_->Date();
+  QString refused = day ? QString() : date_->Words();
+  if (day && !Document().GoToDay(*day)) {
+    refused = tr("No period of this horoscope runs on that date.");
+  }
+  if (!refused.isEmpty()) {
+    QToolTip::showText(date_->mapToGlobal(QPoint(0, date_->height())), refused, date_);
   }
   date_->selectAll();
-  QToolTip::showText(date_->mapToGlobal(QPoint(0, date_->height())), date_->toolTip(), date_);
-}
-
-// Chooses what runs on a day, level by level; a day outside the lists chooses nothing.
-void DashaPage::GoTo(core::DateTime day) {
-  for (std::size_t level = 0; level < lists_.size(); ++level) {
-    const chart::DashaTree& tree = Model().Periods;
-    const std::array<const core::Table*, 4> lists = {&tree.DashaList, &tree.BhuktiList,
-                                                     &tree.AntaraList, &tree.SookshmaList};
-    const std::optional<std::size_t> row = RowRunningOn(*lists.at(level), day);
-    if (!row) {
-      return;
-    }
-    Document().SelectPeriod(static_cast<chart::DashaLevel>(level), *row);
-  }
 }
 
 void DashaPage::Connect(std::size_t level) {

@@ -7,11 +7,11 @@
 #include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/horoscope_page.h"
 
-class QLineEdit;
 class QHBoxLayout;
 
 namespace orvex::ui {
 
+class DateEdit;
 class LifeStrip;
 
 class DashaPage final : public HoroscopePage {
@@ -28,7 +28,6 @@ class DashaPage final : public HoroscopePage {
   void PlanTables();
   void AddTools();
   void ShowList(std::size_t level);
-  void GoTo(core::DateTime day);
   void GoToTyped();
   void Connect(std::size_t level);
   void OpenLater(std::size_t level, std::size_t row);
@@ -37,7 +36,7 @@ class DashaPage final : public HoroscopePage {
   std::array<CatalogueTable*, 4> lists_;
   CatalogueTable* periods_;
   CatalogueTable* houses_;
-  QLineEdit* date_;
+  DateEdit* date_;
   bool showing_ = false;  // the model is being shown: a row that becomes current was not picked
 };
 

@@ -8,6 +8,7 @@
 #include "panchang/sky_view.h"
 #include "practice/remedies.h"
 #include "ui/base/qt_text.h"
+#include "ui/horoscope/period_columns.h"
 #include "ui/painting/picture_files.h"
 
 namespace orvex::ui {
@@ -50,6 +51,23 @@ void HoroscopeDocument::ShowYear(int year) {
 void HoroscopeDocument::SelectPeriod(chart::DashaLevel level, std::size_t row) {
   chart::SelectPeriod(place_.Session, opened_.Model, level, row);
   emit Changed();
+}
+
+bool HoroscopeDocument::GoToDay(core::DateTime day) {
+  const chart::DashaTree& tree = Model().Periods;
+  const std::array<const core::Table*, 4> lists = {&tree.DashaList, &tree.BhuktiList,
+                                                   &tree.AntaraList, &tree.SookshmaList};
+  if (!RowRunningOn(tree.DashaList, day)) {
+    return false;
+  }
+  for (std::size_t level = 0; level < lists.size(); ++level) {
+    if (const std::optional<std::size_t> row = RowRunningOn(*lists.at(level), day)) {
+      chart::SelectPeriod(place_.Session, opened_.Model, static_cast<chart::DashaLevel>(level),
+                          *row);
+    }
+  }
+  emit Changed();
+  return true;
 }
 
 void HoroscopeDocument::FilterAspects(AspectFilter filter) {

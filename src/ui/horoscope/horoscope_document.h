@@ -3,11 +3,13 @@
 #pragma once
 
 #include <QObject>
+#include <optional>
 #include <string>
 
 #include "chart/dasha.h"
 #include "horoscope/create_horoscope.h"
 #include "horoscope/recalculation.h"
+#include "judgement/judge_matter.h"
 #include "report/html_report.h"
 #include "report/report_content.h"
 #include "ui/base/workplace.h"
@@ -16,6 +18,13 @@ namespace orvex::ui {
 
 // The three choices of the list of aspects.
 enum class AspectFilter { All, Good, Hard };
+
+// What the page of a matter shows: which matter, judged when, with the periods of which span.
+struct JudgedMatter {
+  judgement::Matter Matter;
+  judgement::MomentOfJudgement Moment;
+  judgement::PeriodWindow Window;
+};
 
 class HoroscopeDocument final : public QObject {
   Q_OBJECT
@@ -38,6 +47,14 @@ class HoroscopeDocument final : public QObject {
   void ShowYear(int year);
 
   void SelectPeriod(chart::DashaLevel level, std::size_t row);
+
+  // Selects what runs on a day, level by level, and tells of it once. False where no period of the
+  // lists holds the day; then nothing changes.
+  bool GoToDay(core::DateTime day);
+
+  // Nothing until a matter was judged in this window.
+  const std::optional<JudgedMatter>& Judged() const { return judged_; }
+  void KeepJudged(JudgedMatter judged) { judged_ = std::move(judged); }
 
   // The end of the Antara that ran when the horoscope was opened; "" where none did.
   const QString& RunningEnd() const { return runningEnd_; }
@@ -77,6 +94,7 @@ class HoroscopeDocument final : public QObject {
   char style_;
   QString chosen_;
   QString runningEnd_;
+  std::optional<JudgedMatter> judged_;
   AspectFilter filter_ = AspectFilter::All;
 };
 

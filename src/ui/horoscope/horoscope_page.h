@@ -20,6 +20,10 @@ class HoroscopePage : public QWidget {
  signals:
   // A planet was picked; its row in the planet table.
   void PlanetActivated(std::size_t row);
+  // Another page is to come into sight, by its name.
+  void PageWanted(const QString& page);
+  // What the status line says for a while.
+  void Told(const QString& words);
 
  protected:
   HoroscopeDocument& Document() { return document_; }

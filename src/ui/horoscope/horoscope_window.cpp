@@ -8,11 +8,14 @@
 #include <QPrinter>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <chrono>
 
+#include "chart/relations.h"
 #include "ui/base/elided_label.h"
 #include "ui/base/guide.h"
 #include "ui/base/icon.h"
@@ -26,6 +29,7 @@
 #include "ui/horoscope/chart_print.h"
 #include "ui/horoscope/divisional_dialog.h"
 #include "ui/horoscope/head_pane.h"
+#include "ui/horoscope/matter_box.h"
 #include "ui/horoscope/neighbour_client.h"
 #include "ui/horoscope/page_stack.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
@@ -50,21 +54,6 @@ constexpr std::array<StyleName, 3> kStyles = {{
     {'E', QT_TRANSLATE_NOOP("HoroscopeWindow", "East Indian")},
     {'S', QT_TRANSLATE_NOOP("HoroscopeWindow", "South Indian")},
 }};
-
-// Who is read from a house, where a word says it.
-constexpr std::array<const char*, 12> kRelations = {
-    "",
-    "",
-    QT_TRANSLATE_NOOP("HoroscopeWindow", "younger sibling"),
-    QT_TRANSLATE_NOOP("HoroscopeWindow", "mother"),
-    QT_TRANSLATE_NOOP("HoroscopeWindow", "child"),
-    "",
-    QT_TRANSLATE_NOOP("HoroscopeWindow", "spouse"),
-    "",
-    QT_TRANSLATE_NOOP("HoroscopeWindow", "father"),
-    "",
-    QT_TRANSLATE_NOOP("HoroscopeWindow", "elder sibling"),
-    ""};
 
 struct DetailName {
   report::ReportDetail Detail;
@@ -91,7 +80,8 @@ HoroscopeWindow::HoroscopeWindow(Workplace& place, horoscope::OpenedHoroscope op
       head_(new HeadPane(document_)),
       pages_(new PageStack(document_)),
       birth_(new BirthPanel(document_)),
-      status_(new ElidedLabel("statusText")) {
+      status_(new ElidedLabel("statusText")),
+      told_(new QTimer(this)) {
   setObjectName("horoscopeWindow");
   setAttribute(Qt::WA_DeleteOnClose);
   MakeHeadActions();
@@ -163,6 +153,10 @@ void HoroscopeWindow::LayOut() {
 void HoroscopeWindow::Connect() {
   connect(&document_, &HoroscopeDocument::Changed, this, &HoroscopeWindow::ShowModel);
   connect(pages_, &PageStack::PlanetActivated, this, &HoroscopeWindow::ShowPlanetSheet);
+  connect(pages_, &PageStack::Told, this, &HoroscopeWindow::Tell);
+  told_->setSingleShot(true);
+  connect(told_, &QTimer::timeout, this,
+          [this] { status_->setText(Shown(document_.Model().Captions.StatusBar)); });
   connect(head_, &HeadPane::ResetWanted, this, [this] { document_.Rotate(1); });
 }
 
@@ -213,6 +207,7 @@ void HoroscopeWindow::MakeMoreActions() {
   QAction* rectify = add(tr("Rectify birth &time"), "rectify", [this] { Turn("recalculation"); });
   rectify->setVisible(!document_.Model().Horary);
   rectify->setEnabled(!document_.Model().Horary);
+  add(tr("Judge a &matter"), "judgeMatter", &HoroscopeWindow::JudgeMatter);
   more_->addSeparator();
   add(tr("&Edit client"), "editClient", &HoroscopeWindow::EditClient);
   add(tr("&Previous client"), "previousClient", [this] { GoToClient(-1); });
@@ -254,11 +249,10 @@ QMenu* HoroscopeWindow::MakeRotationMenu() {
   menu->setObjectName("rotationMenu");
   auto* houses = new QActionGroup(this);
   for (int house = 1; house <= static_cast<int>(chart::kHouses); ++house) {
-    // The digit works as a key; who reads it stands behind.
-    const QString relation = tr(kRelations.at(static_cast<std::size_t>(house - 1)));
-    QAction* action = menu->addAction(
-        (house < 10 ? "&" : "") + WholeText(house) + (relation.isEmpty() ? "" : "  " + relation),
-        this, [this, house] { document_.Rotate(house); });
+    // The digit works as a key; who is read from the house stands behind.
+    QAction* action =
+        menu->addAction((house < 10 ? "&" : "") + Shown(chart::HouseWithRelation(house)), this,
+                        [this, house] { document_.Rotate(house); });
     action->setCheckable(true);
     action->setData(house);
     houses->addAction(action);
@@ -299,12 +293,27 @@ void HoroscopeWindow::ShowModel() {
   head_->ShowModel();
   birth_->ShowModel();
   pages_->ShowModel();
+  told_->stop();
   status_->setText(Shown(captions.StatusBar));
 }
 
 void HoroscopeWindow::ShowBirthPanel(bool shown) { birth_->setVisible(shown); }
 
 void HoroscopeWindow::Turn(const QString& page) { pages_->Turn(page); }
+
+void HoroscopeWindow::JudgeMatter() {
+  Turn("matter");
+  if (auto* matter = pages_->findChild<MatterBox*>()) {
+    matter->setFocus(Qt::ShortcutFocusReason);
+  }
+}
+
+// A done thing stands in the status line for a while.
+void HoroscopeWindow::Tell(const QString& words) {
+  constexpr std::chrono::seconds kShown{8};
+  status_->setText(words);
+  told_->start(kShown);
+}
 
 void HoroscopeWindow::ShowPlanetSheet(std::size_t row) {
   const core::DateTime today = document_.Place().Session.Time.Today();

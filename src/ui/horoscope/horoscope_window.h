@@ -7,6 +7,7 @@
 #include "ui/horoscope/horoscope_document.h"
 
 class QMenu;
+class QTimer;
 
 namespace orvex::ui {
 
@@ -26,11 +27,17 @@ class HoroscopeWindow final : public QMainWindow {
 
   std::int32_t ClientId() const { return document_.Model().ClientId; }
 
+  // Whether it is that of a query.
+  bool IsQuery() const { return document_.Model().Horary; }
+
   // The planet that is marked everywhere, by its code; "" for none.
   const QString& ChosenPlanet() const { return document_.ChosenPlanet(); }
 
   // Turns to the page of that name, such as "dasha".
   void Turn(const QString& page);
+
+  // Turns to the page "Matter" with the keys in its first field.
+  void JudgeMatter();
 
   // Opens the sheet of a row of the planet table.
   void ShowPlanetSheet(std::size_t row);
@@ -52,6 +59,7 @@ class HoroscopeWindow final : public QMainWindow {
   QMenu* MakeWindowsMenu();
   void NextStyle();
   void ShowModel();
+  void Tell(const QString& words);
   void ShowDivisions();
   void ShowBirthPanel(bool shown);
   void PrintCharts();
@@ -66,6 +74,7 @@ class HoroscopeWindow final : public QMainWindow {
   PageStack* pages_;
   BirthPanel* birth_;
   ElidedLabel* status_;
+  QTimer* told_;
   QMenu* more_ = nullptr;
   QMenu* styleMenu_ = nullptr;
   QMenu* rotationMenu_ = nullptr;

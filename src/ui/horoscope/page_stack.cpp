@@ -18,6 +18,7 @@
 #include "ui/horoscope/dasha_page.h"
 #include "ui/horoscope/exact_page.h"
 #include "ui/horoscope/lo_shu_page.h"
+#include "ui/horoscope/matter_page.h"
 #include "ui/horoscope/recalculation_page.h"
 #include "ui/horoscope/remedies_page.h"
 #include "ui/horoscope/tables_page.h"
@@ -70,9 +71,10 @@ struct PageEntry {
 };
 
 // clang-format off
-constexpr std::array<PageEntry, 16> kPages = {{
+constexpr std::array<PageEntry, 17> kPages = {{
     {"chart",         QT_TRANSLATE_NOOP("PageStack", "Chart"),         Read,   Fits::Always,   &Make<ChartPage>},
     {"significators", QT_TRANSLATE_NOOP("PageStack", "Significators"), Read,   Fits::WithBars, &MakeSignificators},
+    {"matter",        QT_TRANSLATE_NOOP("PageStack", "Matter"),        Read,   Fits::Always,   &Make<MatterPage>},
     {"fourStep",      QT_TRANSLATE_NOOP("PageStack", "Four steps"),    Read,   Fits::WithBars, &MakeFourStep},
     {"aspects",       QT_TRANSLATE_NOOP("PageStack", "Aspects"),       Read,   Fits::WithBars, &Make<AspectsPage>},
     {"exact",         QT_TRANSLATE_NOOP("PageStack", "To the second"), Read,   Fits::WithBars, &Make<ExactPage>},
@@ -213,6 +215,8 @@ HoroscopePage* PageStack::MakePage(std::size_t place) {
   page->setBackgroundRole(QPalette::Base);
   page->setAutoFillBackground(true);
   connect(page, &HoroscopePage::PlanetActivated, this, &PageStack::PlanetActivated);
+  connect(page, &HoroscopePage::PageWanted, this, &PageStack::Turn);
+  connect(page, &HoroscopePage::Told, this, &PageStack::Told);
   QWidget* shown = page;
   if (entry.Room == Fits::WithBars) {
     auto* bars = new QScrollArea;

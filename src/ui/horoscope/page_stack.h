@@ -36,6 +36,8 @@ class PageStack final : public QWidget {
 
  signals:
   void PlanetActivated(std::size_t row);
+  // What the status line says for a while.
+  void Told(const QString& words);
   // Another page came into sight.
   void Turned();
 

@@ -134,6 +134,11 @@ void ClientCommands::ShowNewClient(std::int32_t groupId, std::int32_t clientId) 
   lists_.ShowGroup(groupId, clientId);
   emit ClientsChanged();
   Open(clientId);
+  HoroscopeWindow* window = OpenHoroscope(place_, clientId);
+  // Who has put a query asks whether it will be.
+  if (window != nullptr && window->IsQuery()) {
+    window->JudgeMatter();
+  }
 }
 
 void ClientCommands::AddNamed(const QString& name, bool query) {

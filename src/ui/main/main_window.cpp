@@ -13,6 +13,7 @@
 #include "ui/base/theme.h"
 #include "ui/dialogs/about_box.h"
 #include "ui/dialogs/cities_dialog.h"
+#include "ui/dialogs/matters_dialog.h"
 #include "ui/dialogs/settings_dialog.h"
 #include "ui/main/birthday_list.h"
 #include "ui/main/client_card_panel.h"
@@ -77,6 +78,7 @@ QAction* MainWindow::Command(const char* name, const QString& text, void (MainWi
 void MainWindow::MakeActions() {
   settings_ = Command("settings", tr("&Settings…"), &MainWindow::OpenSettings);
   cities_ = Command("cities", tr("&Cities…"), &MainWindow::OpenCities);
+  matters_ = Command("matters", tr("House groups of &matters…"), &MainWindow::OpenMatters);
   refresh_ = Command("refreshSky", tr("&Refresh Sky"), &MainWindow::RefreshSky);
   fold_ = Command("foldSky", tr("&Fold Sky"), &MainWindow::FoldSky);
   filter_ = Command("filterClients", tr("&Filter Clients"), &MainWindow::FilterClients);
@@ -101,7 +103,7 @@ void MainWindow::MakeMenus() {
   groups->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
   menus->Add(transits_->Menu());
   QMenu* tools = menus->Add(tr("&Tools"));
-  tools->addActions({refresh_, fold_, cities_, settings_});
+  tools->addActions({refresh_, fold_, cities_, matters_, settings_});
   QMenu* help = menus->Add(tr("&Help"));
   help->addAction(guide_);
   help->addAction(tr("Check for &Updates"), this, [this] { ShowBox<UpdateBox>(); });
@@ -252,6 +254,11 @@ void MainWindow::OpenSettings() {
 
 void MainWindow::OpenCities() {
   CitiesDialog dialog(place_, this);
+  dialog.exec();
+}
+
+void MainWindow::OpenMatters() {
+  MattersDialog dialog(place_, 0, this);
   dialog.exec();
 }
 

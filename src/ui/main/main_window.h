@@ -59,6 +59,7 @@ class MainWindow final : public QMainWindow {
   void NextPane();
   void OpenSettings();
   void OpenCities();
+  void OpenMatters();
   void ShowGuide();
   void Quit() { close(); }
   template <typename Box>
@@ -81,6 +82,7 @@ class MainWindow final : public QMainWindow {
   StatusPanels status_;
   QAction* settings_ = nullptr;
   QAction* cities_ = nullptr;
+  QAction* matters_ = nullptr;
   QAction* refresh_ = nullptr;
   QAction* fold_ = nullptr;
   QAction* filter_ = nullptr;
