@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "ui/base/scaled.h"
 #include "ui/base/theme.h"
 
 namespace orvex::ui {
@@ -15,8 +16,6 @@ constexpr int kLordMark = 9;     // the side of the mark of a lord
 constexpr int kLordGap = 3;
 
 QFont MarkFont() { return Theme::Text(type::kSmall, QFont::DemiBold); }
-
-int Scaled(int pixels) { return pixels * Theme::TextSize() / 100; }
 
 QRectF Middle(const QRect& box, double width, double height) {
   const QPointF centre = QRectF(box).center();

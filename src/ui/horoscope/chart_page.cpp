@@ -11,6 +11,7 @@
 #include "ui/base/keys.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/scaled.h"
 #include "ui/base/segments.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/birth_panel.h"
@@ -30,8 +31,6 @@ constexpr int kLeastSide = 160;
 constexpr double kChartPart = 0.232;  // of the width
 constexpr double kOneChartPart = 0.30;
 constexpr std::array<char, 3> kStyleOrder = {'N', 'E', 'S'};
-
-int Scaled(int pixels) { return pixels * Theme::TextSize() / 100; }
 
 QLabel* SmallTitle(const QString& text) {
   QLabel* title = MakeHeading(text);

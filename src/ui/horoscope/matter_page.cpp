@@ -15,6 +15,7 @@
 #include "ui/base/labels.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/scaled.h"
 #include "ui/base/segments.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/matters_dialog.h"
@@ -58,8 +59,6 @@ const std::vector<ColumnPlan> kTestColumns = {
 // clang-format on
 
 constexpr RowBounds kPageRows = {height::kLeastRow, height::kMostRow, true};
-
-int AtTextSize(int pixels) { return pixels * Theme::TextSize() / 100; }
 
 // The chips of the nodes tell in their tip for whom they stand.
 core::Table WithAgentsTold(core::Table houseGrades) {
@@ -126,7 +125,7 @@ MatterPage::MatterPage(HoroscopeDocument& document)
 QHBoxLayout* MatterPage::LayOutHead() {
   auto* caption = new FieldLabel(tr("&Matter"));
   caption->setBuddy(matter_);
-  matter_->setFixedWidth(AtTextSize(kMatterWidth));
+  matter_->setFixedWidth(Scaled(kMatterWidth));
   matter_->setAccessibleName(tr("Matter"));
   edit_->setText(tr("Edit house groups"));
   auto* head = new QHBoxLayout;
@@ -257,18 +256,18 @@ void MatterPage::resizeEvent(QResizeEvent* event) {
 
 // All parts where they have room, else the one that is chosen.
 void MatterPage::Arrange() {
-  const bool all = width() >= AtTextSize(kRoomForAll) && height() >= AtTextSize(kHeightForAll);
+  const bool all = width() >= Scaled(kRoomForAll) && height() >= Scaled(kHeightForAll);
   const int part = part_->Chosen();
   part_->setVisible(!all);
-  edit_->setVisible(width() >= AtTextSize(kRoomForAll));
+  edit_->setVisible(width() >= Scaled(kRoomForAll));
   const std::array<QWidget*, 3> upper = {promise_, grades_, planets_};
   for (std::size_t place = 0; place < upper.size(); ++place) {
     upper.at(place)->setVisible(all || part == static_cast<int>(place));
   }
   upper_->setVisible(all || part < static_cast<int>(upper.size()));
   ranked_->setVisible(all || part == static_cast<int>(upper.size()));
-  const int high = std::clamp(static_cast<int>(height() * kUpperPart), AtTextSize(kLeastUpper),
-                              AtTextSize(kMostUpper));
+  const int high = std::clamp(static_cast<int>(height() * kUpperPart), Scaled(kLeastUpper),
+                              Scaled(kMostUpper));
   upper_->setMinimumHeight(all ? high : 1);
   upper_->setMaximumHeight(all ? high : QWIDGETSIZE_MAX);
 }
