@@ -85,6 +85,17 @@ core::Table HoraTable(const std::vector<Hora>& horas) {
   return table;
 }
 
+std::optional<std::size_t> RunningHora(const core::Table& horas, core::DateTime moment) {
+  for (std::size_t row = horas.Rows.size(); row > 0; --row) {
+    const auto start = core::ParseDateTime(horas.At(row - 1, HoraColumn::Start).Tag);
+    const auto end = core::ParseDateTime(horas.At(row - 1, HoraColumn::End).Tag);
+    if (start && end && *start <= moment && moment <= *end) {
+      return row - 1;
+    }
+  }
+  return std::nullopt;
+}
+
 std::optional<HoraView> CalcHora(core::Session& session, core::DateTime date, std::int32_t cityId) {
   const core::Result city = session.StoreConnection.Query("Select * from city_master where id = " +
                                                           core::WholeText(cityId));

@@ -33,6 +33,10 @@ std::vector<Hora> NightHorasOf(core::DateTime date, const std::string& sunset,
 // Planet, start and end; the tags of both are the full moments.
 core::Table HoraTable(const std::vector<Hora>& horas);
 
+// The row of a hora table that holds a moment; of two that touch the later one. Nothing where none
+// does.
+std::optional<std::size_t> RunningHora(const core::Table& horas, core::DateTime moment);
+
 struct HoraView {
   std::string Title;
   std::string Sunrise;

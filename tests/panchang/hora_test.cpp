@@ -107,6 +107,23 @@ TEST_F(CurrentHora, BeforeSunriseThePreviousNightHoldsTheHoraAndYesterdaysSunTim
   EXPECT_TRUE(ofYesterdaysNight);
 }
 
+TEST(RunningHora, OfTwoThatTouchTheLaterOneRuns) {
+  const core::Table horas =
+      HoraTable(DayHorasOf(test::Moment("2026-11-24"), "6:00 AM", "06:00 PM"));
+  for (const auto& [now, row] :
+       std::initializer_list<std::pair<const char*, int>>{{"2026-11-24 05:59:59", -1},
+                                                          {"2026-11-24 06:00:00", 0},
+                                                          {"2026-11-24 06:59:59", 0},
+                                                          {"2026-11-24 07:00:00", 1},
+                                                          {"2026-11-24 18:00:00", 11},
+                                                          {"2026-11-24 18:00:01", -1},
+                                                          {"2026-11-25 09:00:00", -1}}) {
+    const auto running = RunningHora(horas, test::Moment(now));
+    EXPECT_EQ(running ? static_cast<int>(*running) : -1, row) << now;
+  }
+  EXPECT_FALSE(RunningHora(core::Table{}, test::Moment("2026-11-24 09:00:00")));
+}
+
 TEST_F(CurrentHora, WithoutASunriseTheLabelsOfTheHoraStayAsTheyWere) {
   SkyView view;
   GetHeaderDetails(*session_, view, test::Moment("2026-06-21 12:00"));

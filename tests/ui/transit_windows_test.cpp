@@ -235,6 +235,14 @@ TEST_F(TransitWindowTest, TheHorasFollowTheDateAndTheCity) {
   EXPECT_EQ(CellText(*view, "dayHoras", 0, 1), "06:40 AM");
   EXPECT_EQ(Text(*view, "sunrise"), "Sunrise: 6:40 AM");
   EXPECT_EQ("Sunset: " + CellText(*view, "dayHoras", 11, 2), Text(*view, "sunset"));
+  const auto runs = [&view](int row) {
+    return Cell(*view, "dayHoras", row, 0).data(Qt::FontRole).value<QFont>().bold();
+  };
+  EXPECT_TRUE(runs(3));  // 09:22 to 10:16
+  home_.Clock.Set(test::Moment("2026-11-24 10:20:00"));
+  view->FollowClock();
+  EXPECT_FALSE(runs(3));
+  EXPECT_TRUE(runs(4));
   Press(*view, "nextDay");
   EXPECT_EQ(CellText(*view, "dayHoras", 0, 0), "Mercury");
   QTest::keyClick(view.get(), Qt::Key_Left, Qt::AltModifier);

@@ -117,6 +117,7 @@ void MainWindow::Connect() {
   connect(sky_, &SkyPanel::Refreshed, this, [this] {
     status_.ShowSky(sky_->View().Captions);
     today_->ShowSky(sky_->View());
+    transits_->Horas().FollowClock();
     if (today_->Birthdays().FollowDay()) {
       clients_->Groups().ShowBirthdays(today_->Birthdays().Table());
     }

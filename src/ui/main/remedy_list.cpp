@@ -117,6 +117,7 @@ void RemedyList::ShowRemedies(std::int32_t clientId, const QString& caption) {
   const int rows = remedies_->Model().rowCount();
   all_->setVisible(rows > 0);
   all_->setText(tr("All %1").arg(rows));
+  all_->setFixedWidth(all_->fontMetrics().horizontalAdvance(all_->text()) + space::kS);
   TakeHeight();
 }
 

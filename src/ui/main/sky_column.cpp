@@ -169,6 +169,8 @@ QWidget* SkyColumn::MakeFoot() {
   auto* foot = new QWidget;
   moon_->setFont(Theme::Text(type::kHead));
   today_->setText(tr("Today"));
+  today_->setFont(Theme::Text(type::kSmall));
+  today_->setFixedWidth(today_->fontMetrics().horizontalAdvance(today_->text()) + space::kS);
   today_->setToolTip(WithKeys(tr("The whole sky of now"), KeysOf(kMainWindow, "showToday")));
   auto* line = new QHBoxLayout(foot);
   line->setContentsMargins(0, 0, 0, 0);

@@ -59,9 +59,15 @@ StatusPanels::StatusPanels(QStatusBar& bar, QAction& undo)
   }
 }
 
-void StatusPanels::ShowCount(const QString& text) { count_->setText(text); }
+// The counts stand whole; what tells of the sky is cut first.
+void StatusPanels::ShowWhole(ElidedLabel& panel, const QString& text) {
+  panel.setText(text);
+  panel.setMinimumWidth(panel.sizeHint().width());
+}
+
+void StatusPanels::ShowCount(const QString& text) { ShowWhole(*count_, text); }
 void StatusPanels::ShowDate(bool shown) { date_->setVisible(shown); }
-void StatusPanels::ShowTotal(const QString& text) { total_->setText(text); }
+void StatusPanels::ShowTotal(const QString& text) { ShowWhole(*total_, text); }
 
 void StatusPanels::ShowSky(const panchang::SkyCaptions& captions) {
   ascendant_->setText(Shown(captions.Ascendant));

@@ -25,6 +25,8 @@ class StatusPanels final {
   void ShowDate(bool shown);
 
  private:
+  static void ShowWhole(ElidedLabel& panel, const QString& text);
+
   ElidedLabel* count_;
   ElidedLabel* total_;
   ElidedLabel* ascendant_;

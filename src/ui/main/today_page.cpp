@@ -10,7 +10,7 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr int kBoard = 800;
+constexpr int kBoard = 840;
 
 }  // namespace
 

@@ -27,6 +27,8 @@ std::optional<core::DateTime> DayBeside(core::DateTime date, int days) {
   }
 }
 
+constexpr const char* kRunningTint = "FEF9D1";  // as the first period of a life
+
 TableView* HoraList(Workplace& place, const char* name, const QString& title) {
   auto* table = new TableView;
   table->setObjectName(name);
@@ -115,16 +117,59 @@ void HoraView::Connect() {
 // nothing else.
 void HoraView::CalcHora() {
   shown_ = date_->Date().value_or(shown_);
-  const auto view = panchang::CalcHora(place_.Session, shown_, cityId_)
-                        .value_or(panchang::HoraView{Typed(windowTitle()), "", "", {}, {}});
+  horas_ = panchang::CalcHora(place_.Session, shown_, cityId_)
+               .value_or(panchang::HoraView{Typed(windowTitle()), "", "", {}, {}});
+  const panchang::HoraView& view = horas_;
   setWindowTitle(Shown(view.Title));
   caption_->setText(Shown(view.Title));
   sunrise_->setText(view.Sunrise.empty() ? "" : tr("Sunrise: %1").arg(Shown(view.Sunrise)));
   sunset_->setText(view.Sunset.empty() ? "" : tr("Sunset: %1").arg(Shown(view.Sunset)));
-  day_->SetTable(view.DayHoras);
-  night_->SetTable(view.NightHoras);
+  ShowRunning();
   previous_->setEnabled(DayBeside(shown_, -1).has_value());
   next_->setEnabled(DayBeside(shown_, 1).has_value());
+}
+
+// Over another city the clock of this machine tells nothing.
+std::string HoraView::StartOfRunning() const {
+  if (cityId_ != place_.Session.State.UserCityId) {
+    return "";
+  }
+  for (const core::Table* horas : {&horas_.DayHoras, &horas_.NightHoras}) {
+    if (const auto row = panchang::RunningHora(*horas, place_.Session.Time.Now())) {
+      return horas->At(*row, panchang::HoraColumn::Start).Tag;
+    }
+  }
+  return "";
+}
+
+void HoraView::ShowRunning() {
+  running_ = StartOfRunning();
+  for (const auto& [list, horas] :
+       {std::pair{day_, horas_.DayHoras}, std::pair{night_, horas_.NightHoras}}) {
+    core::Table marked = horas;
+    for (std::size_t row = 0; row < marked.Rows.size(); ++row) {
+      if (running_.empty() || marked.At(row, panchang::HoraColumn::Start).Tag != running_) {
+        continue;
+      }
+      for (core::Cell& cell : marked.Rows[row].Cells) {
+        cell.Bold = true;
+        cell.Background = kRunningTint;
+        cell.Tooltip = Typed(tr("This hora runs now."));
+      }
+    }
+    list->SetTable(std::move(marked));
+  }
+}
+
+void HoraView::FollowClock() {
+  if (isVisible() && StartOfRunning() != running_) {
+    ShowRunning();
+  }
+}
+
+void HoraView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  FollowClock();
 }
 
 void HoraView::Move(int days) {

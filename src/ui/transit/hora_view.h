@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include "panchang/hora.h"
 #include "ui/base/workplace.h"
 
 class QHBoxLayout;
@@ -24,6 +25,12 @@ class HoraView final : public QWidget {
   // Gives the focus to the date.
   void FocusDate();
 
+  // Marks the hora that runs by now, where that is another one.
+  void FollowClock();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   void LayOut();
   QHBoxLayout* BuildDates();
@@ -31,12 +38,16 @@ class HoraView final : public QWidget {
   QWidget* BuildHalf(const QString& title, QLabel* sun, TableView* table);
   void Connect();
   void CalcHora();
+  void ShowRunning();
+  std::string StartOfRunning() const;
   void Move(int days);
   void ChangeCity();
 
   Workplace& place_;
   std::int32_t cityId_;
   core::DateTime shown_;
+  panchang::HoraView horas_;
+  std::string running_;  // the start of the marked hora, "" for none
   QLabel* caption_;
   QPushButton* previous_;
   DateEdit* date_;

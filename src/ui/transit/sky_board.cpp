@@ -20,6 +20,7 @@ namespace orvex::ui {
 namespace {
 
 constexpr int kSmallestChart = 24 * kGrid;
+constexpr int kHalf = 45 * kGrid;
 
 QLabel* PlainLabel(const char* name) {
   auto* label = new QLabel;
@@ -72,8 +73,13 @@ void SkyBoard::Build(Side side) {
   halves->setObjectName(side == Side::Horas ? "detailsSkyHalves" : "skyHalves");
   halves->addWidget(BuildUpper(side));
   halves->addWidget(planets_);
-  halves->setStretchFactor(0, 3);
-  halves->setStretchFactor(1, 2);
+  // Beside the ruling planets the table of the sky stands whole.
+  const bool whole = side == Side::RulingPlanets;
+  halves->setStretchFactor(0, whole ? 1 : 3);
+  halves->setStretchFactor(1, whole ? 1 : 2);
+  if (whole) {
+    halves->setSizes({kHalf, kHalf});
+  }
   place_.Layout.Remember(*halves);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
