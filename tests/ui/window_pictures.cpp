@@ -49,8 +49,11 @@ constexpr int kWidth = 1366;
 constexpr int kHeight = 740;  // what a title bar and a panel leave of 768
 
 void WriteMain(Workplace& place, const std::filesystem::path& file) {
+  constexpr int kRest = 400;  // milliseconds, after which the card of the client stands
   MainWindow window(place);
   window.resize(kWidth, kHeight);
+  window.show();
+  QTest::qWait(kRest);
   WritePicture(window, file);
 }
 
