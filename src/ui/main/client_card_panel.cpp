@@ -40,14 +40,16 @@ ElidedLabel* SmallLine(const char* name) {
 }
 
 // A picture of what a text is, and the text, which can be marked and copied.
-QHBoxLayout* WithIcon(const char* icon, QLabel* text) {
+QWidget* WithIcon(const char* icon, QLabel* text) {
   auto* picture = new QLabel;
   picture->setPixmap(Icon(icon, IconInk::Quiet).pixmap(kWordIcon, kWordIcon));
-  auto* line = new QHBoxLayout;
+  auto* both = new QWidget;
+  auto* line = new QHBoxLayout(both);
+  line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(space::kS);
   line->addWidget(picture);
   line->addWidget(text);
-  return line;
+  return both;
 }
 
 QPushButton* CardButton(const char* name, const QString& word, const char* icon, IconInk ink) {
@@ -171,8 +173,8 @@ QWidget* ClientCardPanel::MakeContact() {
   auto* line = new QHBoxLayout(contact);
   line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(space::kXl);
-  line->addLayout(WithIcon("phone", mobile_));
-  line->addLayout(WithIcon("mail", email_));
+  line->addWidget(WithIcon("phone", mobile_));
+  line->addWidget(WithIcon("mail", email_));
   line->addStretch(1);
   return contact;
 }
@@ -265,6 +267,8 @@ void ClientCardPanel::Fill(const horoscope::ClientCard& card) {
   comments_->setVisible(comments);
   mobile_->setText(Shown(card.Mobile));
   email_->setText(Shown(card.Email));
+  mobile_->parentWidget()->setVisible(!card.Mobile.empty());
+  email_->parentWidget()->setVisible(!card.Email.empty());
   contact_->setVisible(!card.Mobile.empty() || !card.Email.empty());
 }
 
