@@ -33,6 +33,7 @@ void FillOffsets(const BirthClock& clock, core::Cell& inFile, core::Cell& ofCloc
   } else if (!clock.AgreesWithClocks) {
     for (core::Cell* cell : {&inFile, &ofClocks}) {
       cell->Background = core::kHardColor;
+      cell->Bold = true;
       cell->Tooltip = "The clocks of the city showed another offset; that of the file is taken.";
     }
   }

@@ -371,7 +371,8 @@ TEST_F(Exchange, CsvIsPlannedWithTheOthersAndKeepsWhatTheyCannotHold) {
   EXPECT_EQ(plan.Refused[0].File, "b.csv");
   EXPECT_EQ(plan.Refused[0].Line, 4U);
   EXPECT_EQ(plan.Refused[1].Reason, "the line has not as many fields as the first one");
-  EXPECT_EQ(plan.Births[1].Clock.OffsetInFile + " " + plan.Births[1].Clock.OffsetOfClocks, "9.5 5.5");
+  EXPECT_EQ(plan.Births[1].Clock.OffsetInFile + " " + plan.Births[1].Clock.OffsetOfClocks,
+            "9.5 5.5");
   EXPECT_FALSE(plan.Births[1].Clock.AgreesWithClocks);
   EXPECT_TRUE(plan.Births[2].Clock.AgreesWithClocks);
   EXPECT_EQ(PlanText(plan), "3 new, 0 already stored, 2 refused");
@@ -437,6 +438,7 @@ TEST_F(Exchange, ThePreviewMarksOffsetsThatTheClocksDidNotShow) {
   EXPECT_EQ(table.At(0, PreviewColumn::OffsetOfClocks).Text, "5.5");
   EXPECT_EQ(table.At(0, PreviewColumn::OffsetInFile).Background, "FACACA");
   EXPECT_EQ(table.At(0, PreviewColumn::OffsetOfClocks).Background, "FACACA");
+  EXPECT_TRUE(table.At(0, PreviewColumn::OffsetOfClocks).Bold);
   EXPECT_EQ(table.At(0, PreviewColumn::State).Text, "new");
   EXPECT_EQ(table.At(1, PreviewColumn::OffsetInFile).Text, "");
   EXPECT_EQ(table.At(1, PreviewColumn::OffsetOfClocks).Background, "");

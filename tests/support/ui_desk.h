@@ -61,6 +61,11 @@ class ChosenFiles final : public ui::FileDialogs {
                                                     const std::filesystem::path&) override {
     return Chosen;
   }
+  std::vector<std::filesystem::path> ChooseFilesToRead(QWidget* /*parent*/,
+                                                       const std::string& /*title*/,
+                                                       const std::string& /*filter*/) override {
+    return ToRead;
+  }
   std::optional<std::filesystem::path> ChooseFileToWrite(QWidget* /*parent*/,
                                                          const std::string& /*title*/,
                                                          const std::filesystem::path& /*start*/,
@@ -78,6 +83,7 @@ class ChosenFiles final : public ui::FileDialogs {
 
   std::filesystem::path Chosen;
   std::filesystem::path Opened;
+  std::vector<std::filesystem::path> ToRead;
 };
 
 class DeskTest : public testing::Test {

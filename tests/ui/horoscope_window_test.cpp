@@ -58,13 +58,14 @@ TEST_F(HoroscopeWindowTest, TheKeysTurnThroughAllPagesAndEveryTableShowsRows) {
   EXPECT_EQ(turned.join(' '),
             "Chart Significators Matter Four steps Aspects To the second Periods Timeline Transits "
             "Ashtakavarga "
-            "Sequences Birth star Annual chart Lo Shu Vastu Remedies Rectification Chart");
+            "Sequences Birth star Annual chart Lo Shu Vastu Remedies Birth time Chart");
   QTest::keyClick(window_, Qt::Key_PageUp, Qt::ControlModifier);
   QTest::keyClick(window_, Qt::Key_PageUp, Qt::ControlModifier);
-  EXPECT_EQ(pages.currentItem()->text(), "Rectification");
+  EXPECT_EQ(pages.currentItem()->text(), "Birth time");
   for (const TableView* view : window_->findChildren<TableView*>()) {
     // Triggers are searched when they are asked for.
-    if (view->objectName() != "RemedyTable" && view->objectName() != "Triggers") {
+    if (view->objectName() != "RemedyTable" && view->objectName() != "lifeEvents" &&
+        view->objectName() != "Triggers") {
       EXPECT_FALSE(view->Table().Rows.empty()) << view->objectName().toStdString();
     }
   }
@@ -188,7 +189,7 @@ TEST_F(HoroscopeWindowTest, ThePlanOfPadsShowsItsSectorsAndTheDeitiesThatAreStru
 
 TEST_F(HoroscopeWindowTest, RecalculationRefusesWithTheFieldInFocusAndChangesNothingStored) {
   Open();
-  Turn("Rectification");
+  Turn("Birth time");
   const std::string ascendant = Text("workCusps", 0, 1);
   const struct {
     const char* Field;

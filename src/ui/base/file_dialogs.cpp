@@ -23,6 +23,17 @@ std::optional<std::filesystem::path> FileDialogs::ChooseFolder(QWidget* parent,
   return PathOf(QFileDialog::getExistingDirectory(parent, Shown(title), Shown(start.string())));
 }
 
+std::vector<std::filesystem::path> FileDialogs::ChooseFilesToRead(QWidget* parent,
+                                                                  const std::string& title,
+                                                                  const std::string& filter) {
+  std::vector<std::filesystem::path> files;
+  for (const QString& file :
+       QFileDialog::getOpenFileNames(parent, Shown(title), QString(), Shown(filter))) {
+    files.emplace_back(Typed(file));
+  }
+  return files;
+}
+
 std::optional<std::filesystem::path> FileDialogs::ChooseFileToWrite(
     QWidget* parent, const std::string& title, const std::filesystem::path& start,
     const std::string& filter) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 class QPrinter;
 class QWidget;
@@ -21,6 +22,11 @@ class FileDialogs {
   virtual std::optional<std::filesystem::path> ChooseFolder(QWidget* parent,
                                                             const std::string& title,
                                                             const std::filesystem::path& start);
+
+  // Files that exist; none where the user turned back.
+  virtual std::vector<std::filesystem::path> ChooseFilesToRead(QWidget* parent,
+                                                               const std::string& title,
+                                                               const std::string& filter);
 
   // Where to write a file. `start` names the folder and the file proposed, `filter` the kind as
   // "Spreadsheets (*.xlsx)". Asks before a file is replaced.

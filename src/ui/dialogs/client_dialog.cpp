@@ -82,6 +82,13 @@ void ClientDialog::Begin(const QString& name, bool query) {
   kinds_->button(query ? 1 : 0)->setChecked(true);
 }
 
+void ClientDialog::ProposeBirth(core::DateTime birth, const QString& comment) {
+  const QString before = comments_->toPlainText();
+  comments_->setPlainText(before + (before.isEmpty() ? "" : "\n") + comment);
+  moment_->ShowMoment(birth);
+  ShowMoment();
+}
+
 void ClientDialog::Build(const QString& title, const QString& action) {
   setWindowTitle(title);
   auto* foot = new QHBoxLayout;

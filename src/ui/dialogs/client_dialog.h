@@ -36,6 +36,10 @@ class ClientDialog final : public FormDialog {
   // Begins a new client with a name, as a birth or as a query of now.
   void Begin(const QString& name, bool query);
 
+  // Fills in another birth time and adds a line to the comments. To be called before the dialog is
+  // shown; nothing of it is saved until the user saves.
+  void ProposeBirth(core::DateTime birth, const QString& comment);
+
   // The group that a new client goes to.
   std::int32_t GroupId() const;
 

@@ -76,6 +76,12 @@ class HoroscopeDocument final : public QObject {
   // The chart for a changed place or moment; the model stays as it is.
   horoscope::Recalculation Recalculate(const horoscope::RecalculationForm& form);
 
+  // Asks the window to open the client's dialog with another birth time, by the birth's clock, and
+  // a line for the comments.
+  void TakeBirthTime(core::DateTime birth, const QString& comment) {
+    emit BirthTimeTaken(birth, comment);
+  }
+
   // Writes the report of what is shown; an empty path where it was refused with a message.
   std::filesystem::path WriteReport(report::ReportDetail detail);
 
@@ -85,6 +91,7 @@ class HoroscopeDocument final : public QObject {
  signals:
   void Changed();
   void PlanetChosen(const QString& code);
+  void BirthTimeTaken(core::DateTime birth, const QString& comment);
 
  private:
   void ApplyFilter();

@@ -152,6 +152,11 @@ void HoroscopeWindow::LayOut() {
 
 void HoroscopeWindow::Connect() {
   connect(&document_, &HoroscopeDocument::Changed, this, &HoroscopeWindow::ShowModel);
+  connect(&document_, &HoroscopeDocument::BirthTimeTaken, this,
+          [this](core::DateTime birth, const QString& comment) {
+            EditClientWith(
+                [birth, comment](ClientDialog& dialog) { dialog.ProposeBirth(birth, comment); });
+          });
   connect(pages_, &PageStack::PlanetActivated, this, &HoroscopeWindow::ShowPlanetSheet);
   connect(pages_, &PageStack::Told, this, &HoroscopeWindow::Tell);
   told_->setSingleShot(true);
@@ -204,7 +209,7 @@ void HoroscopeWindow::MakeMoreActions() {
   style_ = add(tr("Next &style"), "nextStyle", &HoroscopeWindow::NextStyle);
   more_->addMenu(MakeStyleMenu());
   birthPanel_ = add(tr("&Birth"), "birthPanel", [this] { ShowBirthPanel(birth_->isHidden()); });
-  QAction* rectify = add(tr("Rectify birth &time"), "rectify", [this] { Turn("recalculation"); });
+  QAction* rectify = add(tr("Rectify birth &time"), "rectify", [this] { Turn("birthTime"); });
   rectify->setVisible(!document_.Model().Horary);
   rectify->setEnabled(!document_.Model().Horary);
   add(tr("Judge a &matter"), "judgeMatter", &HoroscopeWindow::JudgeMatter);
@@ -343,16 +348,21 @@ void HoroscopeWindow::PrintCharts() {
   }
 }
 
-// A client whose horoscope is open is not edited: the window closes and opens itself again.
 void HoroscopeWindow::EditClient() {
+  EditClientWith([](ClientDialog& /*dialog*/) {});
+}
+
+// A client whose horoscope is open is not edited: the window closes and opens itself again.
+void HoroscopeWindow::EditClientWith(const std::function<void(ClientDialog&)>& prepare) {
   Workplace& place = document_.Place();
   const std::int32_t client = ClientId();
   close();
   QMetaObject::invokeMethod(
       qApp,
-      [&place, client] {
+      [&place, client, prepare] {
         const std::unique_ptr<ClientDialog> dialog(ClientDialog::ForEdit(place, client));
         if (dialog) {
+          prepare(*dialog);
           dialog->exec();
           OpenHoroscope(place, client);
         }

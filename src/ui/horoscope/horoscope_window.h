@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <memory>
 
 #include "ui/horoscope/horoscope_document.h"
@@ -12,6 +13,7 @@ class QTimer;
 namespace orvex::ui {
 
 class BirthPanel;
+class ClientDialog;
 class ElidedLabel;
 class HeadPane;
 class PageStack;
@@ -64,6 +66,8 @@ class HoroscopeWindow final : public QMainWindow {
   void ShowBirthPanel(bool shown);
   void PrintCharts();
   void EditClient();
+  // Closes the window over the client's dialog, which `prepare` may fill, and opens it again.
+  void EditClientWith(const std::function<void(ClientDialog&)>& prepare);
   void GoToClient(int by);
   void Export(report::ReportDetail detail, bool asPdf);
   std::filesystem::path WriteReport(report::ReportDetail detail, bool asPdf);

@@ -14,12 +14,12 @@
 #include "ui/horoscope/annual_page.h"
 #include "ui/horoscope/aspects_page.h"
 #include "ui/horoscope/birth_star_page.h"
+#include "ui/horoscope/birth_time_page.h"
 #include "ui/horoscope/chart_page.h"
 #include "ui/horoscope/dasha_page.h"
 #include "ui/horoscope/exact_page.h"
 #include "ui/horoscope/lo_shu_page.h"
 #include "ui/horoscope/matter_page.h"
-#include "ui/horoscope/recalculation_page.h"
 #include "ui/horoscope/remedies_page.h"
 #include "ui/horoscope/tables_page.h"
 #include "ui/horoscope/timeline_page.h"
@@ -88,7 +88,7 @@ constexpr std::array<PageEntry, 17> kPages = {{
     {"loShu",         QT_TRANSLATE_NOOP("PageStack", "Lo Shu"),        Tables, Fits::WithBars, &Make<LoShuPage>},
     {"vastu",         QT_TRANSLATE_NOOP("PageStack", "Vastu"),         Tables, Fits::WithBars, &Make<VastuPage>},
     {"remedies",      QT_TRANSLATE_NOOP("PageStack", "Remedies"),      Client, Fits::WithBars, &Make<RemediesPage>},
-    {"recalculation", QT_TRANSLATE_NOOP("PageStack", "Rectification"), Client, Fits::WithBars, &Make<RecalculationPage>},
+    {"birthTime",     QT_TRANSLATE_NOOP("PageStack", "Birth time"),    Client, Fits::WithBars, &Make<BirthTimePage>},
 }};
 // clang-format on
 

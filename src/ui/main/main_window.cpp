@@ -20,6 +20,7 @@
 #include "ui/main/client_commands.h"
 #include "ui/main/client_lists.h"
 #include "ui/main/clients_page.h"
+#include "ui/main/exchange_commands.h"
 #include "ui/main/find_anyone_box.h"
 #include "ui/main/first_run.h"
 #include "ui/main/group_column.h"
@@ -52,6 +53,7 @@ MainWindow::MainWindow(Workplace& place)
       transits_(new TransitCommands(place, *pages_, *this)),
       firstRun_(new FirstRun(place, *commands_->AddClient)),
       search_(new SearchPage(place)),
+      exchange_(new ExchangeCommands(place, *lists_, search_->Results(), *this)),
       bar_(new QStatusBar),
       status_(*bar_, *commands_->UndoDelete) {
   MakeActions();
@@ -98,6 +100,8 @@ void MainWindow::MakeMenus() {
   clients->addSeparator();
   clients->addActions({commands_->InstantChart, filter_, find_, advanced_});
   clients->addSeparator();
+  clients->addActions({exchange_->Import, exchange_->Export});
+  clients->addSeparator();
   clients->addAction(quit_);
   QMenu* groups = menus->Add(tr("&Groups"));
   groups->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
@@ -135,6 +139,12 @@ void MainWindow::Connect() {
     search_->Reload();
   });
   connect(commands_, &ClientCommands::SettingsWanted, this, &MainWindow::OpenSettings);
+  connect(exchange_, &ExchangeCommands::ClientsChanged, commands_, &ClientCommands::ClientsChanged);
+  connect(exchange_, &ExchangeCommands::WritingChanged, sky_, &SkyPanel::Pause);
+  connect(exchange_, &ExchangeCommands::Done, this, [this](const QString& text) {
+    constexpr int kShown = 8000;  // milliseconds
+    bar_->showMessage(text, kShown);
+  });
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->Turn(MainPage::Clients); });
   for (QAction* action : {commands_->View, commands_->Report, commands_->EditClient,

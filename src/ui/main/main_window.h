@@ -15,6 +15,7 @@ namespace orvex::ui {
 class ClientCommands;
 class ClientLists;
 class ClientsPage;
+class ExchangeCommands;
 class FirstRun;
 class MainMenus;
 class MainPages;
@@ -78,6 +79,7 @@ class MainWindow final : public QMainWindow {
   TransitCommands* transits_;
   FirstRun* firstRun_;
   SearchPage* search_;
+  ExchangeCommands* exchange_;
   QStatusBar* bar_;
   StatusPanels status_;
   QAction* settings_ = nullptr;

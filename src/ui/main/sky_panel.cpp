@@ -54,7 +54,17 @@ SkyPanel::SkyPanel(Workplace& place, QWidget* parent)
 
 void SkyPanel::StartTimer() { minute_.start(); }
 
+void SkyPanel::Pause(bool paused) {
+  paused_ = paused;
+  if (!paused) {
+    Refresh();
+  }
+}
+
 void SkyPanel::Refresh() {
+  if (paused_) {
+    return;
+  }
   panchang::GetCurrentTransit(place_.Session, view_);
   if (!IsFolded()) {
     column_->ShowView(view_);

@@ -25,6 +25,9 @@ class SkyPanel final : public QWidget {
   void Refresh();
   // From here on once a minute.
   void StartTimer();
+  // While it is paused the sky stands still; then it is refreshed. The sky writes its positions in
+  // a batch, and batches do not nest.
+  void Pause(bool paused);
 
   const panchang::SkyView& View() const { return view_; }
 
@@ -56,6 +59,7 @@ class SkyPanel final : public QWidget {
   bool narrow_ = false;
   bool foldedWide_ = false;
   bool foldedNarrow_ = true;
+  bool paused_ = false;
 };
 
 }  // namespace orvex::ui

@@ -1,42 +1,46 @@
-// The chart for another place or birth time, beside what it changes. Nothing is saved.
+// The chart for another place or birth time, step by step, beside what it changes. Nothing is
+// saved.
 #pragma once
 
-#include "ui/base/table_view.h"
-#include "ui/horoscope/horoscope_page.h"
+#include <QWidget>
+
+#include "ui/horoscope/horoscope_document.h"
 
 class QComboBox;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
-class QVBoxLayout;
 
 namespace orvex::ui {
 
-class RecalculationPage final : public HoroscopePage {
+class MovedTables;
+
+class BirthSteps final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit RecalculationPage(HoroscopeDocument& document);
+  // `side` is the width in pixels of what is typed.
+  BirthSteps(HoroscopeDocument& document, int side);
 
-  void ShowModel() override;
+  // Begins at the birth when it is first shown; later it stays where the user has stepped to.
+  void ShowModel();
 
  private:
-  QVBoxLayout* LayOutEntries();
-  QGroupBox* LayOutPlace();
-  QGroupBox* LayOutTime();
-  QWidget* LayOutResults();
+  QWidget* LayOutEntries(int side);
+  QWidget* LayOutPlace();
+  QWidget* LayOutTime();
   void Connect();
 
   void FillForm();
+  horoscope::RecalculationForm Form() const;
   // Computes what the fields say; false where it was refused.
   bool Recalculate();
   void Step(int direction);
   void ReturnToBirth();
   void ShowRefusal(const core::Refusal& refused);
-  void ShowResult(const horoscope::Recalculation& result);
 
+  HoroscopeDocument& document_;
   QLineEdit* offset_;
   QLineEdit* latitude_;
   QLineEdit* longitude_;
@@ -47,10 +51,7 @@ class RecalculationPage final : public HoroscopePage {
   QPushButton* earlier_;
   QPushButton* later_;
   QPushButton* reset_;
-  TableView* cusps_;
-  TableView* planets_;
-  QLabel* balance_;
-  TableView* dashas_;
+  MovedTables* tables_;
 
   horoscope::BirthShift shift_;
   horoscope::Recalculation ofBirth_;  // what the results are compared with
