@@ -138,6 +138,20 @@ std::string LoShuNumbersHtml(const core::Table& numbers) {
   return html + "</table>\n";
 }
 
+// A section as the shipped template has its own. Its tables are the program's; captions may name
+// what a user typed.
+std::string SectionHtml(const ReportSection& section) {
+  std::string html =
+      "\n\n<section class=\"page\">\n  <h2>" + EscapeHtml(section.Caption) + "</h2>\n";
+  for (const ReportPart& part : section.Parts) {
+    const auto& table = std::get<ReportTable>(part.Body);
+    html += "  <h3>" + EscapeHtml(part.Caption) + "</h3>\n  <div class=\"wide\">" +
+            RenderTable(table.Table) + "</div>\n";
+    html += table.Table.Rows.empty() ? "  <p>" + table.WhenEmpty + "</p>\n" : "";
+  }
+  return html + "</section>";
+}
+
 void ReplaceLast(const core::Session& session, const chart::HoroscopeModel& model, Page& page) {
   ReplaceScalars(ProfileOf(session.State), page);
   page.Replace("LOSHUGRID", LoShuGridHtml(model.LoShuCellText));
@@ -167,7 +181,8 @@ std::string PictureTag(const ReportRequest& request, const ChartPicture& picture
 
 std::string FillTemplate(const core::Session& session, const chart::HoroscopeModel& model,
                          ReportDetail detail, const ChartFragments& charts,
-                         const std::string& templateText) {
+                         const std::string& templateText,
+                         const std::optional<ReportSection>& matter) {
   Page page(templateText);
   page.Replace("RASHICHART", charts.Rashi);
   page.Replace("KPCHART", charts.Chalit);
@@ -178,12 +193,22 @@ std::string FillTemplate(const core::Session& session, const chart::HoroscopeMod
   page.Replace("DBA2", DashaTableHtml(periods[1]));
   page.Replace("DBA3", DashaTableHtml(periods[2]));
   ReplaceLast(session, model, page);
+  page.Replace("MATTER", matter ? SectionHtml(*matter) : "");
   return page.Text();
 }
 
 std::filesystem::path GenerateHoroscopeView(core::Session& session,
                                             const horoscope::OpenedHoroscope& opened,
                                             const ReportRequest& request) {
+  core::StagedFiles files;
+  std::filesystem::path file = StageHoroscopeView(session, opened, request, files);
+  files.Commit();
+  return file;
+}
+
+std::filesystem::path StageHoroscopeView(core::Session& session,
+                                         const horoscope::OpenedHoroscope& opened,
+                                         const ReportRequest& request, core::StagedFiles& files) {
   std::string templateText;
   const bool readable =
       core::Attempt([&] { templateText = core::ReadTextFile(session.Place.ReportTemplate()); });
@@ -198,7 +223,6 @@ std::filesystem::path GenerateHoroscopeView(core::Session& session,
   }
   const ChartCells cells = BuildChartCells(opened.Model);
   const std::string clientId = core::WholeText(opened.Model.ClientId);
-  core::StagedFiles files;
   ChartFragments charts;
   if (request.Style == 'S') {
     charts = {SouthGridHtml(cells.SouthRashi), SouthGridHtml(cells.SouthKP)};
@@ -209,8 +233,8 @@ std::filesystem::path GenerateHoroscopeView(core::Session& session,
                          folder / ("Chalit-" + clientId + ".bmp"), files)};
   }
   std::filesystem::path file = folder / (clientId + ".htm");
-  files.Add(file, FillTemplate(session, opened.Model, request.Detail, charts, templateText));
-  files.Commit();
+  files.Add(file, FillTemplate(session, opened.Model, request.Detail, charts, templateText,
+                               request.Matter));
   return file;
 }
 

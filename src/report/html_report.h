@@ -7,9 +7,10 @@
 #include <string>
 
 #include "core/session.h"
+#include "core/staged_files.h"
 #include "horoscope/create_horoscope.h"
 #include "report/chart_picture.h"
-#include "report/report_tables.h"
+#include "report/report_content.h"
 
 namespace orvex::report {
 
@@ -20,6 +21,7 @@ struct ReportRequest {
   ReportDetail Detail = ReportDetail::DB;
   char Style = 'N';
   ChartPainter Paint;  // not used for style 'S'
+  std::optional<ReportSection> Matter;
 };
 
 // Writes <clientid>.htm into the chart folder, beside it the two pictures for styles 'N' and 'E',
@@ -31,13 +33,21 @@ std::filesystem::path GenerateHoroscopeView(core::Session& session,
                                             const horoscope::OpenedHoroscope& opened,
                                             const ReportRequest& request);
 
-// The report's text for a template. Charts are as in `charts`: two fragments of HTML.
+// The same into files that get their places when the caller commits them.
+std::filesystem::path StageHoroscopeView(core::Session& session,
+                                         const horoscope::OpenedHoroscope& opened,
+                                         const ReportRequest& request, core::StagedFiles& files);
+
+// The report's text for a template. Charts are as in `charts`: two fragments of HTML. The matter
+// that the report carries, tables under their captions, stands for [MATTER]; without one nothing
+// does.
 struct ChartFragments {
   std::string Rashi;
   std::string Chalit;
 };
 std::string FillTemplate(const core::Session& session, const chart::HoroscopeModel& model,
                          ReportDetail detail, const ChartFragments& charts,
-                         const std::string& templateText);
+                         const std::string& templateText,
+                         const std::optional<ReportSection>& matter = std::nullopt);
 
 }  // namespace orvex::report

@@ -3,6 +3,7 @@
 // periods that run.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "horoscope/create_horoscope.h"
@@ -53,6 +54,7 @@ struct KpSheet {
   core::Table Cusps;
   core::Table RulingPlanets;
   core::Table Periods;
+  std::optional<ReportSection> Matter;  // the matter that the sheet carries: tables
 };
 
 // The sheet of a client in that style ('N', 'E', else 'S'). Cusps and planets are those of the

@@ -72,7 +72,8 @@ ReportPart Bare(const core::Table& table) { return {"", ReportTable{table, "", f
 }  // namespace
 
 ReportContent ContentOf(const core::Session& session, const chart::HoroscopeModel& model,
-                        ReportDetail detail, char style) {
+                        ReportDetail detail, char style,
+                        const std::optional<ReportSection>& matter) {
   const std::vector<ReportScalar> scalars = ScalarsOf(model);
   const core::ApplicationState& state = session.State;
   ReportContent content;
@@ -107,6 +108,9 @@ ReportContent ContentOf(const core::Session& session, const chart::HoroscopeMode
        {{"", ReportTable{model.RemedyTable, kNoRemedies, true}},
         {"Notes", TextOf(scalars, "COMMENTS")}}},
       {"Vimshottari periods", {{"", PeriodsOfReport(session.Reference, model, detail)}}}};
+  if (matter) {
+    content.Sections.push_back(*matter);
+  }
   return content;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -52,8 +53,10 @@ struct ReportContent {
   std::vector<ReportSection> Sections;
 };
 
-// Everything that the report of an open horoscope shows, with charts in that style.
+// Everything that the report of an open horoscope shows, with charts in that style. The matter that
+// it carries, where it does, is its last section.
 ReportContent ContentOf(const core::Session& session, const chart::HoroscopeModel& model,
-                        ReportDetail detail, char style);
+                        ReportDetail detail, char style,
+                        const std::optional<ReportSection>& matter = std::nullopt);
 
 }  // namespace orvex::report

@@ -8,6 +8,7 @@
 #include "judgement/matter_chain.h"
 #include "judgement/matter_periods.h"
 #include "judgement/matter_planets.h"
+#include "judgement/matter_section.h"
 #include "judgement/rulers.h"
 #include "support/model_builder.h"
 #include "support/test_home.h"
@@ -132,6 +133,33 @@ TEST(MatterPeriods, AreThoseThatTouchTheWindowTheHighestScoreFirstThenTheEarlies
       BuildMatterPeriods(tree, Planets(Marriage()), test::Moment("1960-03-02 10:00"), window);
   EXPECT_EQ(old.At(1, MatterPeriodColumn::Age).Text, "39");
   EXPECT_EQ(old.At(3, MatterPeriodColumn::Age).Text, "40");
+}
+
+TEST(MatterSection, PapersCarryTheTablesOfAMatterAndTheSheetTheBestPeriods) {
+  Judgement judged;
+  judged.MatterChain.Columns = {{"Role"}};
+  judged.MatterPeriods.Columns = {{"Dasha"}};
+  for (const char* dasha : {"1", "2", "3", "4", "5", "6", "7"}) {
+    judged.MatterPeriods.AddRow().Cells[0].Text = dasha;
+  }
+  const auto captions = [](const report::ReportSection& section) {
+    std::string all = section.Caption;
+    for (const report::ReportPart& part : section.Parts) {
+      all += ", " + part.Caption;
+    }
+    return all;
+  };
+  const auto periods = [](const report::ReportSection& section) {
+    return LinesOf(std::get<report::ReportTable>(section.Parts.back().Body).Table);
+  };
+  const report::ReportSection report = SectionOfReport(Marriage(), judged);
+  EXPECT_EQ(captions(report),
+            "Marriage: 7 | 2 11 | 1 6 10, Main cusp, Grades of the houses, Planets, Ruling planets "
+            "at the judgement, Periods");
+  EXPECT_EQ(periods(report).size(), 7U);
+  const report::ReportSection sheet = SectionOfSheet(Marriage(), judged);
+  EXPECT_EQ(captions(sheet), "Marriage: 7 | 2 11 | 1 6 10, Main cusp, Planets, Periods");
+  EXPECT_EQ(periods(sheet), (Lines{"1", "2", "3", "4", "5"}));
 }
 
 }  // namespace

@@ -112,6 +112,32 @@ TEST_F(HtmlReport, PlaceholdersAreReplacedInTheirOrder) {
             "6 PM");
 }
 
+TEST_F(HtmlReport, AMatterIsTheLastSectionAndWithoutOneNothingIsLeft) {
+  const std::string shipped = test::ReadFile(test::DataFolder() / "HoroscopeTemplate.htm");
+  const std::string plain = Filled(shipped);
+  ASSERT_EQ(CountOf(shipped, "[MATTER]"), 1U);
+  EXPECT_EQ(plain, Filled(core::ReplaceAll(shipped, "[MATTER]", "")));
+  core::Table planets{{{"Planet"}, {"Hidden", 0}, {"Grade"}}, {}};
+  planets.AddRow().Cells = {{"Sun"}, {"never"}, {"A"}};
+  const ReportSection matter{
+      "Post <b> [DBA1]: 10 | 2",
+      {{"Planets", ReportTable{planets, "", true}},
+       {"Periods", ReportTable{core::Table{{{"Dasha"}}, {}}, "No period", true}}}};
+  std::string text =
+      FillTemplate(*session_, Open().Model, ReportDetail::DB, {"R", "K"}, shipped, matter);
+  const std::size_t at =
+      text.find("\n\n<section class=\"page\">\n  <h2>Post &lt;b&gt; &#91;DBA1]: 10");
+  ASSERT_NE(at, std::string::npos);
+  EXPECT_GT(at, text.find("<h2>Vimshottari periods"));
+  const std::string end = "</section>";
+  const std::size_t length = text.find(end, at) + end.size() - at;
+  const std::string section = text.substr(at, length);
+  EXPECT_LT(section.find("<h3>Planets</h3>"), section.find(">Sun</font>"));
+  EXPECT_EQ(CountOf(section, "never"), 0U);
+  EXPECT_EQ(CountOf(section, "<p>No period</p>"), 1U);
+  EXPECT_EQ(text.erase(at, length), plain) << "all else stays as it was";
+}
+
 TEST_F(HtmlReport, PeriodsStandInThreeTablesOfThreeDashas) {
   const std::pair<ReportDetail, std::size_t> depths[] = {
       {ReportDetail::DB, 27}, {ReportDetail::DBA, 243}, {ReportDetail::DBAS, 2187}};

@@ -76,7 +76,7 @@ void PaintLoShu(QPainter& painter, const QRectF& box, const report::ReportLoShu&
 
 std::vector<PageBlock> BlocksOf(const report::ReportLoShu& cells) {
   constexpr double kWidth = 0.4;
-  constexpr double kAspect = 0.6;
+  constexpr double kAspect = 0.78;  // four lines a cell
   return {{PageFigures{{{"", kWidth, kAspect, [cells](QPainter& painter, const QRectF& box) {
                            PaintLoShu(painter, box, cells);
                          }}}}}};
@@ -108,19 +108,6 @@ std::vector<PageBlock> BlocksOf(const std::string& text) {
   return {{PageText{PageRole::Body, DocumentText(text)}}};
 }
 
-void AddSection(const report::ReportSection& section, std::vector<PageBlock>& blocks) {
-  blocks.push_back({PageText{PageRole::Section, OneLine(section.Caption)}});
-  for (const report::ReportPart& part : section.Parts) {
-    if (!part.Caption.empty()) {
-      blocks.push_back({PageText{PageRole::Part, OneLine(part.Caption)}});
-    }
-    for (PageBlock& block :
-         std::visit([](const auto& body) { return BlocksOf(body); }, part.Body)) {
-      blocks.push_back(std::move(block));
-    }
-  }
-}
-
 QString FootOf(const ReportContent& content) {
   QStringList texts;
   AddTo(texts, OneLine(content.Astrologer));
@@ -147,6 +134,19 @@ PageTable PageTableOf(const core::Table& table) {
     shown.Rows.push_back(std::move(cells));
   }
   return shown;
+}
+
+void AddSection(const report::ReportSection& section, std::vector<PageBlock>& blocks) {
+  blocks.push_back({PageText{PageRole::Section, OneLine(section.Caption)}});
+  for (const report::ReportPart& part : section.Parts) {
+    if (!part.Caption.empty()) {
+      blocks.push_back({PageText{PageRole::Part, OneLine(part.Caption)}});
+    }
+    for (PageBlock& block :
+         std::visit([](const auto& body) { return BlocksOf(body); }, part.Body)) {
+      blocks.push_back(std::move(block));
+    }
+  }
 }
 
 PageDocument ReportDocument(const ReportContent& content) {

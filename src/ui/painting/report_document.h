@@ -12,6 +12,9 @@ namespace orvex::ui {
 // A table as pages show it: its shown columns, good and hard cells in their inks.
 PageTable PageTableOf(const core::Table& table);
 
+// A section of a report: its caption, then its parts.
+void AddSection(const report::ReportSection& section, std::vector<PageBlock>& blocks);
+
 PageDocument ReportDocument(const report::ReportContent& content);
 
 // Writes a report on A4 pages, private, whole or not at all. False where the work was ended.

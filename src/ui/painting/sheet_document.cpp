@@ -61,6 +61,9 @@ PageDocument SheetDocument(const report::KpSheet& sheet) {
   document.Blocks.push_back(TableBlock(sheet.Planets));
   document.Blocks.push_back(Caption("Cusps and significators"));
   document.Blocks.push_back(TableBlock(sheet.Cusps, sheet.Message.c_str()));
+  if (sheet.Matter) {
+    AddSection(*sheet.Matter, document.Blocks);
+  }
   return document;
 }
 
