@@ -33,6 +33,7 @@ owned "Only the gateway knows the ephemeris library:" swephexp.h src/astro/ephem
 owned "Only the store knows its engine:" sqlite3.h src/core/store.cpp
 owned "Only the calendar file knows its library:" libical/ical.h src/transit/calendar_file.cpp
 owned "Only the export knows the spreadsheet library:" xlsxwriter.h src/practice/export_list.cpp
+forbid "Only the outline knows the PDF library:" '# *include *[<"]qpdf/' src/ui/painting/pdf_outline.cpp
 forbid "Below the windows nothing knows Qt:" '# *include *[<"]Q' 'src/ui/.*'
 
 globs=$(git ls-files '*CMakeLists.txt' '*.cmake' | xargs grep -niE 'file *\( *GLOB' || true)

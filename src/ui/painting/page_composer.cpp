@@ -198,8 +198,13 @@ QSizeF PageSetup::Size() const {
   return (Landscape ? points.transposed() : points) * kPointsToUnits;
 }
 
+double PageSetup::Part() const {
+  const double ofA4 = QPageSize(QPageSize::A4).size(QPageSize::Point).width() * kPointsToUnits;
+  return std::min(1.0, std::min(Size().width(), Size().height()) / ofA4);
+}
+
 QRectF PageSetup::Body() const {
-  const double mm = kUnitsOfMillimetre * std::min(1.0, Size().width() / QSizeF(5950, 8420).width());
+  const double mm = kUnitsOfMillimetre * Part();
   const QSizeF size = Size();
   return {kSide * mm, kTop * mm, size.width() - 2 * kSide * mm,
           size.height() - (kTop + kBottom) * mm};

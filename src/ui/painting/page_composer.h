@@ -19,6 +19,7 @@ struct PageSetup {
 
   QSizeF Size() const;  // of the paper, in tenths of a point
   QRectF Body() const;  // where the content stands
+  double Part() const;  // of A4, by the shorter side, at most 1: margins, running head and foot
 };
 
 struct PlacedSlab {

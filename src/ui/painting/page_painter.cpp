@@ -72,19 +72,22 @@ void PaintSlab(QPainter& painter, TextPainter& texts, const PlacedSlab& placed,
 
 void PaintRunning(TextPainter& texts, const ComposedDocument& document, std::size_t page) {
   const QRectF body = document.Setup.Body();
-  const QFontMetricsF metrics(FontOf(kRunning));
+  const double part = document.Setup.Part();
+  PageFont font = kRunning;
+  font.Size = static_cast<int>(font.Size * part);
+  const QFontMetricsF metrics(FontOf(font));
   const QColor muted(ink::kMuted);
   if (page > 0) {
-    texts.Draw({body.left(), body.top() - kHeadAbove},
-               metrics.elidedText(document.Head, Qt::ElideRight, body.width()), kRunning, muted);
+    texts.Draw({body.left(), body.top() - kHeadAbove * part},
+               metrics.elidedText(document.Head, Qt::ElideRight, body.width()), font, muted);
   }
   const QString number = QString("%1 / %2").arg(page + 1).arg(document.Pages.size());
   const double width = metrics.horizontalAdvance(number);
-  const double base = body.bottom() + kFootBelow;
+  const double base = body.bottom() + kFootBelow * part;
   texts.Draw({body.left(), base},
-             metrics.elidedText(document.Foot, Qt::ElideRight, body.width() - 2 * width), kRunning,
+             metrics.elidedText(document.Foot, Qt::ElideRight, body.width() - 2 * width), font,
              muted);
-  texts.Draw({body.right() - width, base}, number, kRunning, muted);
+  texts.Draw({body.right() - width, base}, number, font, muted);
 }
 
 }  // namespace
