@@ -1,10 +1,7 @@
 // What charts and graphs must show where a glance at a usual picture would not miss it.
 #include <gtest/gtest.h>
 
-#include <QBuffer>
 #include <QImage>
-#include <QPageLayout>
-#include <QPdfWriter>
 #include <algorithm>
 #include <cmath>
 
@@ -16,6 +13,7 @@
 #include "ui/painting/graph_files.h"
 #include "ui/painting/month_graph.h"
 #include "ui/painting/offscreen.h"
+#include "ui/painting/page_painter.h"
 
 namespace orvex::ui {
 namespace {
@@ -116,20 +114,27 @@ TEST(TimelineRules, APeriodRunsFromItsFirstDayToTheDayBeforeTheNext) {
   }
 }
 
-TEST_F(PaintingRules, GraphsPrintOnALandscapeSheetOfA4) {
-  QBuffer bytes;
-  bytes.open(QIODevice::WriteOnly);
-  QPdfWriter device(&bytes);
+TEST_F(PaintingRules, AGraphOnAPageIsLightAndAsTallAsAPageAcrossHoldsUnderATitle) {
   QRectF sheet;
-  ASSERT_TRUE(PrintGraph(
-      [&sheet](QPainter& /*painter*/, const QRectF& area, Ground ground) {
-        sheet = area;
+  const PageFigure figure =
+      GraphFigure([&sheet](QPainter& painter, const QRectF& area, Ground ground) {
+        sheet = painter.transform().mapRect(area);
         EXPECT_EQ(ground, Ground::Light);
-      },
-      device));
-  EXPECT_EQ(device.pageLayout().orientation(), QPageLayout::Landscape);
-  EXPECT_EQ(device.pageLayout().pageSize().id(), QPageSize::A4);
-  EXPECT_GT(sheet.width(), sheet.height());
+      });
+  const ComposedDocument composed = Compose({"",
+                                             "",
+                                             "",
+                                             "",
+                                             {{PageText{PageRole::Title, "T"}},
+                                              {PageText{PageRole::Section, "S"}},
+                                              {PageFigures{{figure}}}}},
+                                            {QPageSize(QPageSize::A4), true, {}});
+  ASSERT_EQ(composed.Pages.size(), 1U);
+  QImage image(composed.Setup.Size().toSize(), QImage::Format_Grayscale8);
+  QPainter painter(&image);
+  PaintPage(painter, composed, 0);
+  EXPECT_NEAR(sheet.width(), composed.Setup.Body().width(), 2);
+  EXPECT_LT(sheet.bottom(), composed.Setup.Body().bottom());
 }
 
 // A month of one planet as SVG; its texts and strokes can be read there.

@@ -1,46 +1,27 @@
 // The PDF of a report, read back by another program: every text of it, its pages and properties.
 #include <gtest/gtest.h>
-#include <stdio.h>
 
 #include <QRegularExpression>
 #include <QString>
-#include <array>
 
 #include "chart/client_saving.h"
 #include "horoscope/create_horoscope.h"
 #include "practice/remedies.h"
+#include "report/kp_sheet.h"
 #include "report/report_content.h"
+#include "support/pdf_text.h"
 #include "support/test_home.h"
 #include "ui/painting/offscreen.h"
 #include "ui/painting/pdf_file.h"
 #include "ui/painting/report_document.h"
+#include "ui/painting/sheet_document.h"
 
 namespace orvex::ui {
 namespace {
 
 using report::ReportDetail;
-
-// What a program writes to its standard output.
-std::string OutputOf(const std::string& call) {
-  std::string text;
-  FILE* pipe = ::popen(call.c_str(), "r");
-  std::array<char, 4096> piece{};
-  for (std::size_t count = 0; (count = ::fread(piece.data(), 1, piece.size(), pipe)) > 0;) {
-    text.append(piece.data(), count);
-  }
-  EXPECT_EQ(::pclose(pipe), 0) << call;
-  return text;
-}
-
-QString Squeezed(const std::string& text) {
-  QString squeezed;
-  for (const QChar c : QString::fromStdString(text)) {
-    if (!c.isSpace() && c.category() != QChar::Other_Control) {
-      squeezed += c;
-    }
-  }
-  return squeezed;
-}
+using test::OutputOf;
+using test::Squeezed;
 
 // The text of the pages in the order in which it was set, without the running heads and feet and
 // without blanks; it is read piece by piece.
@@ -203,6 +184,28 @@ TEST_F(ReportPdf, EveryCellOfEverySectionIsReadBackInItsOrder) {
   for (const auto& [detail, style] :
        {std::pair{ReportDetail::DB, 'N'}, {ReportDetail::DBA, 'S'}, {ReportDetail::DBAS, 'E'}}) {
     ExpectAll(Content(client, detail, style));
+  }
+}
+
+TEST_F(ReportPdf, AMatterIsTheLastSectionOfReportAndSheet) {
+  const std::int32_t client = Save("Asha Rao", "");
+  const horoscope::OpenedHoroscope opened = horoscope::CreateHoroscope(*session_, client).value();
+  const report::ReportSection matter{
+      "Post <b>: 10 | 2",
+      {{"Planets", report::ReportTable{opened.Model.PlanetLevels, "", true}},
+       {"Periods", report::ReportTable{{{{"Dasha"}}, {}}, "No period", true}}}};
+  ExpectAll(report::ContentOf(*session_, opened.Model, ReportDetail::DB, 'N', matter));
+  report::KpSheet sheet = report::SheetOf(*session_, opened, 'N');
+  const std::filesystem::path file = home_.Place.Folder / "sheet.pdf";
+  for (const auto paper : {QPageSize::A4, QPageSize::A5}) {
+    sheet.Matter = matter;
+    WriteSheetPdf(sheet, QPageSize(paper), file);
+    const QString text = Squeezed(OutputOf("pdftotext -raw '" + file.string() + "' -"));
+    const QString rows = Squeezed(opened.Model.PlanetLevels.Rows.back().Cells.front().Text);
+    EXPECT_GT(text.indexOf(rows, text.indexOf("Post<b>:10|2Planets")), 0);
+    EXPECT_TRUE(text.contains("PeriodsDashaNoperiod"));
+    EXPECT_NE(OutputOf("pdfinfo '" + file.string() + "'").find("Pages:           1\n"),
+              std::string::npos);
   }
 }
 

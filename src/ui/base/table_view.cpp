@@ -27,7 +27,7 @@ constexpr int kWidestColumn = 45 * kGrid;
 constexpr int kWidestTable = 80 * kGrid;
 
 // A cell's text in one line between tabs.
-QString OneLine(const std::string& text) {
+QString CopiedCell(const std::string& text) {
   return Shown(text).replace('\t', ' ').replace('\n', ' ').remove('\r');
 }
 
@@ -160,7 +160,7 @@ QString TableView::AsTabbedText() const {
   QStringList captions;
   for (int column = 0; column < model_->columnCount(); ++column) {
     if (!isColumnHidden(column)) {
-      captions << OneLine(Table().Columns[static_cast<std::size_t>(column)].Caption);
+      captions << CopiedCell(Table().Columns[static_cast<std::size_t>(column)].Caption);
     }
   }
   QString text = captions.join('\t') + '\n';
@@ -171,7 +171,7 @@ QString TableView::AsTabbedText() const {
     QStringList cells;
     for (int column = 0; column < model_->columnCount(); ++column) {
       if (!isColumnHidden(column)) {
-        cells << OneLine(Typed(model_->index(row, column).data().toString()));
+        cells << CopiedCell(Typed(model_->index(row, column).data().toString()));
       }
     }
     text += cells.join('\t') + '\n';

@@ -3,15 +3,14 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QHelpEvent>
-#include <QPrinter>
 #include <QPushButton>
 #include <QToolTip>
 
-#include "core/home.h"
 #include "core/own_files.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_print.h"
 #include "ui/painting/graph_files.h"
 
 namespace orvex::ui {
@@ -30,7 +29,6 @@ GraphView::GraphView(Workplace& place)
       print_(new QAction(tr("&Print…"), this)),
       save_(new QAction(tr("Save as S&VG…"), this)) {
   print_->setObjectName("printGraph");
-  print_->setShortcut(QKeySequence::Print);
   save_->setObjectName("saveGraph");
   save_->setShortcut(QKeySequence::Save);
   for (QAction* action : {print_, save_}) {
@@ -53,25 +51,12 @@ GraphPainting GraphView::OnPaper() const {
   };
 }
 
+std::vector<PageBlock> GraphView::PrintedBlocks() const {
+  return {{PageFigures{{GraphFigure(OnPaper())}}}};
+}
+
 void GraphView::Print() {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setDocName(WithoutControls(Title()));
-  printer.setPageOrientation(QPageLayout::Landscape);
-  if (!place_.Files.ChoosePrinter(this, printer)) {
-    return;
-  }
-  try {
-    // A file that stands there, empty, keeps its rights when the printer fills it.
-    if (!printer.outputFileName().isEmpty()) {
-      core::CheckFileToWrite(place_.Session, Typed(printer.outputFileName()));
-      core::WriteFileSafely(Typed(printer.outputFileName()), "");
-    }
-    if (!PrintGraph(OnPaper(), printer)) {
-      Complain(place_.Session.Shown, "The graph could not be printed.");
-    }
-  } catch (const std::exception& error) {
-    Complain(place_.Session.Shown, error.what());
-  }
+  PrintWithPreview(place_, *this, PrintoutOf(*this, {Shown(Title()), {}, {}}, place_.Session));
 }
 
 void GraphView::SaveAsSvg() {

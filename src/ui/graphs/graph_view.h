@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <initializer_list>
 
+#include "ui/base/shown_page.h"
 #include "ui/base/workplace.h"
 #include "ui/painting/graph_style.h"
 
@@ -12,17 +13,19 @@ class QHBoxLayout;
 
 namespace orvex::ui {
 
-class GraphView : public QWidget {
+class GraphView : public QWidget, public PrintsItself {
   Q_OBJECT
 
  public:
   explicit GraphView(Workplace& place);
 
-  // Asks for a printer and sets the graph on one landscape A4 page.
+  // Shows the graph as a page under its title, to be printed.
   void Print();
 
   // Asks for a file and writes the graph there.
   void SaveAsSvg();
+
+  std::vector<PageBlock> PrintedBlocks() const override;
 
   // The actions of every graph, for buttons and menus.
   QAction* PrintAction() const { return print_; }

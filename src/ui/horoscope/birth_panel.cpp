@@ -8,6 +8,7 @@
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/field_label.h"
+#include "ui/painting/page_fonts.h"
 
 namespace orvex::ui {
 
@@ -80,6 +81,15 @@ void BirthPanel::ShowModel() {
   for (std::size_t i = 0; i < kFields.size(); ++i) {
     values_.at(i)->setText(ValueOf(document_.Model().Captions, kFields.at(i)));
   }
+}
+
+std::vector<PageBlock> BirthPanel::PrintedBlocks() const {
+  PageFacts facts;
+  for (std::size_t i = 0; i < kFields.size(); ++i) {
+    facts.Facts.push_back(
+        {tr(kFields.at(i).Label), PlainText(ValueOf(document_.Model().Captions, kFields.at(i)))});
+  }
+  return {{PageText{PageRole::Part, tr("Birth")}}, {facts}};
 }
 
 }  // namespace orvex::ui

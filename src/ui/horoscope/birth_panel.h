@@ -4,19 +4,22 @@
 #include <QWidget>
 #include <vector>
 
+#include "ui/base/shown_page.h"
 #include "ui/horoscope/horoscope_document.h"
 
 namespace orvex::ui {
 
 class ElidedLabel;
 
-class BirthPanel final : public QWidget {
+class BirthPanel final : public QWidget, public PrintsItself {
   Q_OBJECT
 
  public:
   explicit BirthPanel(HoroscopeDocument& document);
 
   void ShowModel();
+
+  std::vector<PageBlock> PrintedBlocks() const override;
 
  private:
   HoroscopeDocument& document_;

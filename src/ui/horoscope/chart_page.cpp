@@ -219,14 +219,15 @@ void ChartPage::ShowModel() {
 }
 
 void ChartPage::ShowRulingPlanets() {
-  if (whose_->Chosen() == 1) {
+  const bool now = whose_->Chosen() == 1;
+  ruling_->View().setAccessibleName(now ? tr("%1 now").arg(ruling_->Title().text())
+                                        : ruling_->Title().text());
+  if (now) {
     ruling_->ShowTable(Document().RulingPlanetsNow());
   } else {
     ruling_->ShowModel();
   }
 }
-
-void ChartPage::ShowRulingPlanetsOfBirth() { whose_->Choose(0); }
 
 bool ChartPage::ShowsBirth() const { return isVisible() && birth_->isVisible(); }
 

@@ -22,9 +22,6 @@ class ChartPage final : public HoroscopePage {
 
   void ShowModel() override;
 
-  // The ruling planets of the birth, as reports have them.
-  void ShowRulingPlanetsOfBirth();
-
   // Whether the captions of the birth are in sight.
   bool ShowsBirth() const;
 

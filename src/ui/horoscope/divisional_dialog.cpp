@@ -5,6 +5,7 @@
 
 #include "ui/base/chart_view.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/shown_page.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/catalogue_table.h"
 #include "vedic/divisional.h"
@@ -29,8 +30,12 @@ DivisionalDialog::DivisionalDialog(const horoscope::OpenedHoroscope& opened, cha
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   grid->setHorizontalSpacing(kMargin);
-  grid->addWidget(MakeHeading("Navamsha (D9):"), 0, 0);
-  grid->addWidget(MakeHeading("Dashamsha (D10):"), 0, 1);
+  // On paper the charts have their titles themselves.
+  for (const auto& [column, title] : {std::pair(0, "Navamsha (D9):"), {1, "Dashamsha (D10):"}}) {
+    QLabel* heading = MakeHeading(title);
+    LeaveUnprinted(*heading);
+    grid->addWidget(heading, 0, column);
+  }
   grid->addWidget(navamsha_, 1, 0);
   grid->addWidget(dashamsha_, 1, 1);
   grid->setRowStretch(1, 1);

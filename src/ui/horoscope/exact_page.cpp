@@ -70,7 +70,9 @@ QHBoxLayout* ExactPage::LayOutHead() {
           [this](int part) { ChooseReading(static_cast<exact::Reading>(part)); });
   captions_->setWordWrap(true);
   auto* head = new QHBoxLayout;
-  head->addWidget(new FieldLabel(tr("Ayanamsa")));
+  auto* name = new FieldLabel(tr("Ayanamsa"));
+  name->setBuddy(ayanamsa_);
+  head->addWidget(name);
   head->addWidget(ayanamsa_);
   head->addWidget(captions_, 1);
   return head;

@@ -5,19 +5,13 @@
 
 #include "chart/aspects.h"
 #include "chart/transit_now.h"
+#include "judgement/matter_section.h"
 #include "panchang/sky_view.h"
 #include "practice/remedies.h"
 #include "ui/base/qt_text.h"
 #include "ui/horoscope/period_columns.h"
-#include "ui/painting/picture_files.h"
 
 namespace orvex::ui {
-
-namespace {
-
-constexpr int kPictureSide = 720;
-
-}  // namespace
 
 HoroscopeDocument::HoroscopeDocument(Workplace& place, horoscope::OpenedHoroscope opened)
     : place_(place), opened_(std::move(opened)), style_(place.Session.State.DefaultChartType) {
@@ -92,6 +86,24 @@ void HoroscopeDocument::ReadSkyAgain() {
   emit Changed();
 }
 
+std::optional<report::ReportSection> HoroscopeDocument::JudgedForReport() const {
+  if (!judged_) {
+    return std::nullopt;
+  }
+  return judgement::SectionOfReport(judged_->Matter,
+                                    judgement::JudgeMatter(place_.Session, Model(), judged_->Matter,
+                                                           judged_->Moment, judged_->Window));
+}
+
+std::optional<report::ReportSection> HoroscopeDocument::JudgedForSheet() const {
+  if (!judged_) {
+    return std::nullopt;
+  }
+  return judgement::SectionOfSheet(judged_->Matter,
+                                   judgement::JudgeMatter(place_.Session, Model(), judged_->Matter,
+                                                          judged_->Moment, judged_->Window));
+}
+
 core::Table HoroscopeDocument::RulingPlanetsNow() {
   panchang::SkyView sky;
   panchang::GetCurrentTransit(place_.Session, sky);
@@ -103,20 +115,6 @@ core::Table HoroscopeDocument::RulingPlanetsNow() {
 
 horoscope::Recalculation HoroscopeDocument::Recalculate(const horoscope::RecalculationForm& form) {
   return horoscope::Recalculate(place_.Session, Model(), form);
-}
-
-report::ReportContent HoroscopeDocument::ContentOfReport(report::ReportDetail detail) const {
-  return report::ContentOf(place_.Session, Model(), detail, style_);
-}
-
-std::filesystem::path HoroscopeDocument::WriteReport(report::ReportDetail detail) {
-  report::ReportRequest request;
-  request.Detail = detail;
-  request.Style = style_;
-  request.Paint = [](const report::ChartPicture& picture) {
-    return ChartPictureBytes(picture, PictureFormat::Bmp, kPictureSide);
-  };
-  return report::GenerateHoroscopeView(place_.Session, opened_, request);
 }
 
 }  // namespace orvex::ui

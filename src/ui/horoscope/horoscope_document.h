@@ -10,7 +10,6 @@
 #include "horoscope/create_horoscope.h"
 #include "horoscope/recalculation.h"
 #include "judgement/judge_matter.h"
-#include "report/html_report.h"
 #include "report/report_content.h"
 #include "ui/base/workplace.h"
 
@@ -54,6 +53,10 @@ class HoroscopeDocument final : public QObject {
 
   // Nothing until a matter was judged in this window.
   const std::optional<JudgedMatter>& Judged() const { return judged_; }
+  // That matter as the section of the report, or of the sheet, for the horoscope as it is turned
+  // now.
+  std::optional<report::ReportSection> JudgedForReport() const;
+  std::optional<report::ReportSection> JudgedForSheet() const;
   void KeepJudged(JudgedMatter judged) { judged_ = std::move(judged); }
 
   // The end of the Antara that ran when the horoscope was opened; "" where none did.
@@ -81,12 +84,6 @@ class HoroscopeDocument final : public QObject {
   void TakeBirthTime(core::DateTime birth, const QString& comment) {
     emit BirthTimeTaken(birth, comment);
   }
-
-  // Writes the report of what is shown; an empty path where it was refused with a message.
-  std::filesystem::path WriteReport(report::ReportDetail detail);
-
-  // Everything that the report of what is shown holds.
-  report::ReportContent ContentOfReport(report::ReportDetail detail) const;
 
  signals:
   void Changed();

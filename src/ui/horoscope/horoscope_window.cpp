@@ -5,7 +5,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QMenu>
-#include <QPrinter>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
@@ -20,20 +19,18 @@
 #include "ui/base/guide.h"
 #include "ui/base/icon.h"
 #include "ui/base/keys.h"
-#include "ui/base/message_boxes.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/client_dialog.h"
 #include "ui/horoscope/birth_panel.h"
-#include "ui/horoscope/chart_page.h"
-#include "ui/horoscope/chart_print.h"
 #include "ui/horoscope/divisional_dialog.h"
+#include "ui/horoscope/export_runner.h"
 #include "ui/horoscope/head_pane.h"
+#include "ui/horoscope/horoscope_print.h"
 #include "ui/horoscope/matter_box.h"
 #include "ui/horoscope/neighbour_client.h"
 #include "ui/horoscope/page_stack.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
-#include "ui/painting/report_document.h"
 
 namespace orvex::ui {
 
@@ -55,18 +52,6 @@ constexpr std::array<StyleName, 3> kStyles = {{
     {'S', QT_TRANSLATE_NOOP("HoroscopeWindow", "South Indian")},
 }};
 
-struct DetailName {
-  report::ReportDetail Detail;
-  const char* Name;
-};
-
-constexpr std::array<DetailName, 3> kDetails = {{
-    {report::ReportDetail::DB, QT_TRANSLATE_NOOP("HoroscopeWindow", "Dasha and Bhukti")},
-    {report::ReportDetail::DBA, QT_TRANSLATE_NOOP("HoroscopeWindow", "Dasha, Bhukti and Antara")},
-    {report::ReportDetail::DBAS,
-     QT_TRANSLATE_NOOP("HoroscopeWindow", "Dasha, Bhukti, Antara and Sookshma")},
-}};
-
 std::size_t PlaceOfStyle(char style) {
   const auto found = std::find_if(kStyles.begin(), kStyles.end(),
                                   [&](const StyleName& name) { return name.Style == style; });
@@ -81,7 +66,8 @@ HoroscopeWindow::HoroscopeWindow(Workplace& place, horoscope::OpenedHoroscope op
       pages_(new PageStack(document_)),
       birth_(new BirthPanel(document_)),
       status_(new ElidedLabel("statusText")),
-      told_(new QTimer(this)) {
+      told_(new QTimer(this)),
+      exports_(new ExportRunner(place, this)) {
   setObjectName("horoscopeWindow");
   setAttribute(Qt::WA_DeleteOnClose);
   MakeHeadActions();
@@ -142,6 +128,7 @@ void HoroscopeWindow::LayOut() {
   status_->setFont(Theme::Text(type::kHead));
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(exports_->Line());
   if (!document_.Place().Layout.RestoreWindow(*this)) {
     resize(kUsualWidth, kUsualHeight);
   }
@@ -163,6 +150,15 @@ void HoroscopeWindow::Connect() {
   connect(told_, &QTimer::timeout, this,
           [this] { status_->setText(Shown(document_.Model().Captions.StatusBar)); });
   connect(head_, &HeadPane::ResetWanted, this, [this] { document_.Rotate(1); });
+  auto* reports = findChild<QMenu*>("exportMenu");
+  connect(exports_, &ExportRunner::Began, this, [this, reports] {
+    status_->setText("Exporting Horoscope...Please Wait");
+    reports->setEnabled(false);
+  });
+  connect(exports_, &ExportRunner::Ended, this, [this, reports] {
+    status_->setText(Shown(document_.Model().Captions.StatusBar));
+    reports->setEnabled(true);
+  });
 }
 
 QAction* HoroscopeWindow::AddAction(const QString& text, const char* name, const char* icon) {
@@ -185,7 +181,8 @@ void HoroscopeWindow::MakeHeadActions() {
   connect(divisions, &QAction::triggered, this, &HoroscopeWindow::ShowDivisions);
   auto* print = new QAction(Icon("print"), tr("&Print"), this);
   print->setObjectName("print");
-  connect(print, &QAction::triggered, this, &HoroscopeWindow::PrintCharts);
+  print->setToolTip(tr("Print"));
+  print->setMenu(MakePrintMenu());
   QAction* exporting = AddAction(tr("E&xport"), "exportMenu", "export");
   exporting->setMenu(MakeExportMenu());
   auto* more = new QAction(Icon("menu"), QString(), this);
@@ -269,18 +266,34 @@ QMenu* HoroscopeWindow::MakeRotationMenu() {
   return menu;
 }
 
+QMenu* HoroscopeWindow::MakePrintMenu() {
+  auto* menu = new QMenu(this);
+  menu->setObjectName("printMenu");
+  const auto add = [this, menu](const QString& text, const char* name, auto deed) {
+    QAction* action = AddAction(text, name);
+    connect(action, &QAction::triggered, this, deed);
+    menu->addAction(action);
+  };
+  add(tr("&Page in sight…"), "printPage", &HoroscopeWindow::PrintPage);
+  add(tr("&KP sheet…"), "printSheet", &HoroscopeWindow::PrintSheet);
+  return menu;
+}
+
 QMenu* HoroscopeWindow::MakeExportMenu() {
   auto* menu = new QMenu(this);
   menu->setObjectName("exportMenu");
-  for (const DetailName& detail : kDetails) {
-    menu->addAction(tr("Report: %1").arg(tr(detail.Name)), this,
+  for (const DetailName& detail : kReportDetails) {
+    menu->addAction(tr("Report: %1").arg(NameOf(detail)), this,
                     [this, detail] { Export(detail.Detail, false); });
   }
   menu->addSeparator();
-  for (const DetailName& detail : kDetails) {
-    menu->addAction(tr("PDF: %1").arg(tr(detail.Name)), this,
+  for (const DetailName& detail : kReportDetails) {
+    menu->addAction(tr("PDF: %1").arg(NameOf(detail)), this,
                     [this, detail] { Export(detail.Detail, true); });
   }
+  menu->addSeparator();
+  menu->addAction(tr("PDF: KP sheet…"), this,
+                  [this] { exports_->WriteSheet(*this, SheetOfWindow(document_)); });
   return menu;
 }
 
@@ -324,6 +337,7 @@ void HoroscopeWindow::ShowPlanetSheet(std::size_t row) {
   const core::DateTime today = document_.Place().Session.Time.Today();
   auto* sheet =
       new PlanetSheetDialog(transit::ShowPlanetDetails(document_.Model(), row, today), this);
+  OfferPrint(document_.Place(), *sheet);
   sheet->show();
 }
 
@@ -332,6 +346,7 @@ void HoroscopeWindow::ShowDivisions() {
   if (divisions == nullptr) {
     divisions = new DivisionalDialog(document_.Opened(), document_.Style(), this);
     divisions->setAttribute(Qt::WA_DeleteOnClose);
+    OfferPrint(document_.Place(), *divisions);
     connect(&document_, &HoroscopeDocument::Changed, divisions,
             [this, divisions] { divisions->ShowModel(document_.Opened(), document_.Style()); });
   }
@@ -340,12 +355,13 @@ void HoroscopeWindow::ShowDivisions() {
   divisions->activateWindow();
 }
 
-// Both charts on a page under the title, which tells a rotation.
-void HoroscopeWindow::PrintCharts() {
-  QPrinter printer(QPrinter::HighResolution);
-  if (document_.Place().Files.ChoosePrinter(this, printer)) {
-    PrintChartPage(printer, document_.Model(), document_.Style());
-  }
+void HoroscopeWindow::PrintPage() {
+  PrintWithPreview(document_.Place(), *this,
+                   PagePrintout(document_, *pages_->Current(), pages_->CurrentTitle()));
+}
+
+void HoroscopeWindow::PrintSheet() {
+  PrintWithPreview(document_.Place(), *this, SheetPrintout(document_));
 }
 
 void HoroscopeWindow::EditClient() {
@@ -379,29 +395,11 @@ void HoroscopeWindow::GoToClient(int by) {
 }
 
 void HoroscopeWindow::Export(report::ReportDetail detail, bool asPdf) {
-  pages_->FirstPage().ShowRulingPlanetsOfBirth();
-  status_->setText("Exporting Horoscope...Please Wait");
-  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  const std::filesystem::path file = WriteReport(detail, asPdf);
-  status_->setText(Shown(document_.Model().Captions.StatusBar));
-  if (!file.empty() && !document_.Place().Files.OpenWithDesktop(file)) {
-    Inform(document_.Place().Session.Shown,
-           "The report is written to " + file.string() + ", but no program opens it here.");
-  }
-}
-
-std::filesystem::path HoroscopeWindow::WriteReport(report::ReportDetail detail, bool asPdf) {
-  try {
-    std::filesystem::path file = document_.WriteReport(detail);
-    if (asPdf && !file.empty()) {
-      file.replace_extension(".pdf");
-      WriteReportPdf(document_.ContentOfReport(detail), file);
-    }
-    return file;
-  } catch (const std::exception& error) {
-    Complain(document_.Place().Session.Shown, error.what());
-    return {};
-  }
+  const ReportChoice choice{detail, asPdf, document_.Style(), document_.JudgedForReport()};
+  exports_->Run(tr("Report of %1").arg(Shown(document_.Model().Name)), 1,
+                [this, choice](std::size_t /*place*/) {
+                  return StageReport(document_.Place().Session, document_.Opened(), choice);
+                });
 }
 
 HoroscopeWindow* OpenHoroscope(Workplace& place, std::int32_t clientId) {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "report/report_tables.h"
 #include "ui/horoscope/horoscope_document.h"
 
 class QMenu;
@@ -15,6 +16,7 @@ namespace orvex::ui {
 class BirthPanel;
 class ClientDialog;
 class ElidedLabel;
+class ExportRunner;
 class HeadPane;
 class PageStack;
 
@@ -57,6 +59,7 @@ class HoroscopeWindow final : public QMainWindow {
   void MakeMoreActions();
   QMenu* MakeStyleMenu();
   QMenu* MakeRotationMenu();
+  QMenu* MakePrintMenu();
   QMenu* MakeExportMenu();
   QMenu* MakeWindowsMenu();
   void NextStyle();
@@ -64,13 +67,13 @@ class HoroscopeWindow final : public QMainWindow {
   void Tell(const QString& words);
   void ShowDivisions();
   void ShowBirthPanel(bool shown);
-  void PrintCharts();
+  void PrintPage();
+  void PrintSheet();
   void EditClient();
   // Closes the window over the client's dialog, which `prepare` may fill, and opens it again.
   void EditClientWith(const std::function<void(ClientDialog&)>& prepare);
   void GoToClient(int by);
   void Export(report::ReportDetail detail, bool asPdf);
-  std::filesystem::path WriteReport(report::ReportDetail detail, bool asPdf);
   void Unregister();
 
   HoroscopeDocument document_;
@@ -79,6 +82,7 @@ class HoroscopeWindow final : public QMainWindow {
   BirthPanel* birth_;
   ElidedLabel* status_;
   QTimer* told_;
+  ExportRunner* exports_;
   QMenu* more_ = nullptr;
   QMenu* styleMenu_ = nullptr;
   QMenu* rotationMenu_ = nullptr;

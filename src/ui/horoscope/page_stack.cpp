@@ -196,10 +196,7 @@ void PageStack::Move(int by) {
 
 HoroscopePage* PageStack::Current() const { return slots_.at(current_).Page; }
 
-ChartPage& PageStack::FirstPage() {
-  Turn(kPages.front().Name);
-  return static_cast<ChartPage&>(*slots_.front().Page);
-}
+QString PageStack::CurrentTitle() const { return tr(kPages.at(current_).Title); }
 
 void PageStack::TurnToRow(int row) {
   if (const std::optional<std::size_t> place = PlaceOf(list_->item(row))) {

@@ -12,8 +12,6 @@ class QStackedWidget;
 
 namespace orvex::ui {
 
-class ChartPage;
-
 class PageStack final : public QWidget {
   Q_OBJECT
 
@@ -28,8 +26,7 @@ class PageStack final : public QWidget {
   QComboBox* Box() { return box_; }
   void SetNarrow(bool narrow);
 
-  // The first page, which reports are made from.
-  ChartPage& FirstPage();
+  QString CurrentTitle() const;
 
   // Shows the model again: the page in sight now, the others when they come into sight.
   void ShowModel();

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "ui/base/shown_page.h"
 #include "ui/horoscope/field_label.h"
 
 namespace orvex::ui {
@@ -14,6 +15,7 @@ TimelinePage::TimelinePage(HoroscopeDocument& document)
   layout->addWidget(view_, 1);
   auto* help =
       new FieldLabel(tr("A click opens a period. Arrow keys: ← → along, ↑ ↓ between the levels."));
+  LeaveUnprinted(*help);
   QHBoxLayout* foot =
       GraphButtons(*this, {MakeRunningAction(), view_->PrintAction(), view_->SaveAction()});
   foot->insertWidget(0, help);

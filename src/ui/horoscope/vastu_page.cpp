@@ -6,6 +6,7 @@
 #include "ui/base/theme.h"
 #include "ui/horoscope/field_label.h"
 #include "ui/horoscope/tables_page.h"
+#include "ui/painting/report_document.h"
 
 namespace orvex::ui {
 
@@ -63,6 +64,16 @@ void VastuPage::ShowModel() {
   }
   impacts_->ShowModel();
   hits_->ShowModel();
+}
+
+std::vector<PageBlock> VastuPage::PrintedBlocks() const {
+  std::vector<PageBlock> blocks = {{PageText{PageRole::Part, tr("Pads of the plan")}},
+                                   {PageTableOf(Model().VastuPads)}};
+  for (const CatalogueTable* table : {impacts_, hits_}) {
+    const std::vector<PageBlock> shown = ShownBlocks(*table);
+    blocks.insert(blocks.end(), shown.begin(), shown.end());
+  }
+  return blocks;
 }
 
 }  // namespace orvex::ui

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "ui/base/shown_page.h"
 #include "ui/horoscope/catalogue_table.h"
 #include "ui/horoscope/horoscope_page.h"
 #include "ui/horoscope/vastu_side.h"
@@ -11,13 +12,16 @@ class QSplitter;
 
 namespace orvex::ui {
 
-class VastuPage final : public HoroscopePage {
+class VastuPage final : public HoroscopePage, public PrintsItself {
   Q_OBJECT
 
  public:
   explicit VastuPage(HoroscopeDocument& document);
 
   void ShowModel() override;
+
+  // The pads of the plan as a list, then the tables in sight.
+  std::vector<PageBlock> PrintedBlocks() const override;
 
  private:
   QWidget* LayOutPlan();

@@ -11,6 +11,7 @@
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_print.h"
 #include "ui/dialogs/about_box.h"
 #include "ui/dialogs/cities_dialog.h"
 #include "ui/dialogs/matters_dialog.h"
@@ -24,6 +25,7 @@
 #include "ui/main/find_anyone_box.h"
 #include "ui/main/first_run.h"
 #include "ui/main/group_column.h"
+#include "ui/main/group_export.h"
 #include "ui/main/main_menus.h"
 #include "ui/main/main_pages.h"
 #include "ui/main/next_pane.h"
@@ -51,6 +53,7 @@ MainWindow::MainWindow(Workplace& place)
       today_(new TodayPage(place)),
       commands_(new ClientCommands(place, *lists_, *this)),
       transits_(new TransitCommands(place, *pages_, *this)),
+      reports_(new GroupExport(place, *lists_, *this)),
       firstRun_(new FirstRun(place, *commands_->AddClient)),
       search_(new SearchPage(place)),
       exchange_(new ExchangeCommands(place, *lists_, search_->Results(), *this)),
@@ -87,6 +90,7 @@ void MainWindow::MakeActions() {
   find_ = Command("findAnyone", tr("Fi&nd Anyone"), &MainWindow::FindAnyone);
   advanced_ = Command("searchClients", tr("&Search…"), &MainWindow::SearchClients);
   guide_ = Command("guide", tr("Orvex+ &Help"), &MainWindow::ShowGuide);
+  print_ = Command("printPage", tr("&Print…"), &MainWindow::PrintPage);
   quit_ = Command("quit", tr("E&xit"), &MainWindow::Quit);
   Command("nextPane", tr("Next Pane"), &MainWindow::NextPane);
 }
@@ -98,13 +102,14 @@ void MainWindow::MakeMenus() {
                        commands_->EditClient, commands_->DeleteClient, commands_->UndoDelete,
                        commands_->MoveClient});
   clients->addSeparator();
-  clients->addActions({commands_->InstantChart, filter_, find_, advanced_});
+  clients->addActions({commands_->InstantChart, filter_, find_, advanced_, print_});
   clients->addSeparator();
   clients->addActions({exchange_->Import, exchange_->Export});
   clients->addSeparator();
   clients->addAction(quit_);
   QMenu* groups = menus->Add(tr("&Groups"));
   groups->addActions({commands_->AddGroup, commands_->EditGroup, commands_->DeleteGroup});
+  groups->addMenu(reports_->Menu());
   menus->Add(transits_->Menu());
   QMenu* tools = menus->Add(tr("&Tools"));
   tools->addActions({refresh_, fold_, cities_, matters_, settings_});
@@ -251,6 +256,12 @@ void MainWindow::NextPane() {
   FocusNextPane(*this, {&top_->Find(), &lists_->GroupTable(), &lists_->ClientTable(),
                         &clients_->Card(), &search_->Results(), &transits_->Page(),
                         &transits_->Horas(), today_, &sky_->Column().Planets()});
+}
+
+void MainWindow::PrintPage() {
+  const QString title = pages_->ActionOf(pages_->Current())->text().remove('&');
+  PrintWithPreview(place_, *this,
+                   PrintoutOf(*pages_->currentWidget(), {title, {}, {}}, place_.Session));
 }
 
 void MainWindow::OpenSettings() {

@@ -17,6 +17,7 @@ class ClientLists;
 class ClientsPage;
 class ExchangeCommands;
 class FirstRun;
+class GroupExport;
 class MainMenus;
 class MainPages;
 class Rail;
@@ -58,6 +59,7 @@ class MainWindow final : public QMainWindow {
   void RefreshSky();
   void FoldSky();
   void NextPane();
+  void PrintPage();
   void OpenSettings();
   void OpenCities();
   void OpenMatters();
@@ -77,6 +79,7 @@ class MainWindow final : public QMainWindow {
   TodayPage* today_;
   ClientCommands* commands_;
   TransitCommands* transits_;
+  GroupExport* reports_;
   FirstRun* firstRun_;
   SearchPage* search_;
   ExchangeCommands* exchange_;
@@ -90,6 +93,7 @@ class MainWindow final : public QMainWindow {
   QAction* filter_ = nullptr;
   QAction* find_ = nullptr;
   QAction* advanced_ = nullptr;
+  QAction* print_ = nullptr;
   QAction* guide_ = nullptr;
   QAction* quit_ = nullptr;
 };

@@ -6,11 +6,13 @@
 #include <QStatusBar>
 #include <array>
 
+#include "ui/base/job_line.h"
 #include "ui/base/scaled.h"
 #include "ui/base/theme.h"
 #include "ui/main/client_commands.h"
 #include "ui/main/clients_page.h"
 #include "ui/main/first_run.h"
+#include "ui/main/group_export.h"
 #include "ui/main/main_pages.h"
 #include "ui/main/main_window.h"
 #include "ui/main/rail.h"
@@ -57,6 +59,7 @@ void MainWindow::LayOut() {
   AddPages();
   bar_->setSizeGripEnabled(false);
   bar_->setContentsMargins(space::kS, 0, space::kM, 0);
+  bar_->addWidget(reports_->Line());
   auto* body = new QHBoxLayout;
   body->setSpacing(0);
   body->addWidget(pages_, 1);

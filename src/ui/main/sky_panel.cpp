@@ -1,5 +1,6 @@
 #include "ui/main/sky_panel.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QToolButton>

@@ -1,8 +1,6 @@
 #include "ui/painting/graph_files.h"
 
 #include <QBuffer>
-#include <QPageLayout>
-#include <QPagedPaintDevice>
 #include <QSvgGenerator>
 
 #include "core/home.h"
@@ -14,8 +12,7 @@ namespace {
 constexpr int kWidth = 1120;  // units of a sheet, in which its text is set
 constexpr int kHeight = 770;
 constexpr int kText = 13;
-constexpr int kDotsPerInch = 96;    // of a unit of a picture, as browsers count
-constexpr double kPageMargin = 10;  // millimetres
+constexpr int kDotsPerInch = 96;  // of a unit of a picture, as browsers count
 
 void PaintSheet(QPainter& painter, const GraphPainting& graph, const QRectF& sheet) {
   QFont font = painter.font();
@@ -62,18 +59,14 @@ void WriteGraphSvg(const GraphPainting& graph, const std::string& title,
                         }));
 }
 
-bool PrintGraph(const GraphPainting& graph, QPagedPaintDevice& device) {
-  device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
-                                   QMarginsF(kPageMargin, kPageMargin, kPageMargin, kPageMargin),
-                                   QPageLayout::Millimeter));
-  QPainter painter;
-  if (!painter.begin(&device)) {
-    return false;
-  }
-  const double scale = painter.viewport().width() / static_cast<double>(kWidth);
-  painter.scale(scale, scale);
-  PaintSheet(painter, graph, QRectF(0, 0, kWidth, painter.viewport().height() / scale));
-  return painter.end();
+PageFigure GraphFigure(const GraphPainting& graph) {
+  constexpr double kAspect = 0.5;
+  return {{}, 1, kAspect, [graph](QPainter& painter, const QRectF& box) {
+            const double scale = box.width() / kWidth;
+            painter.translate(box.topLeft());
+            painter.scale(scale, scale);
+            PaintSheet(painter, graph, QRectF(0, 0, kWidth, box.height() / scale));
+          }};
 }
 
 std::string FileNameOf(const std::string& title) {

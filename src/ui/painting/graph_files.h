@@ -1,12 +1,11 @@
-// Graphs on paper and in files, always light, a landscape A4 sheet wide.
+// Graphs on paper and in files, always light.
 #pragma once
 
 #include <QSize>
 #include <filesystem>
 
 #include "ui/painting/graph_style.h"
-
-class QPagedPaintDevice;
+#include "ui/painting/page_document.h"
 
 namespace orvex::ui {
 
@@ -22,8 +21,9 @@ std::string SvgText(const QSize& size, const std::string& title,
 void WriteGraphSvg(const GraphPainting& graph, const std::string& title,
                    const std::filesystem::path& file);
 
-// Sets a graph on one landscape A4 page. False where the device can't be painted on.
-bool PrintGraph(const GraphPainting& graph, QPagedPaintDevice& device);
+// A graph as wide as a page, so high that it stands under a title on a page that lies across. The
+// graph must outlive the document.
+PageFigure GraphFigure(const GraphPainting& graph);
 
 // A file name that a title gives on every system: without what separates folders or is forbidden.
 std::string FileNameOf(const std::string& title);

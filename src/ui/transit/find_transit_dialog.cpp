@@ -17,8 +17,10 @@
 #include "ui/base/moment_edit.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/shown_page.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_print.h"
 
 namespace orvex::ui {
 
@@ -59,6 +61,7 @@ FindTransitDialog::FindTransitDialog(Workplace& place, QWidget* parent)
   LayOut();
   Connect();
   FollowKind();
+  OfferPrint(place, *this);
   if (!place.Layout.RestoreWindow(*this)) {
     resize(96 * kGrid, 80 * kGrid);
   }
@@ -81,6 +84,8 @@ void FindTransitDialog::LayOut() {
   result_->setFont(Theme::HeadingFont());
   result_->setWordWrap(true);
   status_->setText("Ready");
+  LeaveUnprinted(*status_);
+  LeaveUnprinted(*searched_);
   hours_->setAccessibleName(tr("Hours of the date"));
   hours_->setSortingEnabled(false);
   hours_->verticalHeader()->setDefaultSectionSize(hours_->fontMetrics().height() + kGrid / 2);

@@ -13,6 +13,7 @@
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_print.h"
 
 namespace orvex::ui {
 
@@ -55,6 +56,7 @@ TransitDetailsDialog::TransitDetailsDialog(Workplace& place, transit::Planet pla
   picker_->SetTime(core::TimeOfDayOf(place.Session.Time.Now()));
   ShowDay(planet, date);
   hours_->setFocus();
+  OfferPrint(place_, *this);
   if (!place_.Layout.RestoreWindow(*this)) {
     resize(164 * kGrid, 85 * kGrid);
   }
