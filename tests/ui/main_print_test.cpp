@@ -125,6 +125,8 @@ TEST_F(MainPrint, HorasAndTheDayOfAPlanetArePrinted) {
   for (const char* table : {"dayHoras", "nightHoras"}) {
     ExpectRows(Find<TableView>(window, table), horas);
   }
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   QTest::keyClick(&window, Qt::Key_T, Qt::ControlModifier);
   auto& grid = Find<TableView>(window, "grid");
   ASSERT_TRUE(QTest::qWaitFor([&grid] { return grid.Model().rowCount() == 30; }));

@@ -204,8 +204,10 @@ TEST_F(ReportPdf, AMatterIsTheLastSectionOfReportAndSheet) {
     const QString rows = Squeezed(opened.Model.PlanetLevels.Rows.back().Cells.front().Text);
     EXPECT_GT(text.indexOf(rows, text.indexOf("Post<b>:10|2Planets")), 0);
     EXPECT_TRUE(text.contains("PeriodsDashaNoperiod"));
-    EXPECT_NE(OutputOf("pdfinfo '" + file.string() + "'").find("Pages:           1\n"),
-              std::string::npos);
+    const std::string info = OutputOf("pdfinfo '" + file.string() + "'");
+    // On small paper a matter may not fit beside the rest at a legible size; then it runs on.
+    const std::size_t most = paper == QPageSize::A4 ? 1 : 2;
+    EXPECT_LE(std::stoul(info.substr(info.find("Pages:") + 6)), most) << info;
   }
 }
 

@@ -266,8 +266,8 @@ void MatterPage::Arrange() {
   }
   upper_->setVisible(all || part < static_cast<int>(upper.size()));
   ranked_->setVisible(all || part == static_cast<int>(upper.size()));
-  const int high = std::clamp(static_cast<int>(height() * kUpperPart), Scaled(kLeastUpper),
-                              Scaled(kMostUpper));
+  const int high =
+      std::clamp(static_cast<int>(height() * kUpperPart), Scaled(kLeastUpper), Scaled(kMostUpper));
   upper_->setMinimumHeight(all ? high : 1);
   upper_->setMaximumHeight(all ? high : QWIDGETSIZE_MAX);
 }

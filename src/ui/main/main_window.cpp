@@ -90,7 +90,7 @@ void MainWindow::MakeActions() {
   find_ = Command("findAnyone", tr("Fi&nd Anyone"), &MainWindow::FindAnyone);
   advanced_ = Command("searchClients", tr("&Search…"), &MainWindow::SearchClients);
   guide_ = Command("guide", tr("Orvex+ &Help"), &MainWindow::ShowGuide);
-  print_ = Command("printPage", tr("&Print…"), &MainWindow::PrintPage);
+  print_ = Command("printPage", tr("Print Pa&ge…"), &MainWindow::PrintPage);
   quit_ = Command("quit", tr("E&xit"), &MainWindow::Quit);
   Command("nextPane", tr("Next Pane"), &MainWindow::NextPane);
 }
