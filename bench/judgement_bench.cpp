@@ -36,6 +36,20 @@ Question Ask(BenchHome& home) {
   return question;
 }
 
+core::Table PlanetsOf(const Question& question) {
+  return judgement::JudgeMatter(*question.Session, question.Opened.Model, question.Matter,
+                                question.Moment, question.Life)
+      .MatterPlanets;
+}
+
+// The antaras of the whole life, ranked.
+core::Table PeriodsOf(const Question& question, const core::Table& planets) {
+  const chart::HoroscopeModel& model = question.Opened.Model;
+  return judgement::BuildMatterPeriods(
+      chart::FullDashaTree(question.Session->Reference, model, chart::TreeDepth::Antara), planets,
+      model.Birth, question.Life);
+}
+
 // All tables of the page as it shows them, with the periods of ten years. Aim: under 50 ms.
 void PageOfAMatter(benchmark::State& state) {
   BenchHome home;
@@ -57,14 +71,9 @@ BENCHMARK(PageOfAMatter)->Unit(benchmark::kMillisecond);
 void PeriodsOfALife(benchmark::State& state) {
   BenchHome home;
   const Question question = Ask(home);
-  const chart::HoroscopeModel& model = question.Opened.Model;
-  const core::Table planets = judgement::JudgeMatter(*question.Session, model, question.Matter,
-                                                     question.Moment, question.Life)
-                                  .MatterPlanets;
+  const core::Table planets = PlanetsOf(question);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(judgement::BuildMatterPeriods(
-        chart::FullDashaTree(question.Session->Reference, model, chart::TreeDepth::Antara), planets,
-        model.Birth, question.Life));
+    benchmark::DoNotOptimize(PeriodsOf(question, planets));
   }
 }
 BENCHMARK(PeriodsOfALife)->Unit(benchmark::kMillisecond);
@@ -73,16 +82,10 @@ BENCHMARK(PeriodsOfALife)->Unit(benchmark::kMillisecond);
 void PeriodsOfALifeAsShown(benchmark::State& state) {
   BenchHome home;
   const Question question = Ask(home);
-  const chart::HoroscopeModel& model = question.Opened.Model;
-  const core::Table planets = judgement::JudgeMatter(*question.Session, model, question.Matter,
-                                                     question.Moment, question.Life)
-                                  .MatterPlanets;
+  const core::Table planets = PlanetsOf(question);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(judgement::BuildRankedPeriods(
-        judgement::BuildMatterPeriods(
-            chart::FullDashaTree(question.Session->Reference, model, chart::TreeDepth::Antara),
-            planets, model.Birth, question.Life),
-        planets, question.Matter));
+    benchmark::DoNotOptimize(
+        judgement::BuildRankedPeriods(PeriodsOf(question, planets), planets, question.Matter));
   }
 }
 BENCHMARK(PeriodsOfALifeAsShown)->Unit(benchmark::kMillisecond);
