@@ -6,6 +6,7 @@
 #include "support/printing.h"
 #include "support/shown_rows.h"
 #include "ui/base/print_page.h"
+#include "ui/base/shown_page.h"
 #include "ui/horoscope_window_home.h"
 
 namespace orvex::ui {
@@ -77,6 +78,48 @@ TEST_F(HoroscopePrint, EveryPageIsPrintedAsItStandsThere) {
     EXPECT_TRUE(text.contains(test::Squeezed(title)));
     EXPECT_TRUE(landscape_ || title != "Timeline");
     ExpectTables(text);
+  }
+}
+
+// A table is called once, by its heading or by its own name, whatever stands between the two.
+TEST(ShownPage, ATableIsNamedOnce) {
+  struct Case {
+    QStringList Labels;  // the first one a heading
+    QString Name;        // of the table
+    QStringList Wanted;
+  };
+  const std::vector<Case> cases = {
+      {{"Significators"}, "Significators", {"Significators"}},
+      {{"Significators", "ring: fruitful"}, "Significators", {"Significators"}},
+      {{"Significators by house"}, "Significators", {"Significators by house"}},
+      {{"Kept"}, "Significators", {"Kept", "Significators"}},
+      {{}, "Significators", {"Significators"}},
+  };
+  for (const Case& one : cases) {
+    QWidget page;
+    QVBoxLayout layout(&page);
+    for (int i = 0; i < one.Labels.size(); ++i) {
+      auto* label = new QLabel(one.Labels[i]);
+      QFont font = label->font();
+      font.setWeight(i == 0 ? QFont::DemiBold : QFont::Normal);
+      label->setFont(font);
+      layout.addWidget(label);
+    }
+    auto* view = new TableView;
+    view->setAccessibleName(one.Name);
+    core::Table table{{{"House"}}, {}};
+    table.AddRow();
+    view->SetTable(std::move(table));
+    layout.addWidget(view);
+    page.show();
+    QStringList headings;
+    for (const PageBlock& block : ShownBlocks(page)) {
+      const auto* text = std::get_if<PageText>(&block.Content);
+      if (text != nullptr && text->Role == PageRole::Part) {
+        headings << text->Text;
+      }
+    }
+    EXPECT_EQ(headings, one.Wanted) << one.Labels.join(", ").toStdString();
   }
 }
 

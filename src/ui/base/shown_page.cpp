@@ -12,6 +12,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <algorithm>
+#include <utility>
 
 #include "ui/base/chart_view.h"
 #include "ui/base/print_page.h"
@@ -151,11 +152,13 @@ class Collector {
 
   void AddTable(const TableView& view) {
     const QString heading = TakeHeading();
+    // A heading that a note parts from its table names it all the same.
+    const QString above = std::exchange(heading_, {});
     const QString name = view.accessibleName();
     if (!name.startsWith(heading)) {
       AddText(PageRole::Part, heading);
     }
-    if (!heading.startsWith(name) || heading == name) {
+    if (heading == name || (!heading.startsWith(name) && above != name)) {
       AddText(PageRole::Part, name);
     }
     if (PageTable table = ShownTableOf(view); table.Columns() > 0) {
@@ -174,6 +177,9 @@ class Collector {
   }
 
   void AddText(PageRole role, const QString& text) {
+    if (role == PageRole::Part && !text.trimmed().isEmpty()) {
+      heading_ = text;
+    }
     if (!text.trimmed().isEmpty()) {
       Blocks.push_back({PageText{role, PlainText(text).trimmed()}});
     }
@@ -297,6 +303,8 @@ class Collector {
     }
     return items;
   }
+
+  QString heading_;  // the last one, until a table stands under it
 };
 
 }  // namespace
