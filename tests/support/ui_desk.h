@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QPrinter>
 #include <QTest>
 #include <QTimer>
 #include <deque>
@@ -71,10 +70,6 @@ class ChosenFiles final : public ui::FileDialogs {
                                                          const std::filesystem::path& /*start*/,
                                                          const std::string& /*filter*/) override {
     return Chosen;
-  }
-  bool ChoosePrinter(QWidget* /*parent*/, QPrinter& printer) override {
-    printer.setOutputFileName(ui::Shown(Chosen.string()));
-    return !Chosen.empty();
   }
   bool OpenWithDesktop(const std::filesystem::path& file) override {
     Opened = file;

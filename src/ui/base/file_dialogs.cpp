@@ -2,7 +2,6 @@
 
 #include <QDesktopServices>
 #include <QFileDialog>
-#include <QPrintDialog>
 #include <QUrl>
 
 #include "ui/base/qt_text.h"
@@ -39,12 +38,6 @@ std::optional<std::filesystem::path> FileDialogs::ChooseFileToWrite(
     const std::string& filter) {
   return PathOf(
       QFileDialog::getSaveFileName(parent, Shown(title), Shown(start.string()), Shown(filter)));
-}
-
-bool FileDialogs::ChoosePrinter(QWidget* parent, QPrinter& printer) {
-  QPrintDialog dialog(&printer, parent);
-  dialog.setObjectName("printDialog");
-  return dialog.exec() == QDialog::Accepted;
 }
 
 bool FileDialogs::OpenWithDesktop(const std::filesystem::path& file) {

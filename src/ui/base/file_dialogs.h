@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-class QPrinter;
 class QWidget;
 
 namespace orvex::ui {
@@ -34,9 +33,6 @@ class FileDialogs {
                                                                  const std::string& title,
                                                                  const std::filesystem::path& start,
                                                                  const std::string& filter);
-
-  // Sets a printer, or the file that it prints to, as the user says; false where they turned back.
-  virtual bool ChoosePrinter(QWidget* parent, QPrinter& printer);
 
   // Opens a file with the program that the desktop has for it. False where it has none.
   virtual bool OpenWithDesktop(const std::filesystem::path& file);
