@@ -1,7 +1,7 @@
 // Windows of the transits, driven as a person does.
 #pragma once
 
-#include <QComboBox>
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabBar>
@@ -21,6 +21,11 @@ class TransitWindowTest : public DeskTest {
 
   static QString Caption(QWidget& window, const char* button) {
     return Find<QPushButton>(window, button).text();
+  }
+
+  // What a button of an icon alone says.
+  static QString Told(QWidget& window, const char* button) {
+    return Find<QPushButton>(window, button).accessibleName();
   }
 
   static bool Enabled(QWidget& window, const char* widget) {
@@ -57,14 +62,23 @@ class TransitWindowTest : public DeskTest {
     auto page = std::make_unique<ui::TransitGridPage>(place_);
     page->resize(1000, 700);
     Show(*page);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !Text(*page, "gridTitle").isEmpty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !page->Title().isEmpty(); }));
     return page;
   }
 
-  static void GoTo(ui::TransitGridPage& page, const char* month, const char* year) {
-    Find<QComboBox>(page, "months").setCurrentText(month);
-    Find<QComboBox>(page, "years").setCurrentText(year);
-    Press(page, "goToMonth");
+  // Picks a month with the mouse.
+  static void GoTo(ui::TransitGridPage& page, const char* month, int year) {
+    Press(page, "monthTitle");
+    QWidget* picker = QApplication::activePopupWidget();
+    ASSERT_NE(picker, nullptr);
+    Type(*picker, "years", ui::WholeText(year));
+    for (auto* button : picker->findChildren<QPushButton*>()) {
+      if (button->text() == month) {
+        QTest::mouseClick(button, Qt::LeftButton);
+        break;
+      }
+    }
+    QCoreApplication::processEvents();
   }
 };
 

@@ -69,7 +69,7 @@ TEST_F(TransitWindowTest, WhatIsFoundIsToldAndLeadsIntoTheGrid) {
     QTest::keyClick(find.focusWidget(), Qt::Key_Space);
   });
   Press(*page, "findTransit");
-  EXPECT_EQ(Text(*page, "monthLabel"), "January 2027");
+  EXPECT_EQ(Caption(*page, "monthTitle"), "January 2027");
   const QModelIndex marked = Find<TableView>(*page, "grid").currentIndex();
   EXPECT_EQ(marked, Cell(*page, "grid", 13, 1));
   EXPECT_EQ(marked.data(Qt::BackgroundRole).value<QColor>(), QColor(238, 237, 245));

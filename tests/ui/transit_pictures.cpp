@@ -45,14 +45,14 @@ void WriteGrid(Workplace& place, const std::filesystem::path& folder) {
   window.resize(kWidth, kHeight);
   window.show();
   QCoreApplication::processEvents();
+  window.findChild<QAction*>("foldSky")->trigger();
   window.findChild<QAction*>("transitGrid")->trigger();
   page.CreateGrid(11, 2026);
   WritePicture(window, folder / "transit-grid.png");
-  auto& graph = *page.findChild<QPushButton*>("showGraph");
-  graph.click();
+  page.findChild<QPushButton*>("showGraph")->click();
   WritePicture(window, folder / "month-graph.png");
   Measure("month on screen as a graph", window, [&page] { page.CreateGrid(10, 2026); });
-  graph.click();
+  page.findChild<QPushButton*>("showBoth")->click();
   Measure("month on screen", window, [&page] { page.CreateGrid(12, 2026); });
   Measure("another month on screen", window, [&page] { page.CreateGrid(6, 1750); });
   page.HighlightCell({1, 2027, "14 January 2027", "Sun"});

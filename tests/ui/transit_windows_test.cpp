@@ -1,18 +1,22 @@
 #include <QAction>
-#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QListWidget>
 #include <QMenu>
+#include <QScrollBar>
+#include <QSignalSpy>
 
 #include "chart/client_saving.h"
 #include "core/cell_colors.h"
+#include "core/home.h"
 #include "support/transit_windows.h"
 #include "ui/base/moment_edit.h"
 #include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
+#include "ui/graphs/day_graph_view.h"
 #include "ui/horoscope/horoscope_window.h"
 #include "ui/main/main_window.h"
 #include "ui/transit/hora_view.h"
+#include "ui/transit/month_table.h"
 #include "ui/transit/transit_details_dialog.h"
 
 namespace orvex::ui {
@@ -25,28 +29,132 @@ constexpr int kRahuColumn = 8;
 
 TEST_F(TransitWindowTest, TheGridShowsTodayRetrogradesAndTheWayToOtherMonths) {
   const auto page = OpenGrid();
-  EXPECT_EQ(Text(*page, "gridTitle"), "Planetary Transit in Dubai at 10:00");
-  EXPECT_EQ(Text(*page, "monthLabel"), "November 2026");
-  EXPECT_FALSE(Find<QWidget>(*page, "thisMonth").isVisible());
+  EXPECT_EQ(page->Title(), "Planetary Transit in Dubai at 10:00");
+  EXPECT_EQ(Caption(*page, "monthTitle"), "November 2026");
   const QModelIndex today = Cell(*page, "grid", 23, kMoonColumn);
   EXPECT_EQ(today.data(Qt::BackgroundRole).value<QColor>(), Theme::Background(core::kGoodColor));
+  EXPECT_EQ(Find<TableView>(*page, "grid").currentIndex().row(), 23);
   const QModelIndex rahu = Cell(*page, "grid", 0, kRahuColumn);
   EXPECT_EQ(rahu.data(Qt::ForegroundRole).value<QColor>(), Theme::Red());
   EXPECT_EQ(rahu.data(Qt::ToolTipRole).toString(),
             "Rahu in Aquarius (Nakshatra: Dhanishtha, Pada: 3)");
 
-  EXPECT_EQ(Caption(*page, "nextMonth"), "December 2026 &>");
+  EXPECT_EQ(Told(*page, "nextMonth"), "December 2026 >");
   Press(*page, "nextMonth");
-  EXPECT_EQ(Text(*page, "monthLabel"), "December 2026");
-  EXPECT_EQ(Find<QComboBox>(*page, "months").currentText(), "December");
-  EXPECT_EQ(Caption(*page, "nextMonth"), "January 2027 &>");
+  EXPECT_EQ(Caption(*page, "monthTitle"), "December 2026");
+  EXPECT_EQ(Told(*page, "nextMonth"), "January 2027 >");
   Find<QWidget>(*page, "grid").setFocus();
   QTest::keyClick(page.get(), Qt::Key_Greater, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Text(*page, "monthLabel") == "January 2027"; }));
-  EXPECT_EQ(Caption(*page, "previousMonth"), "&< December 2026");
-  EXPECT_EQ(Caption(*page, "thisMonth"), "Nov 2026");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Caption(*page, "monthTitle") == "January 2027"; }));
+  EXPECT_EQ(Told(*page, "previousMonth"), "< December 2026");
+  QTest::keyClick(&Find<QWidget>(*page, "grid"), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(Caption(*page, "monthTitle"), "December 2026");
+  EXPECT_EQ(Find<QWidget>(*page, "thisMonth").toolTip(), "Nov 2026");
+  Find<TableView>(*page, "grid").setCurrentIndex(Cell(*page, "grid", 2, kMoonColumn));
   Press(*page, "thisMonth");
-  EXPECT_EQ(Text(*page, "monthLabel"), "November 2026");
+  EXPECT_EQ(Caption(*page, "monthTitle"), "November 2026");
+  EXPECT_EQ(Find<TableView>(*page, "grid").currentIndex(), Cell(*page, "grid", 23, kMoonColumn));
+}
+
+TEST_F(TransitWindowTest, AMonthIsPickedByKeysUnderItsName) {
+  const auto page = OpenGrid();
+  struct Case {
+    std::vector<Qt::Key> Keys;
+    const char* Month;
+  };
+  for (const Case& each : std::vector<Case>{
+           {{Qt::Key_Right, Qt::Key_Return}, "December 2026"},
+           {{Qt::Key_PageDown, Qt::Key_Up, Qt::Key_Left, Qt::Key_Return}, "August 2027"},
+           {{Qt::Key_Down, Qt::Key_Escape}, "August 2027"}}) {
+    Press(*page, "monthTitle");
+    QWidget* picker = QApplication::activePopupWidget();
+    ASSERT_NE(picker, nullptr);
+    for (const Qt::Key key : each.Keys) {
+      QTest::keyClick(picker->focusWidget(), key);
+    }
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(Caption(*page, "monthTitle"), each.Month);
+  }
+}
+
+// The fonts of the program, which are narrower than those that a desktop without them falls back
+// to.
+class ProgramFont {
+ public:
+  ProgramFont() {
+    QFont font("Open Sans");
+    font.setPointSizeF(type::kText);
+    QApplication::setFont(font);
+  }
+  ~ProgramFont() { QApplication::setFont(before_); }
+
+ private:
+  QFont before_ = QApplication::font();
+};
+
+TEST_F(TransitWindowTest, AllDaysStandInSightAndTheGraphHasTheSameRows) {
+  const ProgramFont font;
+  auto window = std::make_unique<MainWindow>(place_);
+  window->resize(1280, 720);
+  Show(*window);
+  Press(*window, "foldSkyButton");
+  Press(*window, "showTransitsButton");
+  auto& page = *window->findChild<TransitGridPage*>();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !page.Title().isEmpty(); }));
+  auto& grid = Find<MonthTable>(*window, "grid");
+  auto& graph = Find<DayGraphView>(*window, "dayGraph");
+  for (const int month : {12, 11, 2}) {
+    page.CreateGrid(month, 2026);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(grid.verticalScrollBar()->isVisible()) << month;
+    EXPECT_FALSE(grid.horizontalScrollBar()->isVisible()) << month;
+    ASSERT_TRUE(graph.isVisible());
+    for (int row = 0; row < grid.Model().rowCount(); ++row) {
+      const QRect cell = grid.visualRect(grid.Model().index(row, 1));
+      const QPoint middle = grid.viewport()->mapToGlobal(cell.center());
+      const QRectF day = DayBox(graph.Layout(), static_cast<std::size_t>(row));
+      EXPECT_TRUE(day.contains(QPointF(day.center().x(), graph.mapFromGlobal(middle).y())))
+          << month << ", " << row;
+    }
+  }
+  EXPECT_EQ(Text(*window, "pageTitle"), "Planetary Transit in Dubai at 10:00");
+  EXPECT_FALSE(Find<QWidget>(*window, "clientCount").isVisible());
+  // A line opens the day that it stands at, in the row at its side.
+  QString title;
+  WhenOpen("transitDetails", [&title](QWidget& dialog) {
+    title = dialog.windowTitle();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  const double moon = graph.Picture().Series.at(1).Longitudes.at(4);
+  QTest::mouseClick(&graph, Qt::LeftButton, {}, graph.Layout().Scale.At(4, moon).toPoint());
+  EXPECT_EQ(title, "Transit Details for Moon (5 February 2026, Thursday)");
+  EXPECT_EQ(grid.currentIndex(), grid.Model().index(4, 2));
+  // Where the sky needs the room, the grid is alone, and the button says why.
+  Press(*window, "unfoldSkyButton");
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(graph.isVisible());
+  EXPECT_FALSE(Enabled(*window, "showBoth"));
+  EXPECT_TRUE(Find<QWidget>(*window, "showBoth").toolTip().contains("F8"));
+  EXPECT_TRUE(Find<QPushButton>(*window, "showTable").isChecked());
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  QTest::keyClick(window.get(), Qt::Key_F8);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(graph.isVisible());
+  EXPECT_TRUE(Find<QPushButton>(*window, "showBoth").isChecked());
+  QTest::keyClick(window.get(), Qt::Key_1, Qt::ControlModifier);
+  EXPECT_TRUE(Find<QWidget>(*window, "clientCount").isVisible());
+}
+
+TEST_F(TransitWindowTest, TheMonthGoesIntoACalendarFile) {
+  const auto page = OpenGrid();
+  files_.Chosen = home_.Place.Folder / "month.ics";
+  QSignalSpy told(page.get(), &TransitGridPage::Done);
+  Press(*page, "monthCalendar");
+  const std::string calendar = core::ReadTextFile(files_.Chosen);
+  EXPECT_TRUE(calendar.find("SUMMARY:Sun enters Scorpio") != std::string::npos);
+  ASSERT_EQ(told.count(), 1);
+  EXPECT_TRUE(told.front().front().toString().endsWith("month.ics"));
 }
 
 TEST_F(TransitWindowTest, TheChangesOfTheMonthAndOfADayStandBesideTheTables) {
@@ -67,7 +175,7 @@ TEST_F(TransitWindowTest, TheChangesOfTheMonthAndOfADayStandBesideTheTables) {
 
   Press(*page, "nextMonth");
   EXPECT_TRUE(CellText(*page, "changes", 0, 0).endsWith(" Dec 2026"));
-  Press(*page, "showChanges");
+  Press(*page, "showTable");
   EXPECT_TRUE(Find<TableView>(*page, "grid").isVisible());
 
   TransitDetailsDialog details(place_, transit::Planet::Sun, test::Moment("2026-11-16 00:00:00"));
@@ -79,15 +187,15 @@ TEST_F(TransitWindowTest, TheChangesOfTheMonthAndOfADayStandBesideTheTables) {
 
 TEST_F(TransitWindowTest, TheGridEndsWithTheYears1500And2500) {
   const auto page = OpenGrid();
-  GoTo(*page, "January", "1500");
+  GoTo(*page, "January", 1500);
   EXPECT_EQ(CellText(*page, "grid", 0, 0), "Monday 1 Jan 1500");
   EXPECT_FALSE(Enabled(*page, "previousMonth"));
   EXPECT_TRUE(Enabled(*page, "nextMonth"));
-  GoTo(*page, "December", "2500");
+  GoTo(*page, "December", 2500);
   EXPECT_FALSE(CellText(*page, "grid", 30, kMoonColumn).trimmed().isEmpty());
   EXPECT_FALSE(Enabled(*page, "nextMonth"));
   EXPECT_TRUE(Enabled(*page, "previousMonth"));
-  GoTo(*page, "February", "2024");
+  GoTo(*page, "February", 2024);
   EXPECT_EQ(Find<TableView>(*page, "grid").Model().rowCount(), 29);
 }
 
@@ -96,7 +204,7 @@ TEST_F(TransitWindowTest, ACityInAnotherZoneAndAnotherTimeStayForThePage) {
   const QString inDubai = CellText(*page, "grid", 0, kMoonColumn);
   WhenAskedTakeMumbai();
   Press(*page, "changeCity");
-  EXPECT_EQ(Text(*page, "gridTitle"), "Planetary Transit in Mumbai at 10:00");
+  EXPECT_EQ(page->Title(), "Planetary Transit in Mumbai at 10:00");
   const QString inMumbai = CellText(*page, "grid", 0, kMoonColumn);
   EXPECT_NE(inMumbai, inDubai);
   // Ten in Dubai is half past eleven in Mumbai.
@@ -106,7 +214,7 @@ TEST_F(TransitWindowTest, ACityInAnotherZoneAndAnotherTimeStayForThePage) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
   time.setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&time, "1130");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*page, "gridTitle").endsWith("at 11:30"); }))
+  ASSERT_TRUE(QTest::qWaitFor([&] { return page->Title().endsWith("at 11:30"); }))
       << Typed(time.text());
   EXPECT_EQ(CellText(*page, "grid", 0, kMoonColumn), inDubai);
 
@@ -114,7 +222,7 @@ TEST_F(TransitWindowTest, ACityInAnotherZoneAndAnotherTimeStayForThePage) {
   page->hide();
   page->show();
   QTest::qWait(150);
-  EXPECT_EQ(Text(*page, "gridTitle"), "Planetary Transit in Mumbai at 11:30");
+  EXPECT_EQ(page->Title(), "Planetary Transit in Mumbai at 11:30");
 }
 
 TEST_F(TransitWindowTest, APlanetOfTheGridOpensItsHoursByMouseAndKey) {

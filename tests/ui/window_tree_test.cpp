@@ -38,7 +38,7 @@ class WindowTreeTest : public MainWindowTest {
 
   void Turn(int page) {
     QTest::keyClick(window_.get(), static_cast<Qt::Key>(Qt::Key_1 + page), Qt::ControlModifier);
-    const auto* month = window_->findChild<QPushButton*>("nextMonth");
+    const auto* month = window_->findChild<QPushButton*>("monthTitle");
     EXPECT_TRUE(
         QTest::qWaitFor([month] { return !month->isVisible() || !month->text().isEmpty(); }));
     QCoreApplication::processEvents();

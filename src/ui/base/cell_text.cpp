@@ -4,6 +4,7 @@
 
 #include "core/exact_numbers.h"
 #include "ui/base/qt_text.h"
+#include "ui/painting/sign_letters.h"
 
 namespace orvex::ui {
 
@@ -23,9 +24,6 @@ constexpr std::array<PlanetWord, 9> kPlanets = {{{"Sun", "SU"},
                                                  {"Saturn", "SA"},
                                                  {"Rahu", "RA"},
                                                  {"Ketu", "KE"}}};
-
-constexpr std::array<const char*, 12> kSigns = {"Ar", "Ta", "Ge", "Cn", "Le", "Vi",
-                                                "Li", "Sc", "Sg", "Cp", "Aq", "Pi"};
 
 constexpr int kHundred = 100;
 constexpr int kMinutes = 60;
@@ -83,7 +81,7 @@ std::optional<DegreeText> DegreeInSign(const QString& text) {
   const int hundredths =
       static_cast<int>(core::RoundToWhole(*value * kHundred)) % (kCircle * kHundred);
   const int degrees = hundredths / kHundred;
-  const QString sign = kSigns.at(static_cast<std::size_t>(degrees / kSignDegrees));
+  const QString sign = kSignLetters.at(static_cast<std::size_t>(degrees / kSignDegrees));
   const int within = degrees % kSignDegrees;
   const int rest = hundredths % kHundred;
   const int minutes = (rest * kMinutes + kHundred / 2) / kHundred;

@@ -37,6 +37,8 @@ const std::vector<KeyEntry>& AllKeys() {
       {kMainWindow, "transitGrid",      "Ctrl+T",       "the transits of the month"},
       {kMainWindow, "findTransit",      "Ctrl+Shift+F", "find a transit"},
       {kMainWindow, "hora",             "Ctrl+H",       "the horas of a date"},
+      {kMainWindow, "previousMonth",    "Ctrl+PgUp",    "the month before, on the page Transits"},
+      {kMainWindow, "nextMonth",        "Ctrl+PgDown",  "the month after"},
       {kMainWindow, "previousDay",      "Alt+Left",     "the day before, on the page Horas"},
       {kMainWindow, "nextDay",          "Alt+Right",    "the day after"},
       {kMainWindow, "allColumns",       "F4",           "all columns of the list of clients, and back"},

@@ -10,11 +10,11 @@
 #include "exact/crossings_table.h"
 #include "judgement/judgement_calendar.h"
 #include "judgement/moment_of_judgement.h"
+#include "ui/base/calendar_saving.h"
 #include "ui/base/icon.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
-#include "ui/horoscope/calendar_saving.h"
 
 namespace orvex::ui {
 

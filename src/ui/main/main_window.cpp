@@ -146,10 +146,13 @@ void MainWindow::Connect() {
   connect(commands_, &ClientCommands::SettingsWanted, this, &MainWindow::OpenSettings);
   connect(exchange_, &ExchangeCommands::ClientsChanged, commands_, &ClientCommands::ClientsChanged);
   connect(exchange_, &ExchangeCommands::WritingChanged, sky_, &SkyPanel::Pause);
-  connect(exchange_, &ExchangeCommands::Done, this, [this](const QString& text) {
+  const auto tell = [this](const QString& text) {
     constexpr int kShown = 8000;  // milliseconds
     bar_->showMessage(text, kShown);
-  });
+  };
+  connect(exchange_, &ExchangeCommands::Done, this, tell);
+  connect(&transits_->Page(), &TransitGridPage::Done, this, tell);
+  connect(&transits_->Page(), &TransitGridPage::TitleChanged, this, [this] { ShowPageTitle(); });
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->Turn(MainPage::Clients); });
   for (QAction* action : {commands_->View, commands_->Report, commands_->EditClient,
@@ -189,8 +192,13 @@ void MainWindow::OfferExports() {
   });
 }
 
+void MainWindow::ShowPageTitle() {
+  status_.ShowPage(pages_->Current() == MainPage::Transits ? transits_->Page().Title() : QString());
+}
+
 // A command acts on the list of the page in sight and on none behind it; the page has the keys.
 void MainWindow::FollowPage() {
+  ShowPageTitle();
   switch (pages_->Current()) {
     case MainPage::Clients:
       commands_->ActOnLists();
@@ -201,7 +209,7 @@ void MainWindow::FollowPage() {
       search_->FocusText();
       return;
     case MainPage::Transits:
-      transits_->Page().setFocus();
+      transits_->Page().FocusMonth();
       break;
     case MainPage::Horas:
       transits_->Horas().FocusDate();

@@ -50,6 +50,7 @@ class MainWindow final : public QMainWindow {
   void ConnectFind();
   void OfferExports();
   void FollowPage();
+  void ShowPageTitle();
   void Start();
   void ShowClientCounts();
   void ShowBirthdays();

@@ -41,13 +41,16 @@ QToolButton* UndoButton(QAction& undo) {
 }  // namespace
 
 StatusPanels::StatusPanels(QStatusBar& bar, QAction& undo)
-    : count_(Panel("clientCount")),
+    : page_(Panel("pageTitle")),
+      count_(Panel("clientCount")),
       total_(Panel("totalClients")),
       ascendant_(Panel("currentAscendant")),
       nodes_(Panel("nodeMode")),
       swatch_(Swatch()),
       disha_(Panel("dishaShool")),
       date_(Panel("dateNow")) {
+  bar.addWidget(page_);
+  page_->hide();
   bar.addWidget(count_);
   bar.addWidget(total_);
   QToolButton* button = UndoButton(undo);
@@ -66,6 +69,13 @@ void StatusPanels::ShowWhole(ElidedLabel& panel, const QString& text) {
 }
 
 void StatusPanels::ShowCount(const QString& text) { ShowWhole(*count_, text); }
+void StatusPanels::ShowPage(const QString& text) {
+  ShowWhole(*page_, text);
+  page_->setVisible(!text.isEmpty());
+  count_->setVisible(text.isEmpty());
+  total_->setVisible(text.isEmpty());
+}
+
 void StatusPanels::ShowDate(bool shown) { date_->setVisible(shown); }
 void StatusPanels::ShowTotal(const QString& text) { ShowWhole(*total_, text); }
 

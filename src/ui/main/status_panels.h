@@ -18,6 +18,8 @@ class StatusPanels final {
   StatusPanels(QStatusBar& bar, QAction& undo);
 
   void ShowCount(const QString& text);
+  // What the page in sight tells in the place of the counts of clients; "" shows these again.
+  void ShowPage(const QString& text);
   // The clients of the whole practice.
   void ShowTotal(const QString& text);
   void ShowSky(const panchang::SkyCaptions& captions);
@@ -27,6 +29,7 @@ class StatusPanels final {
  private:
   static void ShowWhole(ElidedLabel& panel, const QString& text);
 
+  ElidedLabel* page_;
   ElidedLabel* count_;
   ElidedLabel* total_;
   ElidedLabel* ascendant_;

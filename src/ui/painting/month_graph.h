@@ -1,26 +1,12 @@
 // The month of the grid as lines over the twelve signs: where everything stands, and its painting.
 #pragma once
 
-#include <QPolygonF>
 #include <array>
 #include <optional>
 
-#include "transit/month_series.h"
-#include "transit/monthly_grid.h"
-#include "ui/painting/graph_style.h"
+#include "ui/painting/month_lines.h"
 
 namespace orvex::ui {
-
-// A month as the grid has it. Rows count from 0, one a day.
-struct MonthPicture {
-  std::string Title;
-  core::Table Grid;
-  std::vector<core::DateTime> Days;
-  std::vector<transit::PlanetSeries> Series;
-  std::optional<std::size_t> Today;  // its row; nothing in another month
-};
-
-MonthPicture PictureOfMonth(const transit::MonthGrid& grid, core::DateTime today);
 
 struct SignBand {
   QRectF Box;
@@ -30,25 +16,6 @@ struct SignBand {
 struct DayTick {
   double X = 0;
   GraphLabel Label;  // no text where the days stand too close for all to be named
-};
-
-// A run of a planet's line that neither turns nor leaves the picture at 360 or 0 degrees.
-struct LineRun {
-  QPolygonF Points;
-  bool Retrograde = false;
-};
-
-struct PlacedMark {
-  QPointF At;
-  transit::SeriesMark Mark;
-  bool Retrograde = false;  // of the motion after it
-};
-
-struct PlanetLine {
-  std::vector<LineRun> Runs;
-  std::vector<PlacedMark> Marks;
-  QPointF End;
-  GraphLabel Code;  // beside the end of the line
 };
 
 struct MonthLayout {

@@ -1,27 +1,27 @@
 #include "ui/transit/transit_grid_page.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QShowEvent>
 #include <QStackedWidget>
-#include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
 
 #include "core/exact_numbers.h"
-#include "transit/month_name.h"
+#include "transit/month_cells.h"
+#include "transit/transit_calendar.h"
+#include "ui/base/calendar_saving.h"
 #include "ui/base/export_table.h"
-#include "ui/base/labels.h"
 #include "ui/base/moment_edit.h"
-#include "ui/base/named.h"
 #include "ui/base/qt_text.h"
-#include "ui/base/table_view.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_print.h"
 #include "ui/dialogs/pick_city_dialog.h"
+#include "ui/graphs/day_graph_view.h"
 #include "ui/graphs/month_graph_view.h"
 #include "ui/transit/find_transit_dialog.h"
 #include "ui/transit/month_changes.h"
+#include "ui/transit/month_legend.h"
+#include "ui/transit/month_table.h"
 #include "ui/transit/transit_details_dialog.h"
 
 namespace orvex::ui {
@@ -29,30 +29,6 @@ namespace orvex::ui {
 namespace {
 
 constexpr int kBuildDelay = 100;  // milliseconds
-constexpr int kMonths = 12;
-
-// The blanks ahead of the positions line up texts of a fixed column; here they only take room.
-class PositionDelegate final : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  QString displayText(const QVariant& value, const QLocale& /*locale*/) const override {
-    const QString text = value.toString();
-    qsizetype blanks = 0;
-    while (blanks < text.size() && text[blanks] == ' ') {
-      ++blanks;
-    }
-    return text.mid(blanks);
-  }
-};
-
-QComboBox* List(const char* name, const QString& title) {
-  auto* list = new QComboBox;
-  list->setObjectName(name);
-  list->setAccessibleName(title);
-  list->setMaxVisibleItems(kMonths);
-  return list;
-}
 
 }  // namespace
 
@@ -61,134 +37,95 @@ TransitGridPage::TransitGridPage(Workplace& place)
       view_(transit::UserCityView(place.Session)),
       month_(core::PartsOf(place.Session.Time.Now()).Month),
       year_(core::PartsOf(place.Session.Time.Now()).Year),
-      previous_(MakeButton("previousMonth", {})),
-      monthLabel_(MakeCaptionLabel("monthLabel")),
-      next_(MakeButton("nextMonth", {})),
-      thisMonth_(new LinkButton("thisMonth")),
-      find_(MakeButton("findTransit", tr("&Find transit…"))),
-      months_(List("months", tr("Month"))),
-      years_(List("years", tr("Year"))),
-      go_(MakeButton("goToMonth", tr("G&o"))),
-      time_(new TimeEdit("transitTime", TimeEdit::Shows::Minutes)),
-      city_(MakeButton("changeCity", tr("Change c&ity…"))),
-      title_(MakeCaptionLabel("gridTitle")),
-      showGraph_(MakeButton("showGraph", tr("Gra&ph"))),
-      showChanges_(MakeButton("showChanges", tr("Cha&nges"))),
-      grid_(new TableView),
+      bar_(new MonthBar),
+      grid_(new MonthTable),
+      beside_(new DayGraphView),
       graph_(new MonthGraphView(place)),
       changes_(new MonthChanges(place)),
-      views_(new QStackedWidget) {
+      views_(new QStackedWidget),
+      legend_(new MonthLegend) {
   setObjectName("transitGrid");
-  FillLists();
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
   LayOut();
-  time_->SetTime(core::TimeOfDayOf(view_.TransitTime));
+  bar_->Time().SetTime(core::TimeOfDayOf(view_.TransitTime));
+  bar_->ShowCity(view_.CityName);
   Connect();
-}
-
-void TransitGridPage::FillLists() {
-  for (int month = 1; month <= kMonths; ++month) {
-    months_->addItem(Shown(transit::MonthName(core::MakeDateTime({year_, month, 1}).value())));
-  }
-  QStringList years;
-  for (int year = transit::kFirstGridYear; year <= transit::kLastGridYear; ++year) {
-    years << WholeText(year);
-  }
-  years_->addItems(years);
-  months_->setCurrentIndex(month_ - 1);
-  years_->setCurrentText(WholeText(year_));
+  ConnectTables();
 }
 
 void TransitGridPage::LayOut() {
-  grid_->setObjectName("grid");
   grid_->setAccessibleName(tr("Planetary Transit"));
-  grid_->setSortingEnabled(false);
-  grid_->setSelectionBehavior(QAbstractItemView::SelectItems);
-  grid_->setSelectionMode(QAbstractItemView::SingleSelection);
-  grid_->verticalHeader()->setDefaultSectionSize(grid_->fontMetrics().height() + kGrid / 2);
   grid_->SetEmptyText(tr("The positions of the month are being computed…"));
-  // So close together that all planets stand side by side.
-  grid_->SetColumnRoom(kGrid / 4);
-  grid_->FreezeFirstColumn();
-  grid_->setItemDelegate(new PositionDelegate(grid_));
   OfferExport(place_, *grid_);
-  auto* layout = new QVBoxLayout(this);
-  layout->addLayout(BuildMonths());
-  layout->addLayout(BuildChoices());
-  layout->addWidget(title_);
-  views_->addWidget(grid_);
+  views_->addWidget(BuildGrid());
   views_->addWidget(BuildGraph());
   views_->addWidget(changes_);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(space::kM, space::kS, space::kM, 0);
+  layout->addWidget(bar_);
   layout->addWidget(views_, 1);
+}
+
+// The legend stands under the grid alone.
+QWidget* TransitGridPage::BuildGrid() {
+  auto* pane = new QWidget;
+  auto* row = new QHBoxLayout(pane);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(space::kM);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(0);
+  column->addWidget(grid_, 1);
+  column->addWidget(legend_);
+  row->addLayout(column, 1);
+  row->addWidget(beside_);
+  return pane;
 }
 
 QWidget* TransitGridPage::BuildGraph() {
   auto* pane = new QWidget;
   auto* column = new QVBoxLayout(pane);
-  column->setContentsMargins(0, 0, 0, 0);
+  column->setContentsMargins(0, 0, 0, space::kS);
   column->addWidget(graph_, 1);
   column->addLayout(GraphButtons(*pane, {graph_->PrintAction(), graph_->SaveAction()}));
   return pane;
-}
-
-QHBoxLayout* TransitGridPage::BuildMonths() {
-  monthLabel_->setFont(Theme::HeadingFont());
-  monthLabel_->setAlignment(Qt::AlignCenter);
-  auto* row = new QHBoxLayout;
-  row->addWidget(previous_);
-  row->addWidget(monthLabel_, 1);
-  row->addWidget(thisMonth_);
-  row->addWidget(next_);
-  return row;
-}
-
-QHBoxLayout* TransitGridPage::BuildChoices() {
-  auto* at = new QLabel(tr("&at"));
-  at->setBuddy(time_);
-  time_->setAccessibleName(tr("Time of day"));
-  auto* row = new QHBoxLayout;
-  for (QWidget* widget :
-       std::initializer_list<QWidget*>{months_, years_, go_, at, time_, time_->MakeEcho(), city_}) {
-    row->addWidget(widget);
-  }
-  row->addStretch();
-  for (QPushButton* view : {showGraph_, showChanges_}) {
-    view->setCheckable(true);
-    row->addWidget(view);
-  }
-  row->addWidget(find_);
-  return row;
 }
 
 void TransitGridPage::Connect() {
   build_.setSingleShot(true);
   build_.setInterval(kBuildDelay);
   connect(&build_, &QTimer::timeout, this, &TransitGridPage::Rebuild);
-  connect(go_, &QPushButton::clicked, this, [this] {
-    CreateGrid(months_->currentIndex() + 1, years_->currentIndex() + transit::kFirstGridYear);
-  });
-  connect(next_, &QPushButton::clicked, this, [this] { GoToTag(nextTag_); });
-  connect(previous_, &QPushButton::clicked, this, [this] { GoToTag(previousTag_); });
-  connect(thisMonth_, &QPushButton::clicked, this, [this] { GoToTag(thisMonthTag_); });
+  connect(bar_, &MonthBar::MonthWanted, this, &TransitGridPage::CreateGrid);
+  connect(bar_, &MonthBar::TodayWanted, this, &TransitGridPage::GoToToday);
   // Digits that are typed one after the other build the month once.
-  connect(time_, &TimeEdit::Changed, this, [this] {
-    if (const std::optional<core::TimeOfDay> time = time_->Time()) {
+  connect(&bar_->Time(), &TimeEdit::Changed, this, [this] {
+    if (const std::optional<core::TimeOfDay> time = bar_->Time().Time()) {
       view_.TransitTime = core::DateOnly(view_.TransitTime) + *time;
       build_.start();
     }
   });
-  connect(city_, &QPushButton::clicked, this, &TransitGridPage::ChangeCity);
-  connect(find_, &QPushButton::clicked, this, &TransitGridPage::FindTransit);
-  connect(showGraph_, &QPushButton::toggled, this, [this](bool graph) {
-    showGraph_->setText(graph ? tr("Ta&ble") : tr("Gra&ph"));
-    TurnTo(graph ? View::Graph : View::Table);
-  });
-  connect(showChanges_, &QPushButton::toggled, this,
-          [this](bool changes) { TurnTo(changes ? View::Changes : View::Table); });
-  connect(graph_, &MonthGraphView::CellChosen, this, [this](std::size_t row, std::size_t column) {
-    OpenDetails(grid_->Model().index(static_cast<int>(row), static_cast<int>(column)));
-  });
+  connect(bar_, &MonthBar::CityWanted, this, &TransitGridPage::ChangeCity);
+  connect(bar_, &MonthBar::FindWanted, this, &TransitGridPage::FindTransit);
+  connect(bar_, &MonthBar::ViewWanted, this, &TransitGridPage::TurnTo);
+  connect(bar_, &MonthBar::CalendarWanted, this, &TransitGridPage::SaveToCalendar);
+  connect(bar_, &MonthBar::PrintWanted, this, &TransitGridPage::Print);
+}
+
+void TransitGridPage::ConnectTables() {
+  const auto open = [this](std::size_t row, std::size_t column) {
+    SelectCell(static_cast<int>(row), static_cast<int>(column));
+    OpenDetails(grid_->currentIndex());
+  };
+  connect(graph_, &MonthGraphView::CellChosen, this, open);
+  connect(beside_, &DayGraphView::CellChosen, this, open);
   connect(grid_, &TableView::clicked, this, &TransitGridPage::OpenDetails);
   connect(grid_, &TableView::TagActivated, this, [this] { OpenDetails(grid_->currentIndex()); });
+  connect(grid_, &MonthTable::RowsMoved, this, &TransitGridPage::FollowRows);
+}
+
+void TransitGridPage::FollowRows() {
+  beside_->PlaceRows(grid_->Rows());
+  beside_->ChooseRow(grid_->currentIndex().row());
 }
 
 void TransitGridPage::showEvent(QShowEvent* event) {
@@ -200,9 +137,34 @@ void TransitGridPage::showEvent(QShowEvent* event) {
     const core::DateTime now = place_.Session.Time.Now();
     month_ = core::PartsOf(now).Month;
     year_ = core::PartsOf(now).Year;
-    time_->SetTime(core::TimeOfDayOf(now));
+    bar_->Time().SetTime(core::TimeOfDayOf(now));
   }
   build_.start();
+}
+
+void TransitGridPage::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  ShareRoom();
+}
+
+// The grid takes what shows all its planets, the graph beside it the rest; without room for both
+// the grid is alone. The legend goes first where the days need its height.
+void TransitGridPage::ShareRoom() {
+  constexpr int kMostDays = 31;
+  const QMargins margins = layout()->contentsMargins();
+  const int room = width() - margins.left() - margins.right();
+  const int graph = beside_->minimumSizeHint().width() + space::kM;
+  const bool both = room >= grid_->LeastWidth() + graph;
+  bar_->OfferBoth(both);
+  const int days = std::max(1, grid_->Model().rowCount());
+  const int head = bar_->sizeHint().height() + margins.top() + layout()->spacing();
+  const int rows = height() - head - legend_->sizeHint().height();
+  legend_->setVisible(rows >= MonthTable::LeastHeight(std::min(days, kMostDays)));
+  const bool beside = both && wanted_ == MonthView::Both;
+  beside_->setVisible(beside);
+  grid_->setMinimumWidth(beside ? grid_->LeastWidth() : 1);
+  grid_->setMaximumWidth(beside ? grid_->LeastWidth() : QWIDGETSIZE_MAX);
+  bar_->MarkView(!both && wanted_ == MonthView::Both ? MonthView::Table : wanted_);
 }
 
 void TransitGridPage::Refresh() {
@@ -212,8 +174,12 @@ void TransitGridPage::Refresh() {
 }
 
 QSize TransitGridPage::sizeHint() const {
-  constexpr int kMonthWidth = 97 * kGrid;  // a month without a bar
-  return {kMonthWidth, QWidget::sizeHint().height()};
+  return {grid_->LeastWidth(), MonthTable::LeastHeight(1)};
+}
+
+QSize TransitGridPage::minimumSizeHint() const {
+  const QMargins margins = layout()->contentsMargins();
+  return {bar_->minimumSizeHint().width() + margins.left() + margins.right(), 1};
 }
 
 void TransitGridPage::FollowUserCity() {
@@ -222,6 +188,7 @@ void TransitGridPage::FollowUserCity() {
     view_.CityName = user.CityName;
     view_.ZoneHours = user.ZoneHours;
   }
+  bar_->ShowCity(view_.CityName);
 }
 
 void TransitGridPage::Rebuild() { CreateGrid(month_, year_); }
@@ -231,37 +198,38 @@ void TransitGridPage::CreateGrid(int month, int year) {
   FollowUserCity();
   month_ = month;
   year_ = year;
-  months_->setCurrentIndex(month - 1);
-  years_->setCurrentText(WholeText(year));
   ShowGrid(transit::CreateGrid(place_.Session, view_, month, year));
   if (mark_ && mark_->Month == month && mark_->Year == year) {
     ShowMark();
   }
 }
 
+bool TransitGridPage::IsThisMonth() const {
+  const core::DateParts today = core::PartsOf(place_.Session.Time.Now());
+  return today.Month == month_ && today.Year == year_;
+}
+
 void TransitGridPage::ShowGrid(transit::MonthGrid month) {
   const QModelIndex was = grid_->currentIndex();
-  const bool isThisMonth = !month.ThisMonth.Offered;
-  title_->setText(Shown(month.Title));
-  monthLabel_->setText(Shown(month.MonthLabel));
-  previous_->setText(Shown(month.Previous.Caption));
-  previous_->setEnabled(month.Previous.Offered);
-  next_->setText(Shown(month.Next.Caption));
-  next_->setEnabled(month.Next.Offered);
-  thisMonth_->setText(Shown(month.ThisMonth.Caption));
-  thisMonth_->setVisible(month.ThisMonth.Offered);
-  previousTag_ = month.Previous.Tag;
-  nextTag_ = month.Next.Tag;
-  thisMonthTag_ = month.ThisMonth.Tag;
-  grid_->setAccessibleName(tr("Planetary Transit") + ' ' + monthLabel_->text());
+  const int day = core::PartsOf(place_.Session.Time.Now()).Day - 1;
+  const core::DateTime first = core::MakeDateTime({year_, month_, 1}).value();
+  title_ = Shown(month.Title);
+  bar_->ShowMonth(month);
+  grid_->setAccessibleName(title_ + ", " + Shown(month.MonthLabel));
   graph_->ShowGrid(month);
+  beside_->ShowMonth(graph_->Picture());
   changes_->SetMonth(month_, year_, view_.ZoneHours);
-  grid_->SetTable(std::move(month.Grid));
+  std::vector<transit::MonthCellRow> cells = transit::MonthCells(
+      month.Grid,
+      transit::GridOfDay(place_.Session, view_, first - std::chrono::days(1)).Rows.front());
+  grid_->ShowMonth(std::move(month.Grid), std::move(cells), IsThisMonth() ? day : -1);
   if (was.isValid()) {
     SelectCell(std::min(was.row(), grid_->Model().rowCount() - 1), was.column());
   } else {
-    SelectCell(isThisMonth ? core::PartsOf(place_.Session.Time.Now()).Day - 1 : 0, 1);
+    SelectCell(IsThisMonth() ? day : 0, 1);
   }
+  ShareRoom();
+  emit TitleChanged(title_);
 }
 
 void TransitGridPage::SelectCell(int row, int column) {
@@ -270,19 +238,25 @@ void TransitGridPage::SelectCell(int row, int column) {
   grid_->scrollTo(cell);
 }
 
-void TransitGridPage::GoToTag(const std::string& tag) {
-  if (const auto first = transit::MonthOfTag(tag)) {
-    const core::DateParts parts = core::PartsOf(*first);
-    CreateGrid(parts.Month, parts.Year);
-  }
+void TransitGridPage::GoToToday() {
+  const core::DateParts today = core::PartsOf(place_.Session.Time.Now());
+  CreateGrid(today.Month, today.Year);
+  SelectCell(today.Day - 1, std::max(1, grid_->currentIndex().column()));
+  FocusMonth();
+}
+
+void TransitGridPage::FocusMonth() {
+  const QWidgetList views = {grid_, graph_, changes_};
+  views.at(views_->currentIndex())->setFocus();
 }
 
 void TransitGridPage::HighlightCell(const transit::GridMark& mark) {
   mark_ = mark;
   CreateGrid(mark.Month, mark.Year);
   if (const std::optional<transit::CellPlace> cell = ShowMark()) {
-    showGraph_->setChecked(false);
-    showChanges_->setChecked(false);
+    if (wanted_ != MonthView::Both) {
+      TurnTo(MonthView::Table);
+    }
     SelectCell(static_cast<int>(cell->Row), static_cast<int>(cell->Column));
     grid_->setFocus();
   }
@@ -294,7 +268,7 @@ std::optional<transit::CellPlace> TransitGridPage::ShowMark() {
   core::Table marked = grid_->Table();
   const auto cell = transit::HighlightCell(marked, mark_->DateText, mark_->PlanetName);
   if (cell) {
-    grid_->SetTable(std::move(marked));
+    grid_->ShowMarked(std::move(marked));
     SelectCell(was.row(), was.column());
   }
   return cell;
@@ -307,16 +281,10 @@ void TransitGridPage::FindTransit() {
   }
 }
 
-// Each of the two buttons turns to its view and back to the table; pressed, it releases the other.
-void TransitGridPage::TurnTo(View view) {
-  if (view != View::Table) {
-    showGraph_->setChecked(view == View::Graph);
-    showChanges_->setChecked(view == View::Changes);
-  }
-  const View shown = showGraph_->isChecked()     ? View::Graph
-                     : showChanges_->isChecked() ? View::Changes
-                                                 : View::Table;
-  views_->setCurrentIndex(static_cast<int>(shown));
+void TransitGridPage::TurnTo(MonthView view) {
+  wanted_ = view;
+  views_->setCurrentIndex(view == MonthView::Graph ? 1 : view == MonthView::Changes ? 2 : 0);
+  ShareRoom();
 }
 
 void TransitGridPage::ChangeCity() {
@@ -326,6 +294,18 @@ void TransitGridPage::ChangeCity() {
     view_.ZoneHours = core::ToSingle(city->Offset);
     Rebuild();
   }
+}
+
+void TransitGridPage::SaveToCalendar() {
+  const QString told = SaveCalendar(place_, *this, Typed(grid_->accessibleName()),
+                                    transit::GridEvents(place_.Session, view_, month_, year_));
+  if (!told.isEmpty()) {
+    emit Done(told);
+  }
+}
+
+void TransitGridPage::Print() {
+  PrintWithPreview(place_, *this, PrintoutOf(*this, {title_, {}, {}}, place_.Session));
 }
 
 void TransitGridPage::OpenDetails(const QModelIndex& cell) {

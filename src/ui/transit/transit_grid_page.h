@@ -1,4 +1,5 @@
-// The monthly grid: where the planets stand on each day of a month, at one time of day in one city.
+// The page of a month: where the planets stand on each of its days, at one time of day in one city,
+// as a grid, as a graph, or both with their rows beside each other.
 #pragma once
 
 #include <QTimer>
@@ -7,21 +8,18 @@
 #include "transit/find_transit_tool.h"
 #include "transit/monthly_grid.h"
 #include "ui/base/workplace.h"
+#include "ui/transit/month_bar.h"
 
-class QComboBox;
-class QHBoxLayout;
-class QLabel;
 class QModelIndex;
-class QPushButton;
 class QStackedWidget;
 
 namespace orvex::ui {
 
-class LinkButton;
+class DayGraphView;
 class MonthChanges;
 class MonthGraphView;
-class TableView;
-class TimeEdit;
+class MonthLegend;
+class MonthTable;
 
 // Follows the user city until another one is chosen here. The city and the time of day chosen stay
 // for as long as the page lives. The month is computed anew whenever the page comes into sight.
@@ -43,28 +41,43 @@ class TransitGridPage final : public QWidget {
   // Asks for a transit; one that was found and wanted is shown in the grid.
   void FindTransit();
 
+  // "Planetary Transit in Dubai at 10:00"; "" before the first month stands.
+  const QString& Title() const { return title_; }
+
+  // Gives the keys to the view in sight.
+  void FocusMonth();
+
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  void TitleChanged(const QString& title);
+  // Something is done that the status line tells.
+  void Done(const QString& text);
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  enum class View { Table, Graph, Changes };
-
   void LayOut();
-  QHBoxLayout* BuildMonths();
-  QHBoxLayout* BuildChoices();
+  QWidget* BuildGrid();
   QWidget* BuildGraph();
-  void FillLists();
   void Connect();
+  void ConnectTables();
   void FollowUserCity();
   void Rebuild();
   void ShowGrid(transit::MonthGrid month);
   std::optional<transit::CellPlace> ShowMark();
   void SelectCell(int row, int column);
-  void GoToTag(const std::string& tag);
+  void GoToToday();
+  bool IsThisMonth() const;
   void ChangeCity();
-  void TurnTo(View view);
+  void TurnTo(MonthView view);
+  void ShareRoom();
+  void FollowRows();
+  void SaveToCalendar();
+  void Print();
   void OpenDetails(const QModelIndex& cell);
 
   Workplace& place_;
@@ -74,27 +87,16 @@ class TransitGridPage final : public QWidget {
   std::optional<transit::GridMark> mark_;
   int month_;
   int year_;
-  std::string nextTag_;
-  std::string previousTag_;
-  std::string thisMonthTag_;
+  QString title_;
+  MonthView wanted_ = MonthView::Both;
   QTimer build_;
-  QPushButton* previous_;
-  QLabel* monthLabel_;
-  QPushButton* next_;
-  LinkButton* thisMonth_;
-  QPushButton* find_;
-  QComboBox* months_;
-  QComboBox* years_;
-  QPushButton* go_;
-  TimeEdit* time_;
-  QPushButton* city_;
-  QLabel* title_;
-  QPushButton* showGraph_;
-  QPushButton* showChanges_;
-  TableView* grid_;
+  MonthBar* bar_;
+  MonthTable* grid_;
+  DayGraphView* beside_;
   MonthGraphView* graph_;
   MonthChanges* changes_;
   QStackedWidget* views_;
+  MonthLegend* legend_;
 };
 
 }  // namespace orvex::ui

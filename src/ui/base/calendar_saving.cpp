@@ -1,4 +1,4 @@
-#include "ui/horoscope/calendar_saving.h"
+#include "ui/base/calendar_saving.h"
 
 #include <QCoreApplication>
 
