@@ -87,6 +87,7 @@ practice::SearchFilter FilterOf(const core::Session& session, const SearchOption
   filter.Gender = options.Gender ? GenderLetter(*options.Gender) : "";
   filter.RetrogradePlanetId = options.Retro ? RetrogradeId(session, *options.Retro) : 0;
   filter.AscendantRashi = options.Ascendant ? RashiNumber(session, *options.Ascendant) : 0;
+  filter.Name = options.Name;
   filter.Text = options.Text;
   if (options.Planet && core::UpperCase(*options.Planet) != "ANY") {
     filter.ForPlanetId = PlanetId(session, "--planet", *options.Planet);
@@ -122,6 +123,7 @@ void AddSearchOptions(Command command, SearchOptions& options) {
   command.add_option("--gender", options.Gender, "M, F or O");
   command.add_option("--retro", options.Retro, "planet that is retrograde, Mercury to Saturn");
   command.add_option("--ascendant", options.Ascendant, "sign of the first cusp");
+  command.add_option("--name", options.Name, "a part of the client's name");
   command.add_option("--text", options.Text, "text in the comments, or in problem or remedy");
   command.add_option("--after", options.After, "date; with --before: between the two");
   command.add_option("--before", options.Before, "date");

@@ -16,6 +16,7 @@ struct SearchOptions {
   std::optional<std::string> Gender;
   std::optional<std::string> Retro;
   std::optional<std::string> Ascendant;
+  std::string Name;
   std::string Text;
   std::optional<std::string> After;
   std::optional<std::string> Before;

@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "core/attempt.h"
+#include "core/dialect.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "practice/list_cells.h"
@@ -30,6 +31,7 @@ struct Clauses {
   std::string Groups;
   std::string Gender;
   std::string Ascendant;
+  std::string Name;
 };
 
 std::string GroupClause(const SearchFilter& filter) {
@@ -69,6 +71,9 @@ Clauses ClausesOf(const SearchFilter& filter) {
         " and cp.inretro <> 0 ";
   }
   clauses.Ascendant = AscendantClause(filter.AscendantRashi);
+  if (const std::string name = core::Trim(filter.Name); !name.empty()) {
+    clauses.Name = " and cm.fullname like " + core::Quoted("%" + name + "%");
+  }
   return clauses;
 }
 
@@ -100,7 +105,7 @@ std::string ClientsThatFit(const SearchFilter& filter, const Clauses& clauses) {
          " where cm.cityid = ctm.id and cm.groupid = gm.id and" +
          DateClause(filter, "cm.birthdate") +
          (text.empty() ? "" : " and cm.comments like '%" + text + "%'") + clauses.Retrograde +
-         clauses.Groups + clauses.Gender + clauses.Ascendant;
+         clauses.Groups + clauses.Gender + clauses.Ascendant + clauses.Name;
 }
 
 std::string RemediesThatFit(const SearchFilter& filter, const Clauses& clauses) {
@@ -114,7 +119,7 @@ std::string RemediesThatFit(const SearchFilter& filter, const Clauses& clauses) 
          clauses.Retrograde +
          (filter.ForPlanetId ? " and cr.forplanetid = " + core::WholeText(*filter.ForPlanetId)
                              : "") +
-         clauses.Groups + clauses.Gender + clauses.Ascendant;
+         clauses.Groups + clauses.Gender + clauses.Ascendant + clauses.Name;
 }
 
 bool OfClients(const SearchFilter& filter) { return filter.Mode == SearchMode::Clients; }

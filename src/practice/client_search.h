@@ -39,7 +39,8 @@ struct SearchFilter {
   std::string Gender;                                 // "M", "F", "O"; "" any
   int RetrogradePlanetId = 0;                         // planet_master.id; 0 is passed over
   int AscendantRashi = 0;                             // 1 to 12; 0 any
-  std::string Text;                                   // as typed
+  std::string Name;  // a part of the client's name, taken letter for letter but for %
+  std::string Text;  // as typed
   DateRange Dates = DateRange::Any;
   core::DateTime From{};
   core::DateTime To{};

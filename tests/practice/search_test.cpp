@@ -66,6 +66,10 @@ TEST_F(Search, EachFilterOfTheSearchNarrowsTheList) {
       {{"C"}, {.RetrogradePlanetId = 5}},
       {{"B"}, {.AscendantRashi = 1}},
       {{"A", "C"}, {.AscendantRashi = 12}},
+      {{"A"}, {.Name = " a "}},
+      {{"B"}, {.Name = "b", .Text = "knee"}},
+      {{}, {.Name = "a", .Text = "knee"}},
+      {{}, {.Name = "x' or '1' = '1"}},
       {{"B"}, {.Text = "  KNEE "}},
       {{}, {.Text = "it's"}},
       {{}, {.Text = "x'; delete from client_master; --"}},
@@ -93,6 +97,12 @@ TEST_F(Search, EachFilterOfTheSearchNarrowsTheList) {
   EXPECT_EQ(refused.ResultLine, "Search Result(s):");
 }
 
+TEST_F(Search, AQuoteInANameIsPartOfIt) {
+  Add("Mary O'Brien");
+  Add("Mary Brien");
+  EXPECT_EQ(Names({.Name = "o'b"}), Strings{"Mary O'Brien"});
+}
+
 TEST_F(Search, RemediesAreFoundByTheirOwnFilters) {
   const std::int32_t id = Add("A");
   Add("B");
@@ -105,6 +115,8 @@ TEST_F(Search, RemediesAreFoundByTheirOwnFilters) {
     return Names(filter).size();
   };
   EXPECT_EQ(count({}), 2U);  // two remedies are two rows
+  EXPECT_EQ(count({.Name = "A"}), 2U);
+  EXPECT_EQ(count({.Name = "B"}), 0U);
   EXPECT_EQ(count({.Text = "sleep"}), 1U);
   EXPECT_EQ(count({.Text = "pearl"}), 2U);
   EXPECT_EQ(count({.ForPlanetId = 2}), 1U);

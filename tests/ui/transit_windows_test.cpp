@@ -9,6 +9,7 @@
 #include "core/cell_colors.h"
 #include "core/home.h"
 #include "support/transit_windows.h"
+#include "ui/base/cell_delegate.h"
 #include "ui/base/moment_edit.h"
 #include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
@@ -347,6 +348,11 @@ TEST_F(TransitWindowTest, TheHorasFollowTheDateAndTheCity) {
     return Cell(*view, "dayHoras", row, 0).data(Qt::FontRole).value<QFont>().bold();
   };
   EXPECT_TRUE(runs(3));  // 09:22 to 10:16
+  auto& cells = *qobject_cast<CellDelegate*>(Find<TableView>(*view, "dayHoras").itemDelegate());
+  const auto width = [&](int row) {
+    return cells.PlacedWidth(QStyleOptionViewItem(), Cell(*view, "dayHoras", row, 0));
+  };
+  EXPECT_GT(width(3), width(10) + 20);  // Mercury both, the one that runs with a word behind it
   home_.Clock.Set(test::Moment("2026-11-24 10:20:00"));
   view->FollowClock();
   EXPECT_FALSE(runs(3));

@@ -128,6 +128,35 @@ void DrawField(QPainter& painter, const QStyleOption& option) {
           focus ? line::kFocus : line::kHair);
 }
 
+// The mark of a radio button or a check box: an edge that stands out on every ground, and what is
+// chosen filled.
+void DrawIndicator(QPainter& painter, const QStyleOption& option, bool round) {
+  const Tokens& t = Theme::Now();
+  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  const bool on = option.state.testFlag(QStyle::State_On);
+  const QColor mark = enabled ? t.Accent : t.Ink3;
+  const int side = std::min(option.rect.width(), option.rect.height());
+  QRectF box(0, 0, side - 1, side - 1);
+  box.moveCenter(QRectF(option.rect).center());
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(on || option.state.testFlag(QStyle::State_HasFocus) ? mark : t.Edge, 1));
+  painter.setBrush(on && !round ? mark : enabled ? t.Sheet : t.Ground);
+  const double corner = round ? side / 2.0 : radius::kChip;
+  painter.drawRoundedRect(box, corner, corner);
+  if (on && round) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(mark);
+    painter.drawEllipse(box.center(), side / 4.0, side / 4.0);
+  } else if (on) {
+    painter.setPen(QPen(t.OnAccent, 1.6));
+    painter.drawPolyline(QPolygonF{{QPointF(box.left() + side * 0.22, box.center().y()),
+                                    QPointF(box.left() + side * 0.42, box.bottom() - side * 0.24),
+                                    QPointF(box.right() - side * 0.18, box.top() + side * 0.24)}});
+  }
+  painter.restore();
+}
+
 }  // namespace
 
 CalmStyle::CalmStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -214,6 +243,13 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
       }
       return;
     }
+    case PE_IndicatorRadioButton:
+      DrawIndicator(*painter, *option, true);
+      return;
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+      DrawIndicator(*painter, *option, false);
+      return;
     case PE_PanelButtonTool:
       DrawToolButton(*painter, *option);
       return;

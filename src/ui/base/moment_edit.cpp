@@ -5,10 +5,10 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "ui/base/icon.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
 
@@ -95,8 +95,7 @@ void MomentEdit::wheelEvent(QWheelEvent* event) {
 
 DateEdit::DateEdit(const QString& objectName) : MomentEdit(objectName) {
   WidenFor(*this, "28 Sept 2000");
-  QAction* calendar =
-      addAction(style()->standardIcon(QStyle::SP_ArrowDown), QLineEdit::TrailingPosition);
+  QAction* calendar = addAction(Icon("calendar", IconInk::Quiet), QLineEdit::TrailingPosition);
   calendar->setObjectName("calendar");
   calendar->setToolTip(tr("Calendar (Alt+Down)"));
   connect(calendar, &QAction::triggered, this, &DateEdit::OpenCalendar);

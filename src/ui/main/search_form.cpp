@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
-#include <QSpinBox>
 #include <QToolButton>
 
 #include "practice/groups.h"
@@ -25,9 +24,6 @@ namespace {
 
 using practice::DateRange;
 using practice::SearchMode;
-
-// The order of the age box.
-enum class AgeRange { Above, Below, Between };
 
 QLabel* Caption(const QString& text, QWidget* buddy) {
   auto* caption = new QLabel(text);
@@ -66,18 +62,14 @@ SearchForm::SearchForm(const core::Session& session, QWidget* parent)
       retrograde_(Named(new QComboBox, "retrograde")),
       planetCaption_(new QLabel(tr("For &Planet:"))),
       forPlanet_(Named(new QComboBox, "forPlanet")),
+      name_(Named(new QLineEdit, "searchName")),
       textCaption_(Named(new QLabel, "textCaption")),
       text_(Named(new QLineEdit, "searchText")),
       dateCaption_(Named(new QLabel, "dateCaption")),
       dateRange_(Named(new QComboBox, "dateRange")),
       from_(new DateEdit("dateFrom")),
       toCaption_(new QLabel(tr("to"))),
-      to_(new DateEdit("dateTo")),
-      ageCaption_(new QLabel(tr("&Age:"))),
-      ages_(nullptr),
-      ageRange_(Named(new QComboBox, "ageRange")),
-      ageFrom_(Named(new QSpinBox, "ageFrom")),
-      ageTo_(Named(new QSpinBox, "ageTo")) {
+      to_(new DateEdit("dateTo")) {
   FillChoices();
   Build();
   LoadGroups();
@@ -105,7 +97,6 @@ void SearchForm::FillChoices() {
   forPlanet_->addItem(tr("Any"));
   AddPlanetsByName(*forPlanet_, session_.Reference);
   dateRange_->addItems({tr("Any"), tr("After"), tr("Before"), tr("Between")});
-  ageRange_->addItems({tr("Above"), tr("Below"), tr("Between")});
   for (DateEdit* date : {from_, to_}) {
     date->SetDate(session_.Time.Today());
   }
@@ -116,7 +107,7 @@ void SearchForm::Build() {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(kMargin);
   grid->addWidget(BuildModes(), 0, 0, 1, 2);
-  grid->addWidget(BuildGroups(), 1, 0);
+  grid->addWidget(BuildGroups(), 1, 0, Qt::AlignTop);
   auto* fields = new QGridLayout;
   BuildFields(*fields);
   grid->addLayout(fields, 1, 1, Qt::AlignTop);
@@ -144,8 +135,8 @@ QWidget* SearchForm::BuildGroups() {
   connect(all, &QToolButton::clicked, this, [this] { TickAll(Qt::Checked); });
   connect(none, &QToolButton::clicked, this, [this] { TickAll(Qt::Unchecked); });
   for (QWidget* widget : std::initializer_list<QWidget*>{groups_, all, none}) {
-    connect(selectedGroups_, &QRadioButton::toggled, widget, &QWidget::setEnabled);
-    widget->setEnabled(false);
+    connect(selectedGroups_, &QRadioButton::toggled, widget, &QWidget::setVisible);
+    widget->hide();
   }
   auto* box = new QWidget;
   auto* column = new QVBoxLayout(box);
@@ -159,34 +150,33 @@ QWidget* SearchForm::BuildGroups() {
 }
 
 void SearchForm::BuildFields(QGridLayout& grid) {
+  name_->setClearButtonEnabled(true);
   text_->setClearButtonEnabled(true);
   planetCaption_->setBuddy(forPlanet_);
   textCaption_->setBuddy(text_);
   dateCaption_->setBuddy(dateRange_);
-  ageCaption_->setBuddy(ageRange_);
-  ages_ = BuildAges();
   grid.setSpacing(kGrid);
-  grid.addWidget(textCaption_, 0, 0);
-  grid.addWidget(text_, 0, 1, 1, 3);
+  grid.addWidget(Caption(tr("&Name:"), name_), 0, 0);
+  grid.addWidget(name_, 0, 1);
+  grid.addWidget(textCaption_, 0, 2);
+  grid.addWidget(text_, 0, 3);
   grid.addWidget(dateCaption_, 1, 0);
   grid.addWidget(BuildDates(), 1, 1, 1, 3);
-  grid.addWidget(Caption(tr("Ge&nder:"), gender_), 2, 0);
+  grid.addWidget(Caption(tr("Gen&der:"), gender_), 2, 0);
   grid.addWidget(gender_, 2, 1);
-  grid.addWidget(Caption(tr("Ascen&dant:"), ascendant_), 2, 2);
+  grid.addWidget(Caption(tr("&Ascendant:"), ascendant_), 2, 2);
   grid.addWidget(ascendant_, 2, 3);
   grid.addWidget(Caption(tr("Retrograde:"), retrograde_), 3, 0);
   grid.addWidget(retrograde_, 3, 1);
   grid.addWidget(planetCaption_, 3, 2);
   grid.addWidget(forPlanet_, 3, 3);
-  grid.addWidget(ageCaption_, 4, 0);
-  grid.addWidget(ages_, 4, 1, 1, 3);
   grid.setColumnStretch(1, 1);
   grid.setColumnStretch(3, 1);
 }
 
 QWidget* SearchForm::BuildDates() {
-  // Showing the second date moves nothing.
-  for (QWidget* widget : std::initializer_list<QWidget*>{toCaption_, to_}) {
+  // Showing the dates moves nothing.
+  for (QWidget* widget : std::initializer_list<QWidget*>{from_, toCaption_, to_}) {
     QSizePolicy policy = widget->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     widget->setSizePolicy(policy);
@@ -216,47 +206,27 @@ QWidget* SearchForm::BuildDateWords() {
   return SideBySide({from, to});
 }
 
-QWidget* SearchForm::BuildAges() {
-  constexpr int kOldest = 120;
-  for (QSpinBox* age : {ageFrom_, ageTo_}) {
-    age->setMaximum(kOldest);
-  }
-  ageFrom_->setAccessibleName(tr("From age"));
-  ageTo_->setAccessibleName(tr("To age"));
-  auto* note = new QLabel(tr("(not part of the search)"));
-  QPalette muted = note->palette();
-  muted.setColor(QPalette::WindowText, Theme::Muted());
-  note->setPalette(muted);
-  return SideBySide({ageRange_, ageFrom_, new QLabel(tr("to")), ageTo_, note});
-}
-
 void SearchForm::Connect() {
   connect(remedies_, &QRadioButton::toggled, this, [this] {
     FollowMode();
     emit ModeChanged();
   });
-  for (QComboBox* range : {dateRange_, ageRange_}) {
-    connect(range, &QComboBox::currentIndexChanged, this, [this] { FollowRanges(); });
-  }
+  connect(dateRange_, &QComboBox::currentIndexChanged, this, &SearchForm::FollowRanges);
 }
 
 void SearchForm::FollowMode() {
   const bool clients = Mode() == SearchMode::Clients;
   textCaption_->setText(clients ? tr("Co&mments:") : tr("Proble&m/Remedy:"));
-  dateCaption_->setText(clients ? tr("&Birth Date:") : tr("Remedy &Date:"));
+  dateCaption_->setText(clients ? tr("&Birth Date:") : tr("Remed&y Date:"));
   planetCaption_->setVisible(!clients);
   forPlanet_->setVisible(!clients);
-  ageCaption_->setVisible(clients);
-  ages_->setVisible(clients);
-  ages_->setEnabled(clients);
 }
 
 void SearchForm::FollowRanges() {
   const bool between = IsBetween(*dateRange_);
-  from_->setEnabled(dateRange_->currentIndex() != static_cast<int>(DateRange::Any));
+  from_->setVisible(dateRange_->currentIndex() != static_cast<int>(DateRange::Any));
   toCaption_->setVisible(between);
   to_->setVisible(between);
-  ageTo_->setEnabled(ageRange_->currentIndex() == static_cast<int>(AgeRange::Between));
 }
 
 void SearchForm::LoadGroups() {
@@ -305,6 +275,7 @@ practice::SearchFilter SearchForm::Filter() const {
   filter.Gender = Typed(gender_->currentData().toString());
   filter.RetrogradePlanetId = retrograde_->currentData().toInt();
   filter.AscendantRashi = ascendant_->currentData().toInt();
+  filter.Name = Typed(name_->text());
   filter.Text = Typed(text_->text());
   filter.Dates = static_cast<DateRange>(dateRange_->currentIndex());
   filter.From = from_->Date().value_or(filter.From);

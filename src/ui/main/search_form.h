@@ -11,7 +11,6 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QRadioButton;
-class QSpinBox;
 
 namespace orvex::ui {
 
@@ -50,7 +49,6 @@ class SearchForm final : public QWidget {
   void BuildFields(QGridLayout& grid);
   QWidget* BuildDates();
   QWidget* BuildDateWords();
-  QWidget* BuildAges();
   void FillChoices();
   void Connect();
   void FollowMode();
@@ -69,6 +67,7 @@ class SearchForm final : public QWidget {
   QComboBox* retrograde_;
   QLabel* planetCaption_;
   QComboBox* forPlanet_;
+  QLineEdit* name_;
   QLabel* textCaption_;
   QLineEdit* text_;
   QLabel* dateCaption_;
@@ -76,11 +75,6 @@ class SearchForm final : public QWidget {
   DateEdit* from_;
   QLabel* toCaption_;
   DateEdit* to_;
-  QLabel* ageCaption_;
-  QWidget* ages_;
-  QComboBox* ageRange_;
-  QSpinBox* ageFrom_;
-  QSpinBox* ageTo_;
 };
 
 }  // namespace orvex::ui

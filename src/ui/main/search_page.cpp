@@ -26,6 +26,8 @@ SearchPage::SearchPage(Workplace& place, QWidget* parent)
       caption_(new QLabel),
       results_(new TableView) {
   setObjectName("searchPage");
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
   Build();
   Clear();
   Connect();
@@ -34,17 +36,18 @@ SearchPage::SearchPage(Workplace& place, QWidget* parent)
 void SearchPage::Build() {
   search_->setObjectName("search");
   export_->setObjectName("exportResults");
-  export_->setToolTip(tr("The list as a spreadsheet"));
   caption_->setObjectName("resultCaption");
   caption_->setTextFormat(Qt::PlainText);
   results_->setObjectName("searchResults");
   results_->setAccessibleName(tr("Search Results"));
   results_->setSelectionMode(QAbstractItemView::SingleSelection);
+  results_->setFrameShape(QFrame::NoFrame);
   auto* row = new QHBoxLayout;
   row->addWidget(caption_, 1);
   row->addWidget(search_);
   row->addWidget(export_);
   auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(space::kL, space::kM, space::kL, 0);
   column->addWidget(form_);
   column->addLayout(row);
   column->addWidget(results_, 1);
@@ -125,6 +128,8 @@ void SearchPage::Show(const practice::SearchFilter& filter, std::vector<practice
                                  chosen);
   caption_->setText(caption);
   export_->setEnabled(any);
+  export_->setToolTip(any ? tr("The list as a spreadsheet")
+                          : tr("Nothing is found yet that could be exported"));
   results_->SetExport(any ? [this](const core::Table& table) { Export(table); }
                           : std::function<void(const core::Table&)>());
 }

@@ -10,7 +10,7 @@
 #include "ui/base/moment_edit.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
-#include "ui/base/table_view.h"
+#include "ui/base/table_plan.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/pick_city_dialog.h"
 
@@ -35,7 +35,6 @@ TableView* HoraList(Workplace& place, const char* name, const QString& title) {
   table->setAccessibleName(title);
   table->setSortingEnabled(false);
   table->SetEmptyText(HoraView::tr("The Sun does not rise or set on this date."));
-  table->SetStretchColumn(0);
   table->RememberWidths(place.Layout);
   OfferExport(place, *table);
   return table;
@@ -56,16 +55,33 @@ HoraView::HoraView(Workplace& place, QWidget* parent)
       sunrise_(MakeCaptionLabel("sunrise")),
       sunset_(MakeCaptionLabel("sunset")),
       day_(HoraList(place, "dayHoras", tr("Horas of the day"))),
-      night_(HoraList(place, "nightHoras", tr("Horas of the night"))) {
+      night_(HoraList(place, "nightHoras", tr("Horas of the night"))),
+      dayPlan_(PlanHoras(*day_)),
+      nightPlan_(PlanHoras(*night_)) {
   setObjectName("horaView");
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
   LayOut();
   date_->SetDate(shown_);
   Connect();
   CalcHora();
 }
 
+// The hora that runs carries the word, so that its tint is not all that tells it.
+TablePlan* HoraView::PlanHoras(TableView& table) {
+  auto* plan = new TablePlan(table, {{"Planet", CellKind::Chip, 130, 0},
+                                     {"Start", CellKind::Text, 76, 0},
+                                     {"End", CellKind::Text, 76, 0}});
+  plan->Cells().SetMarks([this, &table](const QModelIndex& index) {
+    const core::Row& row = table.Model().ShownRowAt(index.row());
+    const std::string& start = row.Cells.at(core::Table::Index(panchang::HoraColumn::Start)).Tag;
+    return !running_.empty() && start == running_ ? QStringList{"now"} : QStringList();
+  });
+  return plan;
+}
+
 void HoraView::LayOut() {
-  caption_->setFont(Theme::HeadingFont());
+  caption_->setFont(Theme::Serif(type::kName));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->addWidget(caption_);
@@ -86,6 +102,7 @@ QHBoxLayout* HoraView::BuildDates() {
 
 QHBoxLayout* HoraView::BuildTables() {
   auto* row = new QHBoxLayout;
+  row->setSpacing(space::kXl);
   row->addWidget(BuildHalf(tr("Day"), sunrise_, day_));
   row->addWidget(BuildHalf(tr("Night"), sunset_, night_));
   return row;
@@ -159,6 +176,8 @@ void HoraView::ShowRunning() {
     }
     list->SetTable(std::move(marked));
   }
+  dayPlan_->Fit();
+  nightPlan_->Fit();
 }
 
 void HoraView::FollowClock() {

@@ -13,6 +13,7 @@ class QPushButton;
 namespace orvex::ui {
 
 class DateEdit;
+class TablePlan;
 class TableView;
 
 // Opens for the user city and today.
@@ -32,6 +33,7 @@ class HoraView final : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
+  TablePlan* PlanHoras(TableView& table);
   void LayOut();
   QHBoxLayout* BuildDates();
   QHBoxLayout* BuildTables();
@@ -57,6 +59,8 @@ class HoraView final : public QWidget {
   QLabel* sunset_;
   TableView* day_;
   TableView* night_;
+  TablePlan* dayPlan_;
+  TablePlan* nightPlan_;
 };
 
 }  // namespace orvex::ui
