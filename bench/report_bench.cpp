@@ -31,6 +31,7 @@ class ReportHome {
   explicit ReportHome(int clients = 1) {
     for (int client = 0; client < clients; ++client) {
       Ids.push_back(chart::SaveNewClient(*Session, BenchHome::Form(*Session), 1).Id);
+      home_.Tick();
     }
   }
 

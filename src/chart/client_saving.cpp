@@ -67,6 +67,11 @@ void AppendPersonAndQuery(const ClientForm& form, ColumnValues& values) {
                  {"ascdegreetype", form.AscendantByHand && !form.Horary ? "'M'" : "'A'"}});
 }
 
+// The clients that were created in a second, the first one first.
+core::Result CreatedIn(const core::Store& store, core::DateTime second) {
+  return store.Query("Select id from client_master where createddate = " + DateLiteral(second));
+}
+
 ColumnValues InsertValues(const ClientRecord& record, const std::string& created) {
   const ClientForm& form = record.Form;
   ColumnValues values = {{"fullname", NameValue(form)},
@@ -282,25 +287,27 @@ std::int32_t InsertClientRows(core::Session& session, const ClientRecord& record
   return id;
 }
 
-std::int32_t InsertClient(core::Session& session, const ClientRecord& record) {
+std::int32_t InsertClient(core::Session& session, const ClientRecord& record, Creation creation) {
   core::Store& store = session.StoreConnection;
-  const std::string created = DateLiteral(session.Time.Now());
+  core::DateTime second = session.Time.Now();
+  while (creation == Creation::InASecondOfItsOwn && !CreatedIn(store, second).AtEnd()) {
+    second += std::chrono::seconds(1);
+  }
   core::Batch batch(store);
-  store.Execute(InsertStatement("client_master", InsertValues(record, created)));
+  store.Execute(InsertStatement("client_master", InsertValues(record, DateLiteral(second))));
   SyncStore(store);
   // Found again by its second: of two clients of one second the first row is taken.
-  const auto id = static_cast<std::int32_t>(
-      store.Query("Select id from client_master where createddate = " + created).Integer("id"));
+  const auto id = static_cast<std::int32_t>(CreatedIn(store, second).Integer("id"));
   InsertPlanets(session, id, record.Chart);
   SyncStore(store);
   batch.Commit();
   return id;
 }
 
-core::SaveResult SaveNewClient(core::Session& session, const ClientForm& form,
-                               std::int32_t groupId) {
+core::SaveResult SaveNewClient(core::Session& session, const ClientForm& form, std::int32_t groupId,
+                               Creation creation) {
   return Save(session, form, [&](const ChartResult& chart) {
-    return InsertClient(session, {form, groupId, chart});
+    return InsertClient(session, {form, groupId, chart}, creation);
   });
 }
 

@@ -49,12 +49,16 @@ std::optional<ClientForm> OpenEditClient(core::Session& session, std::int32_t cl
 // Takes the place of the chosen city into the form.
 void SelectCity(const core::Session& session, std::int32_t cityId, ClientForm& form);
 
+// The second in which a new client counts as created. Its row is found again by it.
+enum class Creation {
+  AtTheClocksSecond,  // of two clients of one second the first one's row is found for both
+  InASecondOfItsOwn   // the first second from now on in which no client was created
+};
+
 // Saves a new client of a group with its chart: one client_master row and nine client_planets rows
 // in one batch. The first failed check, or a chart that can't be computed or written, is refused.
-// The id is found again by the second of creation, so of two clients of one second the first one's
-// is given.
-core::SaveResult SaveNewClient(core::Session& session, const ClientForm& form,
-                               std::int32_t groupId);
+core::SaveResult SaveNewClient(core::Session& session, const ClientForm& form, std::int32_t groupId,
+                               Creation creation = Creation::AtTheClocksSecond);
 
 // Saves the changes of a stored client. Its group and its moment of creation stay.
 core::SaveResult SaveClientChanges(core::Session& session, const ClientForm& form,
@@ -86,6 +90,6 @@ std::int32_t InsertClientRows(core::Session& session, const ClientRecord& record
 
 // Writes a new client whose chart is computed. StoreError where a statement fails; what was written
 // before it stays.
-std::int32_t InsertClient(core::Session& session, const ClientRecord& record);
+std::int32_t InsertClient(core::Session& session, const ClientRecord& record, Creation creation);
 
 }  // namespace orvex::chart

@@ -1,7 +1,6 @@
 #include "chart/instant_chart.h"
 
 #include "chart/chart_moment.h"
-#include "chart/client_saving.h"
 #include "core/exact_numbers.h"
 #include "core/settings.h"
 
@@ -24,7 +23,7 @@ ClientForm InstantForm(const core::ApplicationState& state, core::DateTime now) 
 
 }  // namespace
 
-core::SaveResult CreateInstantChart(core::Session& session) {
+core::SaveResult CreateInstantChart(core::Session& session, Creation creation) {
   const core::ApplicationState& state = session.State;
   if (state.InstantChartGroupId == 0) {
     return {0, core::Refusal{kInstantChartQuestion, core::MessageIcon::Question, ""}};
@@ -38,7 +37,8 @@ core::SaveResult CreateInstantChart(core::Session& session) {
     const ChartResult chart =
         ComputeChartAt(session, momentUt, static_cast<double>(state.UserCityLatitude),
                        static_cast<double>(state.UserCityLongitude));
-    return {InsertClient(session, {InstantForm(state, now), state.InstantChartGroupId, chart}),
+    return {InsertClient(session, {InstantForm(state, now), state.InstantChartGroupId, chart},
+                         creation),
             std::nullopt};
   } catch (const std::exception&) {
     return {0, core::Refusal{core::kCouldNotUpdate, core::MessageIcon::Stop, ""}};

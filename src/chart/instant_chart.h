@@ -1,8 +1,7 @@
 // A chart of the present moment at the user's city, saved as a client.
 #pragma once
 
-#include "core/save_result.h"
-#include "core/session.h"
+#include "chart/client_saving.h"
 
 namespace orvex::chart {
 
@@ -11,6 +10,7 @@ inline constexpr const char* kInstantChartQuestion =
 
 // Computes the chart of now, saves it in the group of the settings and gives the new id. Refused
 // with kInstantChartQuestion, a yes/no question, where the settings name no group.
-core::SaveResult CreateInstantChart(core::Session& session);
+core::SaveResult CreateInstantChart(core::Session& session,
+                                    Creation creation = Creation::AtTheClocksSecond);
 
 }  // namespace orvex::chart

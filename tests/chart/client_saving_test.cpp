@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "chart/instant_chart.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
 #include "support/test_home.h"
@@ -41,6 +42,32 @@ class ClientSaving : public testing::Test {
   test::TestHome home_;
   std::unique_ptr<core::Session> session_ = home_.Start();
 };
+
+// The row of a client is found again by its second: two of one second mix their rows, unless each
+// takes a second of its own.
+TEST_F(ClientSaving, TwoClientsOfOneSecondShareTheFirstRowUnlessEachHasASecondOfItsOwn) {
+  session_->State.InstantChartGroupId = 1;
+  const auto planets = [this](std::int32_t id) {
+    return Count("client_planets where clientid = " + std::to_string(id));
+  };
+  for (const std::int32_t id : {1, 2}) {
+    ClientForm form = Form();
+    form.FullName = "Client " + std::to_string(id);
+    EXPECT_EQ(SaveNewClient(*session_, form, 1, Creation::InASecondOfItsOwn).Id, id);
+    EXPECT_EQ(Text("fullname", id), form.FullName);
+  }
+  EXPECT_EQ(CreateInstantChart(*session_, Creation::InASecondOfItsOwn).Id, 3);
+  EXPECT_EQ(CreateInstantChart(*session_, Creation::InASecondOfItsOwn).Id, 4);
+  for (const std::int32_t id : {1, 2, 3, 4}) {
+    EXPECT_EQ(planets(id), 9) << id;
+  }
+  EXPECT_EQ(Text("createddate", 1), "2026-11-24 10:00:00");
+  EXPECT_EQ(Text("createddate", 4), "2026-11-24 10:00:03");
+
+  EXPECT_EQ(SaveNewClient(*session_, Form(), 1).Id, 1);
+  EXPECT_EQ(CreateInstantChart(*session_).Id, 1);
+  EXPECT_EQ(planets(1), 27);
+}
 
 struct Fault {
   const char* text;

@@ -220,6 +220,35 @@ TEST_F(CrossingsTest, ThePresentSpanReachesToBothSides) {
   }
 }
 
+// Seen from any second of a span, forward and back, the span is the one that a walk finds.
+TEST_F(CrossingsTest, BackAndForthASpanIsTheSame) {
+  const ExactSky sky = Sky('T');
+  const core::DateTime from = test::Moment("2026-10-20");
+  // The Moon's subs, Mercury around its station, the true node with its direct stretches, and the
+  // Ascendant where it turns back.
+  const std::pair<CrossingSearch, std::chrono::seconds> searches[] = {
+      {{Point::Moon, from, from + days(2), Depth::SubSub, {}}, days(2)},
+      {{Point::Mercury, from, from + days(9), Depth::SubSub, {}}, days(40)},
+      {{Point::Rahu, from, from + days(40), Depth::SubSub, {}}, days(60)},
+      {{Point::Ascendant, from, from + hours(6), Depth::Sub, {69.6, 18.9}}, days(1)}};
+  for (const auto& [search, reach] : searches) {
+    const std::vector<Crossing> rows = Crossings(sky, zodiac_, search);
+    ASSERT_GT(rows.size(), 3U) << PointName(search.Body);
+    for (std::size_t i = 1; i + 1 < rows.size(); ++i) {
+      const Crossing& row = rows[i];
+      for (const core::DateTime seen :
+           {row.From, row.From + (row.Until - row.From) / 2, row.Until - seconds(1)}) {
+        CrossingSearch own = search;
+        own.From = seen;
+        const Crossing span = PresentSpan(sky, zodiac_, own, reach);
+        EXPECT_EQ(span.From, row.From) << PointName(search.Body) << " " << i;
+        EXPECT_EQ(span.Until, row.Until) << PointName(search.Body) << " " << i;
+        EXPECT_EQ(span.Held, row.Held) << PointName(search.Body) << " " << i;
+      }
+    }
+  }
+}
+
 TEST_F(CrossingsTest, ChangesAreToldByTheHighestLordThatChanges) {
   const auto text = [this](Units before, Units after, Depth depth) {
     return ChangeText(zodiac_, "Moon", before, after, depth);

@@ -171,6 +171,18 @@ TEST_F(ImportExportTest, CancelingSavesNothingAndTheSkyStandsStillWhileTheStoreI
   EXPECT_NE(Find<QLabel>(*window_, "nowTitle").text(), title);
 }
 
+TEST_F(ImportExportTest, APracticeWithoutClientsIsOfferedTheImport) {
+  files_.ToRead = {Write("a.aaf", Birth("First") + Birth("Second"))};
+  Open();
+  WhenOpen("importDialog", [](QWidget& dialog) {
+    Press(dialog, "chooseFiles");
+    Press(dialog, "action");
+  });
+  Press(*window_, "firstImport");
+  EXPECT_FALSE(Find<QWidget>(*window_, "firstRun").isVisible());
+  EXPECT_EQ(Find<TableView>(*window_, "clientList").Model().rowCount(), 2);
+}
+
 TEST_F(ImportExportTest, FilesAndFoldersDroppedOntoTheWindowOpenTheImportWithThem) {
   const std::filesystem::path file = Write("one/drop.AAF", Birth("Dropped"));
   const auto url = [](const std::filesystem::path& path) {

@@ -23,11 +23,13 @@ class MainPrint : public test::DeskTest {
  protected:
   ~MainPrint() override { DeleteOpenWindows(); }
 
+  // Their comments are their names.
   void AddClients(std::initializer_list<const char*> names) {
     for (const char* name : names) {
       chart::ClientForm form = chart::OpenAddClient(*session_);
       chart::SelectCity(*session_, 1, form);
       form.FullName = name;
+      form.Comments = name;
       form.Birth = test::Moment("1990-07-05 14:30:00");
       home_.Clock.Set(home_.Clock.Now() + std::chrono::seconds(1));
       ASSERT_FALSE(chart::SaveNewClient(*session_, form, 1).Refused);
@@ -99,6 +101,34 @@ TEST_F(MainPrint, ListsArePrintedNarrowedAndInTheirOrder) {
   const QString text = Printed(window);
   ExpectRows(clients, text);
   EXPECT_FALSE(text.contains("RaviIyer"));
+}
+
+TEST_F(MainPrint, WhatASearchHasFoundIsPrintedAndThatItFoundNothingToo) {
+  AddClients({"Asha Rao", "Zoya Rao <&>", "Ravi Iyer"});
+  MainWindow& window = Open();
+  QTest::keyClick(&window, Qt::Key_2, Qt::ControlModifier);
+  auto& page = Find<QWidget>(window, "searchPage");
+  const auto search = [&](const char* name) {
+    Type(page, "searchText", name);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    return Printed(window);
+  };
+  QString text = search("rao");
+  auto& results = Find<TableView>(page, "searchResults");
+  ASSERT_EQ(results.Model().rowCount(), 2);
+  ExpectRows(results, text);
+  EXPECT_TRUE(text.contains("Found2record(s)")) << text.toStdString();
+  EXPECT_FALSE(text.contains("RaviIyer"));
+  text = search("nobody of that name");
+  EXPECT_EQ(results.Model().rowCount(), 0);
+  EXPECT_FALSE(results.EmptyText().isEmpty());
+  EXPECT_TRUE(text.contains(test::Squeezed(results.EmptyText()))) << text.toStdString();
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(&window, Qt::Key_1, Qt::ControlModifier);
+  Type(window, "clientFilter", "nobody of that name");
+  text = Printed(window);
+  EXPECT_TRUE(text.contains("NoClientsFound")) << text.toStdString();
 }
 
 TEST_F(MainPrint, TheMonthIsPrintedAsTheTableOrTheGraphInSight) {

@@ -12,6 +12,7 @@
 #include <QTabBar>
 #include <QToolButton>
 
+#include "core/settings.h"
 #include "practice/groups.h"
 #include "practice/remedies.h"
 #include "ui/dialogs/city_list.h"
@@ -34,6 +35,34 @@ TEST_F(MainWindowTest, ANewPracticeIsLedToItsFirstHoroscope) {
   EXPECT_EQ(Label("totalClients"), "Total Clients: 1");
   EXPECT_EQ(List("clientList").Model().rowCount(), 1);
   EXPECT_EQ(session_->State.OpenHoroscopes.size(), 1U);
+}
+
+// Under a clock that stands still, as in any second, each client is opened with its own chart.
+TEST_F(MainWindowTest, ClientsOfOneSecondAreWholeClients) {
+  core::SettingsForm form = core::OpenSettings(*session_);
+  form.InstantChartGroupId = 1;
+  ASSERT_FALSE(core::SaveSettings(*session_, form).Refused);
+  Open();
+  const auto press = [this](Qt::Key key) {
+    window_->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    QTest::keyClick(window_.get(), key, Qt::ControlModifier);
+  };
+  for (const char* name : {"Asha Rao", "Ravi Iyer"}) {
+    WhenOpen("clientDialog", [name](QWidget& dialog) {
+      Type(dialog, "fullName", name);
+      Press(dialog, "action");
+    });
+    press(Qt::Key_N);
+  }
+  press(Qt::Key_I);
+  press(Qt::Key_I);
+  EXPECT_EQ(session_->State.OpenHoroscopes, (std::vector<std::int32_t>{1, 2, 3, 4}));
+  EXPECT_EQ(
+      Stored("Select count(*) as n from (Select clientid from client_planets group by clientid "
+             "having count(*) = 9)",
+             "n"),
+      "4");
 }
 
 TEST_F(MainWindowTest, TheCommandsFollowWhatIsChosen) {
@@ -120,6 +149,23 @@ TEST_F(MainWindowTest, TheSkyFollowsTheClockWithoutGrowing) {
   EXPECT_EQ(Label("nowTitle"), "Sky View at 10:00:01 AM");
   EXPECT_TRUE(Label("currentAscendant").startsWith("Current ASC: "));
   EXPECT_EQ(List("nowRulingPlanets").Model().rowCount(), 7);
+  // Which lord comes next stands at the lords, and below the planets where the window is high.
+  const struct {
+    int Row;
+    const char* Label;
+    const char* Begins;
+  } nexts[] = {{2, "nowNext0", "Ascendant enters the "}, {5, "nowNext1", "Moon enters the "}};
+  for (const auto& next : nexts) {
+    const QString told =
+        List("nowRulingPlanets").Model().index(next.Row, 1).data(Qt::ToolTipRole).toString();
+    EXPECT_TRUE(told.startsWith(next.Begins)) << Typed(told);
+    EXPECT_EQ(Label(next.Label), told);
+    for (const int high : {1000, 600}) {
+      window_->resize(1366, high);
+      QCoreApplication::processEvents();
+      EXPECT_EQ(Find<QWidget>(*window_, next.Label).isVisible(), high == 1000);
+    }
+  }
   QTest::keyClick(window_.get(), Qt::Key_5, Qt::ControlModifier);
   EXPECT_EQ(Label("skyTitle"), "Sky View at 10:00:01 AM");
   EXPECT_EQ(List("skyRulingPlanets").Model().rowCount(), 8);

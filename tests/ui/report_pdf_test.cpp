@@ -197,17 +197,37 @@ TEST_F(ReportPdf, AMatterIsTheLastSectionOfReportAndSheet) {
   ExpectAll(report::ContentOf(*session_, opened.Model, ReportDetail::DB, 'N', matter));
   report::KpSheet sheet = report::SheetOf(*session_, opened, 'N');
   const std::filesystem::path file = home_.Place.Folder / "sheet.pdf";
+  // As long as a matter gets: three rows of its chain, nine planets, five periods.
+  core::Table chain = opened.Model.PlanetLevels;
+  chain.Rows.resize(3);
+  core::Table periods{{{"Dasha"}, {"Bhukti"}, {"Antara"}, {"From"}, {"Until"}, {"Houses"}}, {}};
+  for (int row = 0; row < 5; ++row) {
+    periods.Rows.push_back(
+        {{{"Mercury"}, {"Jupiter"}, {"Saturn"}, {"25 Nov 2030"}, {"11 Dec 2030"}, {"2 7 10 11"}}});
+  }
+  report::ReportSection longest = matter;
+  longest.Parts.front().Caption = "Planets";
+  longest.Parts.insert(longest.Parts.begin(), {"Main cusp", report::ReportTable{chain, "", true}});
+  std::get<report::ReportTable>(longest.Parts.back().Body).Table = periods;
   for (const auto paper : {QPageSize::A4, QPageSize::A5}) {
-    sheet.Matter = matter;
-    WriteSheetPdf(sheet, QPageSize(paper), file);
-    const QString text = Squeezed(OutputOf("pdftotext -raw '" + file.string() + "' -"));
-    const QString rows = Squeezed(opened.Model.PlanetLevels.Rows.back().Cells.front().Text);
-    EXPECT_GT(text.indexOf(rows, text.indexOf("Post<b>:10|2Planets")), 0);
-    EXPECT_TRUE(text.contains("PeriodsDashaNoperiod"));
-    const std::string info = OutputOf("pdfinfo '" + file.string() + "'");
-    // On small paper a matter may not fit beside the rest at a legible size; then it runs on.
-    const std::size_t most = paper == QPageSize::A4 ? 1 : 2;
-    EXPECT_LE(std::stoul(info.substr(info.find("Pages:") + 6)), most) << info;
+    for (const report::ReportSection& section : {matter, longest}) {
+      sheet.Matter = section;
+      WriteSheetPdf(sheet, QPageSize(paper), file);
+      const QString text = Squeezed(OutputOf("pdftotext -raw '" + file.string() + "' -"));
+      const qsizetype at = text.lastIndexOf("Post<b>:10|2");
+      for (const report::ReportPart& part : section.Parts) {
+        const auto& body = std::get<report::ReportTable>(part.Body);
+        qsizetype from = text.indexOf(Squeezed(part.Caption), at);
+        ASSERT_GT(from, at) << part.Caption;
+        for (const core::Row& row : body.Table.Rows) {
+          from = text.indexOf(Squeezed(row.Cells.front().Text), from + 1);
+          EXPECT_GT(from, at) << part.Caption;
+        }
+        EXPECT_TRUE(!body.Table.Rows.empty() || text.contains("DashaNoperiod"));
+      }
+      const std::string info = OutputOf("pdfinfo '" + file.string() + "'");
+      EXPECT_NE(info.find("Pages:           1\n"), std::string::npos) << info;
+    }
   }
 }
 

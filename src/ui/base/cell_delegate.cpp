@@ -165,7 +165,7 @@ void CellDelegate::PaintContents(QPainter& painter, QStyleOptionViewItem& option
   const Tokens& t = Theme::Now();
   const CellKind kind = KindOf(index.column());
   const bool marked = HasChips(kind) || kind == CellKind::Houses || kind == CellKind::Tick ||
-                      kind == CellKind::Bold;
+                      kind == CellKind::Bold || kind == CellKind::Words;
   if (marked && option.text.isEmpty()) {
     option.text = "–";
     option.palette.setColor(QPalette::Text, t.Ink2);
@@ -177,6 +177,7 @@ void CellDelegate::PaintContents(QPainter& painter, QStyleOptionViewItem& option
   }
   switch (kind) {
     case CellKind::Text:
+    case CellKind::Words:
     case CellKind::Ingress:
       PaintCellText(painter, option);
       break;
@@ -231,8 +232,10 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     PaintContents(*painter, own, index);
   }
   painter->setClipping(false);
-  painter->fillRect(QRect(own.rect.left(), own.rect.bottom(), own.rect.width(), line::kHair),
-                    Theme::Now().Rule);
+  const bool ruled = index.row() == ruledRow_;
+  const int rule = ruled ? line::kHead : line::kHair;
+  painter->fillRect(QRect(own.rect.left(), own.rect.bottom() + 1 - rule, own.rect.width(), rule),
+                    ruled ? Theme::Now().Rule2 : Theme::Now().Rule);
   painter->restore();
 }
 

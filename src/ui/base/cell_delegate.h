@@ -42,6 +42,9 @@ class CellDelegate final : public QStyledItemDelegate {
   // The planets that wear the ring of those that give a matter.
   void SetFruitful(std::set<QString> codes) { fruitful_ = std::move(codes); }
 
+  // The row under which a part of the table ends: a heavier rule stands there. None for -1.
+  void SetRuledRow(int row) { ruledRow_ = row; }
+
   // What a house is to the matter, for cells of kind Houses.
   void SetHouseRoles(HouseRoles roles) { roles_ = std::move(roles); }
 
@@ -81,6 +84,7 @@ class CellDelegate final : public QStyledItemDelegate {
   QString chosen_;
   std::set<QString> fruitful_;
   HouseRoles roles_;
+  int ruledRow_ = -1;
 };
 
 }  // namespace orvex::ui

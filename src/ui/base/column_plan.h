@@ -8,6 +8,7 @@ namespace orvex::ui {
 
 enum class CellKind {
   Text,
+  Words,    // text, a dash where there is none
   Bold,     // the figure that is read first
   Letter,   // a word by its first letter
   Chip,     // a planet's chip and its name, with the marks of its row

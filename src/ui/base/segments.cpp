@@ -26,6 +26,13 @@ Segments::Segments(const std::vector<Part>& parts) : group_(new QButtonGroup(thi
     group_->addButton(button, id++);
     layout->addWidget(button);
   }
+  // The keys come to the part that is chosen, however it came to be, and the arrows to the others.
+  connect(group_, &QButtonGroup::idToggled, this, [this](int part, bool chosen) {
+    group_->button(part)->setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus);
+  });
+  for (QAbstractButton* button : group_->buttons()) {
+    button->setFocusPolicy(Qt::ClickFocus);
+  }
   group_->buttons().constFirst()->setChecked(true);
   connect(group_, &QButtonGroup::idToggled, this, [this](int part, bool chosen) {
     if (chosen) {

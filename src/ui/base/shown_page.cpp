@@ -163,6 +163,8 @@ class Collector {
     }
     if (PageTable table = ShownTableOf(view); table.Columns() > 0) {
       Blocks.push_back({std::move(table)});
+    } else {
+      AddText(PageRole::Body, table.WhenEmpty);
     }
   }
 

@@ -43,6 +43,7 @@ PageTable ShownTableOf(const TableView& view) {
     }
   }
   PageTable table;
+  table.WhenEmpty = PlainText(view.EmptyText());
   for (const int column : columns) {
     if (!header.isHidden()) {
       table.Captions.push_back(

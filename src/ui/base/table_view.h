@@ -39,6 +39,7 @@ class TableView : public QTableView {
 
   // The text that stands in the middle of a table without rows and says what to do next.
   void SetEmptyText(const QString& text);
+  const QString& EmptyText() const { return emptyText_; }
 
   // Narrows the rows as SetFilter of the model does.
   void SetFilter(const QString& text) { model_->SetFilter(text); }

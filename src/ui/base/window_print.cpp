@@ -13,11 +13,14 @@ namespace orvex::ui {
 namespace {
 
 constexpr double kBesideOthers = 0.5;  // of a figure that shares its row
+constexpr double kFlat = 0.25;         // the height of a strip, a part of its width, at most
 
+// A figure that wants the width of a page turned; a strip does not.
 bool HasWideFigure(const std::vector<PageBlock>& blocks) {
   return std::any_of(blocks.begin(), blocks.end(), [](const PageBlock& block) {
     const auto* figures = std::get_if<PageFigures>(&block.Content);
-    return figures != nullptr && figures->Figures.front().Width > kBesideOthers;
+    return figures != nullptr && figures->Figures.front().Width > kBesideOthers &&
+           figures->Figures.front().Aspect > kFlat;
   });
 }
 

@@ -294,8 +294,9 @@ void ClientDialog::Save() {
     return;
   }
   SettleOffset(form);
-  Finish(clientId_ == 0 ? chart::SaveNewClient(Session(), form, GroupId())
-                        : chart::SaveClientChanges(Session(), form, clientId_));
+  Finish(clientId_ == 0
+             ? chart::SaveNewClient(Session(), form, GroupId(), chart::Creation::InASecondOfItsOwn)
+             : chart::SaveClientChanges(Session(), form, clientId_));
 }
 
 }  // namespace orvex::ui

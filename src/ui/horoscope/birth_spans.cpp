@@ -30,7 +30,7 @@ const std::vector<ColumnPlan> kSpanColumns = {
     {"Sub Lord",  CellKind::Chip,  76, 0},
     {"Rulers",    CellKind::Heat,  50, 0},
     {"Events",    CellKind::Bold,  60, 0},
-    {"Now",       CellKind::Bold,  42, 0}};
+    {"Now",       CellKind::Text,  42, 0}};
 // clang-format on
 
 // A lord that rules wears a mark.

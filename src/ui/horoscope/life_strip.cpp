@@ -17,8 +17,17 @@ namespace {
 constexpr std::size_t kRows = 2;
 constexpr int kBar = 24;
 constexpr int kWords = 14;  // the line of ages above, the word of today below
+constexpr int kHeight = 2 * kBar + 3 * kWords;
 constexpr int kDecade = 10;
 constexpr double kDaysOfYear = 365.25;
+constexpr int kPaperWidth = 760;  // on paper: pixels of a strip as wide as the page, their text
+constexpr int kPaperText = 11;
+
+QFont PaperFont(QFont::Weight weight) {
+  QFont font = Theme::Text(type::kHead, weight);
+  font.setPixelSize(kPaperText);
+  return font;
+}
 
 }  // namespace
 
@@ -26,7 +35,7 @@ LifeStrip::LifeStrip(HoroscopeDocument& document) : document_(document) {
   setObjectName("lifeStrip");
   setAccessibleName(tr("Dashas of the life and bhuktis of the chosen one"));
   setFocusPolicy(Qt::StrongFocus);
-  setFixedHeight(2 * kBar + 3 * kWords);
+  setFixedHeight(kHeight);
 }
 
 void LifeStrip::ShowModel() {
@@ -34,14 +43,14 @@ void LifeStrip::ShowModel() {
   update();
 }
 
-QRect LifeStrip::RowBox(std::size_t level) const {
+QRect LifeStrip::RowBox(std::size_t level, int width) {
   const int top = kWords + static_cast<int>(level) * (kBar + kWords);
-  return {1, top, width() - 2, kBar};
+  return {1, top, width - 2, kBar};
 }
 
-int LifeStrip::XOf(std::size_t level, core::DateTime day) const {
+int LifeStrip::XOf(std::size_t level, core::DateTime day, int width) const {
   const std::vector<TimelinePeriod>& periods = picture_.Levels.at(level).Periods;
-  const QRect box = RowBox(level);
+  const QRect box = RowBox(level, width);
   // The first Dasha began before birth; the strip begins with the life.
   const core::DateTime start = level == 0 ? picture_.Birth : periods.front().Start;
   const auto whole = std::max<std::int64_t>(1, core::DaysBetween(start, periods.back().End));
@@ -49,17 +58,17 @@ int LifeStrip::XOf(std::size_t level, core::DateTime day) const {
   return box.left() + static_cast<int>(until * box.width() / whole);
 }
 
-QRect LifeStrip::BarBox(const BarPlace& bar) const {
+QRect LifeStrip::BarBox(const BarPlace& bar, int width) const {
   const TimelinePeriod& period = picture_.Levels.at(bar.Level).Periods.at(bar.Row);
-  const QRect box = RowBox(bar.Level);
-  const int left = XOf(bar.Level, period.Start);
-  return {left, box.top(), XOf(bar.Level, period.End) - left, box.height()};
+  const QRect box = RowBox(bar.Level, width);
+  const int left = XOf(bar.Level, period.Start, width);
+  return {left, box.top(), XOf(bar.Level, period.End, width) - left, box.height()};
 }
 
 std::optional<BarPlace> LifeStrip::BarUnder(const QPoint& point) const {
   for (std::size_t level = 0; level < kRows; ++level) {
     for (std::size_t row = 0; row < picture_.Levels.at(level).Periods.size(); ++row) {
-      if (BarBox({level, row}).contains(point)) {
+      if (BarBox({level, row}, width()).contains(point)) {
         return BarPlace{level, row};
       }
     }
@@ -67,12 +76,12 @@ std::optional<BarPlace> LifeStrip::BarUnder(const QPoint& point) const {
   return std::nullopt;
 }
 
-void LifeStrip::PaintBars(QPainter& painter, std::size_t level) const {
-  const Tokens& t = Theme::Now();
+void LifeStrip::PaintBars(QPainter& painter, std::size_t level, const Look& look) const {
+  const Tokens& t = look.Colors;
   const TimelineLevel& bars = picture_.Levels.at(level);
-  painter.setFont(Theme::Text(type::kHead, QFont::Bold));
+  painter.setFont(look.Bold);
   for (std::size_t row = 0; row < bars.Periods.size(); ++row) {
-    const QRect box = BarBox({level, row}).adjusted(0, 0, -1, 0);
+    const QRect box = BarBox({level, row}, look.Width).adjusted(0, 0, -1, 0);
     const QString name = Shown(bars.Periods[row].Planet);
     const ChipColors colors = ChipOf(t, CodeOfWord(name));
     painter.fillRect(box, colors.Ground);
@@ -88,26 +97,26 @@ void LifeStrip::PaintBars(QPainter& painter, std::size_t level) const {
   }
 }
 
-void LifeStrip::PaintToday(QPainter& painter, std::size_t level) const {
+void LifeStrip::PaintToday(QPainter& painter, std::size_t level, const Look& look) const {
   const TimelineLevel& bars = picture_.Levels.at(level);
   if (!PeriodHolding(bars, picture_.Today)) {
     return;
   }
-  const Tokens& t = Theme::Now();
-  const QRect box = RowBox(level);
-  const int x = XOf(level, picture_.Today);
+  const Tokens& t = look.Colors;
+  const QRect box = RowBox(level, look.Width);
+  const int x = XOf(level, picture_.Today, look.Width);
   painter.fillRect(QRect(x - 1, box.top() - 2, line::kHead, box.height() + 4), t.Now);
   painter.setPen(t.Now);
-  painter.setFont(Theme::Text(type::kHead, QFont::Bold));
+  painter.setFont(look.Bold);
   const QString word = tr("today");
   const int wide = painter.fontMetrics().horizontalAdvance(word);
-  const int left = std::clamp(x - wide / 2, 0, width() - wide);
+  const int left = std::clamp(x - wide / 2, 0, look.Width - wide);
   painter.drawText(QRect(left, box.bottom() + 1, wide, kWords), Qt::AlignCenter, word);
 }
 
-void LifeStrip::PaintAges(QPainter& painter) const {
-  painter.setFont(Theme::Text(type::kHead));
-  painter.setPen(Theme::Now().Ink2);
+void LifeStrip::PaintAges(QPainter& painter, const Look& look) const {
+  painter.setFont(look.Words);
+  painter.setPen(look.Colors.Ink2);
   const core::DateTime end = picture_.Levels.front().Periods.back().End;
   const auto years =
       static_cast<int>(static_cast<double>(core::DaysBetween(picture_.Birth, end)) / kDaysOfYear);
@@ -116,9 +125,33 @@ void LifeStrip::PaintAges(QPainter& painter) const {
         core::DateInterval::Days, static_cast<std::int64_t>(age * kDaysOfYear), picture_.Birth);
     const QString text = age == 0 ? tr("age 0") : WholeText(age);
     const int wide = painter.fontMetrics().horizontalAdvance(text);
-    const int left = std::clamp(XOf(0, day) - wide / 2, 0, width() - wide);
+    const int left = std::clamp(XOf(0, day, look.Width) - wide / 2, 0, look.Width - wide);
     painter.drawText(QRect(left, 0, wide, kWords), Qt::AlignCenter, text);
   }
+}
+
+void LifeStrip::Paint(QPainter& painter, const Look& look) const {
+  PaintAges(painter, look);
+  for (std::size_t level = 0; level < kRows; ++level) {
+    if (!picture_.Levels.at(level).Periods.empty()) {
+      PaintBars(painter, level, look);
+      PaintToday(painter, level, look);
+    }
+  }
+}
+
+std::vector<PageBlock> LifeStrip::PrintedBlocks() const {
+  if (picture_.Levels.front().Periods.empty()) {
+    return {};
+  }
+  constexpr double kAspect = static_cast<double>(kHeight) / kPaperWidth;
+  return {{PageFigures{{{{}, 1, kAspect, [this](QPainter& painter, const QRectF& box) {
+                           painter.translate(box.topLeft());
+                           const double scale = box.width() / kPaperWidth;
+                           painter.scale(scale, scale);
+                           Paint(painter, {kPaperWidth, TokensOf(ThemeMode::Light),
+                                           PaperFont(QFont::Normal), PaperFont(QFont::Bold)});
+                         }}}}}};
 }
 
 void LifeStrip::paintEvent(QPaintEvent* /*event*/) {
@@ -126,13 +159,8 @@ void LifeStrip::paintEvent(QPaintEvent* /*event*/) {
     return;
   }
   QPainter painter(this);
-  PaintAges(painter);
-  for (std::size_t level = 0; level < kRows; ++level) {
-    if (!picture_.Levels.at(level).Periods.empty()) {
-      PaintBars(painter, level);
-      PaintToday(painter, level);
-    }
-  }
+  Paint(painter,
+        {width(), Theme::Now(), Theme::Text(type::kHead), Theme::Text(type::kHead, QFont::Bold)});
   if (hasFocus()) {
     painter.fillRect(QRect(0, height() - line::kFocus, width(), line::kFocus), Theme::Now().Accent);
   }

@@ -3,12 +3,15 @@
 
 #include <QWidget>
 
+#include "ui/base/shown_page.h"
 #include "ui/horoscope/horoscope_document.h"
 #include "ui/painting/dasha_timeline.h"
 
 namespace orvex::ui {
 
-class LifeStrip final : public QWidget {
+struct Tokens;
+
+class LifeStrip final : public QWidget, public PrintsItself {
   Q_OBJECT
 
  public:
@@ -18,6 +21,8 @@ class LifeStrip final : public QWidget {
 
   // The period at a point; nothing where there is none.
   std::optional<BarPlace> BarUnder(const QPoint& point) const;
+
+  std::vector<PageBlock> PrintedBlocks() const override;
 
  signals:
   // A click: the level, 0 or 1, and the row in its list.
@@ -30,12 +35,21 @@ class LifeStrip final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  QRect RowBox(std::size_t level) const;
-  int XOf(std::size_t level, core::DateTime day) const;
-  QRect BarBox(const BarPlace& bar) const;
-  void PaintBars(QPainter& painter, std::size_t level) const;
-  void PaintToday(QPainter& painter, std::size_t level) const;
-  void PaintAges(QPainter& painter) const;
+  // How the strip is drawn: in the window, on paper.
+  struct Look {
+    int Width;
+    const Tokens& Colors;
+    QFont Words;
+    QFont Bold;
+  };
+
+  static QRect RowBox(std::size_t level, int width);
+  int XOf(std::size_t level, core::DateTime day, int width) const;
+  QRect BarBox(const BarPlace& bar, int width) const;
+  void Paint(QPainter& painter, const Look& look) const;
+  void PaintBars(QPainter& painter, std::size_t level, const Look& look) const;
+  void PaintToday(QPainter& painter, std::size_t level, const Look& look) const;
+  void PaintAges(QPainter& painter, const Look& look) const;
 
   HoroscopeDocument& document_;
   TimelinePicture picture_;

@@ -52,7 +52,7 @@ const std::vector<ColumnPlan> kTestColumns = {
     {"Grade",      CellKind::Bold,   40, 0},
     {"Supporting", CellKind::Houses, 96, 1},
     {"Denying",    CellKind::Houses, 96, 2},
-    {"Ruling",     CellKind::Text,  120, 0},
+    {"Ruling",     CellKind::Words, 120, 0},
     {"Star",       CellKind::Tick,   34, 0},
     {"Sub",        CellKind::Tick,   34, 0},
     {"Fruitful",   CellKind::Tick,   52, 0}};
@@ -244,6 +244,9 @@ void MatterPage::ShowModel() {
 void MatterPage::ShowTables(const judgement::Judgement& judged, const judgement::Matter& matter) {
   const std::set<QString> fruitful = CodesOf(judgement::FruitfulPlanets(judged.MatterPlanets));
   promise_->Show(judged, matter, fruitful);
+  // The giving houses stand above the denying ones.
+  const bool denied = !matter.Denying.empty();
+  grades_->Plan().Cells().SetRuledRow(denied ? static_cast<int>(matter.Supporting.size()) : -1);
   grades_->ShowTable(WithAgentsTold(judged.HouseGrades), matter, fruitful);
   planets_->ShowTable(judgement::BuildFruitfulTests(judged.MatterPlanets), matter, fruitful);
   ranked_->Show(judged, matter, fruitful);

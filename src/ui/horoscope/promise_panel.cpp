@@ -31,6 +31,18 @@ std::vector<ColumnPlan> OtherCuspColumns(bool names) {
 
 constexpr RowBounds kChainRows = {height::kLeastRow, height::kMostRow, true};
 
+// The pixels that the widest cell of a column takes as it is painted.
+int WidestIn(MatterTable& table, int column) {
+  QStyleOptionViewItem option;
+  option.font = table.View().font();
+  const TableModel& model = table.View().Model();
+  int widest = 0;
+  for (int row = 0; row < model.rowCount(); ++row) {
+    widest = std::max(widest, table.Plan().Cells().PlacedWidth(option, model.index(row, column)));
+  }
+  return widest;
+}
+
 }  // namespace
 
 PromisePanel::PromisePanel(HoroscopeDocument& document)
@@ -83,13 +95,28 @@ void PromisePanel::resizeEvent(QResizeEvent* event) {
   Arrange();
 }
 
+// The columns of both tables stand under each other: each is as wide as either needs.
+void PromisePanel::FitColumns(bool names) {
+  std::vector<ColumnPlan> chain = ChainColumns(names);
+  std::vector<ColumnPlan> cusps = OtherCuspColumns(names);
+  for (const bool measured : {false, true}) {
+    for (std::size_t place = 1; measured && place + 1 < chain.size(); ++place) {
+      const auto column = static_cast<int>(place);
+      const int need = std::max(WidestIn(*chain_, column), WidestIn(*cusps_, column));
+      chain[place].Least = std::max(chain[place].Least, need * 100 / Theme::TextSize() + 1);
+      cusps[place].Least = chain[place].Least;
+    }
+    chain_->Plan().SetColumns(chain);
+    cusps_->Plan().SetColumns(cusps);
+    chain_->Plan().Fit();
+    cusps_->Plan().Fit();
+  }
+}
+
 // The rows of both tables are equally high, as high as the room allows.
 void PromisePanel::Arrange() {
   for (const bool names : {true, false}) {
-    chain_->Plan().SetColumns(ChainColumns(names));
-    cusps_->Plan().SetColumns(OtherCuspColumns(names));
-    chain_->Plan().Fit();
-    cusps_->Plan().Fit();
+    FitColumns(names);
     if (chain_->Plan().HasRoom() && cusps_->Plan().HasRoom()) {
       break;
     }

@@ -23,6 +23,7 @@ class PromisePanel final : public QWidget {
 
  private:
   void Arrange();
+  void FitColumns(bool names);
   QString CuspNote(const judgement::Matter& matter) const;
 
   HoroscopeDocument& document_;

@@ -282,7 +282,8 @@ void ClientCommands::RunInstantChart() {
   for (int round = 0; round < kRounds; ++round) {
     QCoreApplication::processEvents();
   }
-  const core::SaveResult saved = chart::CreateInstantChart(place_.Session);
+  const core::SaveResult saved =
+      chart::CreateInstantChart(place_.Session, chart::Creation::InASecondOfItsOwn);
   if (!Refused(saved.Refused)) {
     ShowNewClient(place_.Session.State.InstantChartGroupId, saved.Id);
   }

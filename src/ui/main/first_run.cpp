@@ -28,23 +28,26 @@ void AddStep(QGridLayout& grid, int step, QLabel* text, QPushButton* button) {
 
 }  // namespace
 
-FirstRun::FirstRun(Workplace& place, QAction& addClient, QWidget* parent)
+FirstRun::FirstRun(Workplace& place, QAction& addClient, QAction& importBirths, QWidget* parent)
     : QWidget(parent),
       place_(place),
       city_(new QLabel),
       chooseCity_(new QPushButton(tr("Choose cit&y…"))),
-      addClient_(new QPushButton(tr("Add a &first client…"))) {
+      addClient_(new QPushButton(tr("Add a &first client…"))),
+      import_(new QPushButton(tr("&Import files…"))) {
   setObjectName("firstRun");
-  Build(addClient);
+  Build(addClient, importBirths);
   ShowCity();
 }
 
-void FirstRun::Build(QAction& addClient) {
+void FirstRun::Build(QAction& addClient, QAction& importBirths) {
   chooseCity_->setObjectName("firstCity");
   addClient_->setObjectName("firstClient");
   city_->setObjectName("firstCityText");
   connect(chooseCity_, &QPushButton::clicked, this, [this] { ChooseCity(); });
+  import_->setObjectName("firstImport");
   connect(addClient_, &QPushButton::clicked, &addClient, &QAction::trigger);
+  connect(import_, &QPushButton::clicked, &importBirths, &QAction::trigger);
   auto* heading = new QLabel(tr("Welcome to Orvex+"));
   heading->setFont(Theme::HeadingFont());
   auto* grid = new QGridLayout;
@@ -60,6 +63,10 @@ void FirstRun::Build(QAction& addClient) {
           new QLabel(tr("The horoscope opens by itself. Later a double click on a client opens "
                         "it again.")),
           nullptr);
+  AddStep(*grid, 4,
+          new QLabel(tr("Are your clients in another program? Import the files that it writes: "
+                        "AAF, .jhd, .mtx or CSV, also a whole folder.")),
+          import_);
   auto* layout = new QVBoxLayout(this);
   layout->addStretch(1);
   layout->addLayout(grid);

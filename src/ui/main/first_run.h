@@ -1,4 +1,4 @@
-// What a practice without clients shows: three steps to the first horoscope.
+// What a practice without clients shows: the steps to the first horoscope, and how clients come in.
 #pragma once
 
 #include <QWidget>
@@ -15,7 +15,7 @@ class FirstRun final : public QWidget {
   Q_OBJECT
 
  public:
-  FirstRun(Workplace& place, QAction& addClient, QWidget* parent = nullptr);
+  FirstRun(Workplace& place, QAction& addClient, QAction& importBirths, QWidget* parent = nullptr);
 
   // Shows the city of the settings.
   void ShowCity();
@@ -25,13 +25,14 @@ class FirstRun final : public QWidget {
   void CityChanged();
 
  private:
-  void Build(QAction& addClient);
+  void Build(QAction& addClient, QAction& importBirths);
   void ChooseCity();
 
   Workplace& place_;
   QLabel* city_;
   QPushButton* chooseCity_;
   QPushButton* addClient_;
+  QPushButton* import_;
 };
 
 }  // namespace orvex::ui

@@ -54,9 +54,9 @@ MainWindow::MainWindow(Workplace& place)
       commands_(new ClientCommands(place, *lists_, *this)),
       transits_(new TransitCommands(place, *pages_, *this)),
       reports_(new GroupExport(place, *lists_, *this)),
-      firstRun_(new FirstRun(place, *commands_->AddClient)),
       search_(new SearchPage(place)),
       exchange_(new ExchangeCommands(place, *lists_, search_->Results(), *this)),
+      firstRun_(new FirstRun(place, *commands_->AddClient, *exchange_->Import)),
       bar_(new QStatusBar),
       status_(*bar_, *commands_->UndoDelete) {
   MakeActions();

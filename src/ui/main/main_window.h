@@ -81,9 +81,9 @@ class MainWindow final : public QMainWindow {
   ClientCommands* commands_;
   TransitCommands* transits_;
   GroupExport* reports_;
-  FirstRun* firstRun_;
   SearchPage* search_;
   ExchangeCommands* exchange_;
+  FirstRun* firstRun_;
   QStatusBar* bar_;
   StatusPanels status_;
   QAction* settings_ = nullptr;

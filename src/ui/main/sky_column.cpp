@@ -96,6 +96,7 @@ SkyColumn::SkyColumn(Workplace& place)
                                   {"Star", CellKind::Chips, 34, 0},
                                   {"Sub", CellKind::Chips, 34, 0}},
                                  {kLeastPlanetRow, kMostPlanetRow, true})),
+      changes_(MakeNext()),
       moon_(new ElidedLabel("nowMoon")),
       today_(new LinkButton("todayLink")),
       foot_(MakeFoot()) {
@@ -110,6 +111,7 @@ SkyColumn::SkyColumn(Workplace& place)
   layout->addLayout(MakeLines());
   layout->addSpacing(space::kXs);
   layout->addWidget(planets_, 1);
+  layout->addWidget(changes_);
   layout->addWidget(foot_);
 }
 
@@ -165,6 +167,19 @@ QGridLayout* SkyColumn::MakeLines() {
   return grid;
 }
 
+QWidget* SkyColumn::MakeNext() {
+  auto* changes = new QWidget;
+  auto* lines = new QVBoxLayout(changes);
+  lines->setContentsMargins(0, 0, 0, 0);
+  lines->setSpacing(0);
+  for (std::size_t i = 0; i < next_.size(); ++i) {
+    next_.at(i) = new ElidedLabel(QString("nowNext%1").arg(i));
+    next_.at(i)->setFont(Theme::Text(type::kSmall));
+    lines->addWidget(next_.at(i));
+  }
+  return changes;
+}
+
 QWidget* SkyColumn::MakeFoot() {
   auto* foot = new QWidget;
   moon_->setFont(Theme::Text(type::kHead));
@@ -186,17 +201,33 @@ void SkyColumn::ShowView(const panchang::SkyView& view) {
   day_->setText(Shown(captions.WeekdayName + ", " + captions.Date + " \u00B7 " + captions.City));
   chart_->SetPicture(
       report::RashiPicture(report::BuildSkyChart(view), place_.Session.State.DefaultChartType));
-  core::Table ruling = view.SkyRulingPlanets;
-  if (!ruling.Rows.empty()) {
-    ruling.Rows.pop_back();  // the Part of Fortune has a line of its own
-  }
-  ruling_->SetTable(std::move(ruling));
-  rulingPlan_->Fit();
+  ShowRuling(view);
+  next_.front()->setText(Shown(captions.AscendantNext));
+  next_.back()->setText(Shown(captions.MoonNext));
   const core::DateTime now = place_.Session.Time.Now();
   strip_->ShowStrip(panchang::DayStripOf(view, now), Shown(core::ShortTimeText(now)));
   ShowLines(view);
   ShowPlanets(view.SkyPlanets);
   moon_->setText(Shown(captions.MoonStatus + " \u00B7 " + captions.VikramSamvat));
+}
+
+// Each lord of the Ascendant and of the Moon tells when the next one comes.
+void SkyColumn::ShowRuling(const panchang::SkyView& view) {
+  core::Table ruling = view.SkyRulingPlanets;
+  if (!ruling.Rows.empty()) {
+    ruling.Rows.pop_back();  // the Part of Fortune has a line of its own
+  }
+  for (core::Row& row : ruling.Rows) {
+    const std::string& role = row.Cells.front().Text;
+    const std::string& next = role.rfind("Asc", 0) == 0    ? view.Captions.AscendantNext
+                              : role.rfind("Moon", 0) == 0 ? view.Captions.MoonNext
+                                                           : "";
+    for (core::Cell& cell : row.Cells) {
+      cell.Tooltip = next;
+    }
+  }
+  ruling_->SetTable(std::move(ruling));
+  rulingPlan_->Fit();
 }
 
 void SkyColumn::ShowLines(const panchang::SkyView& view) {
@@ -228,13 +259,15 @@ void SkyColumn::ShowPlanets(const core::Table& planets) {
   planetsPlan_->Fit();
 }
 
-// Where the room is short the last line goes, and nothing else.
+// Where the room is short the last lines go, and nothing else.
 void SkyColumn::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   const int planets = planets_->horizontalHeader()->height() +
                       static_cast<int>(kPlanets) * Scaled(kLeastPlanetRow + 1);
   const int others = planets_->y() + space::kS;
-  foot_->setVisible(height() - others - planets >= foot_->sizeHint().height());
+  const int room = height() - others - planets - foot_->sizeHint().height();
+  foot_->setVisible(room >= 0);
+  changes_->setVisible(room >= changes_->sizeHint().height() + space::kXs);
 }
 
 }  // namespace orvex::ui

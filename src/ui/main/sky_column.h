@@ -44,7 +44,9 @@ class SkyColumn final : public QWidget {
   QHBoxLayout* MakeHead();
   QHBoxLayout* MakeChart();
   QGridLayout* MakeLines();
+  QWidget* MakeNext();
   QWidget* MakeFoot();
+  void ShowRuling(const panchang::SkyView& view);
   void ShowLines(const panchang::SkyView& view);
   void ShowPlanets(const core::Table& planets);
 
@@ -60,6 +62,8 @@ class SkyColumn final : public QWidget {
   std::array<ElidedLabel*, kLines> values_{};
   TableView* planets_;
   TablePlan* planetsPlan_;
+  std::array<ElidedLabel*, 2> next_{};  // the next changes of the Ascendant and of the Moon
+  QWidget* changes_;                    // holds them
   ElidedLabel* moon_;
   LinkButton* today_;
   QWidget* foot_;

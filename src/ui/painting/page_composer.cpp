@@ -21,7 +21,7 @@ constexpr double kHighest = 0.36;
 // A strand that begins at the foot of a page has room for so much of a page at least.
 constexpr double kLeastStrand = 0.12;
 
-constexpr double kSmallestScale = 0.55;
+constexpr double kSmallestScale = 0.5;
 constexpr double kScaleStep = 0.03;
 
 class Flow {

@@ -136,16 +136,19 @@ PageTable PageTableOf(const core::Table& table) {
   return shown;
 }
 
+void AddPart(const report::ReportPart& part, std::vector<PageBlock>& blocks) {
+  if (!part.Caption.empty()) {
+    blocks.push_back({PageText{PageRole::Part, OneLine(part.Caption)}});
+  }
+  for (PageBlock& block : std::visit([](const auto& body) { return BlocksOf(body); }, part.Body)) {
+    blocks.push_back(std::move(block));
+  }
+}
+
 void AddSection(const report::ReportSection& section, std::vector<PageBlock>& blocks) {
   blocks.push_back({PageText{PageRole::Section, OneLine(section.Caption)}});
   for (const report::ReportPart& part : section.Parts) {
-    if (!part.Caption.empty()) {
-      blocks.push_back({PageText{PageRole::Part, OneLine(part.Caption)}});
-    }
-    for (PageBlock& block :
-         std::visit([](const auto& body) { return BlocksOf(body); }, part.Body)) {
-      blocks.push_back(std::move(block));
-    }
+    AddPart(part, blocks);
   }
 }
 

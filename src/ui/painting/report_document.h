@@ -12,6 +12,9 @@ namespace orvex::ui {
 // A table as pages show it: its shown columns, good and hard cells in their inks.
 PageTable PageTableOf(const core::Table& table);
 
+// A part of a section under its caption.
+void AddPart(const report::ReportPart& part, std::vector<PageBlock>& blocks);
+
 // A section of a report: its caption, then its parts.
 void AddSection(const report::ReportSection& section, std::vector<PageBlock>& blocks);
 
