@@ -35,21 +35,22 @@ class Demonstration(CommandLineTest):
     def names(self):
         return [row["cells"][0]["text"] for row in self.demo("client", "list")["rows"]]
 
-    def test_twenty_births_and_two_queries_open_with_full_tables(self):
+    def test_births_events_and_queries_open_with_full_tables(self):
         clients = self.demo("client", "list")["rows"]
         queries = [row for row in clients if row["cells"][0]["text"].startswith("Query: ")]
-        self.assertEqual((len(clients), len(queries)), (22, 2))
+        self.assertEqual((len(clients), len(queries)), (57, 2))
         for row in clients:
             opened = self.demo("horoscope", row["tag"])
             empty = {name for name, table in opened["tables"].items() if not table["rows"]}
             self.assertLessEqual(empty, MAY_BE_EMPTY, row)
             self.assertEqual(len(opened["tables"]["PlanetTable"]["rows"]), 9)
-            self.assertIn("query" if row in queries else "ource" if "memory" not in
-                          opened["client"]["comments"] else "not from a record",
-                          opened["client"]["comments"])
+            comments = opened["client"]["comments"]
+            self.assertIn("query" if row in queries else "not from a record" if "memory" in comments
+                          else "time is invented too" if "Invented" in comments else "ource",
+                          comments)
         groups = [row["cells"][0]["text"] for row in self.demo("group", "list")["rows"]]
-        self.assertEqual(groups, ["Artists", "General", "Leaders", "Musicians", "Queries",
-                                  "Scientists", "Writers"])
+        self.assertEqual(groups, ["Artists", "Events", "General", "Invented clients", "Leaders",
+                                  "Musicians", "Nations", "Queries", "Scientists", "Writers"])
         for query in queries:
             self.assertNotEqual(self.demo("remedy", "list", query["tag"])["rows"], [])
 
@@ -65,14 +66,14 @@ class Demonstration(CommandLineTest):
     def test_a_later_start_leaves_what_the_user_made_of_it(self):
         first = self.demo("client", "list")["rows"][0]["tag"]
         self.demo("client", "delete", first, "--yes")
-        self.assertEqual(len(self.names()), 21)
+        self.assertEqual(len(self.names()), 56)
         # A fill that broke off is ended, and nothing comes twice.
         os.remove(os.path.join(self.demo_folder, "Demo filled"))
-        self.assertEqual(len(self.names()), 22)
-        self.assertEqual(len(set(self.names())), 22)
+        self.assertEqual(len(self.names()), 57)
+        self.assertEqual(len(set(self.names())), 57)
         # The whole folder away: filled anew.
         shutil.rmtree(self.demo_folder)
-        self.assertEqual(len(self.names()), 22)
+        self.assertEqual(len(self.names()), 57)
 
     def test_the_users_own_home_and_settings_stay_as_they_are(self):
         self.demo("client", "add", "--name", "A", "--birth", "1990-07-05 14:30", "--city", "1")

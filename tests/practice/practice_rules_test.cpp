@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "chart/client_saving.h"
+#include "core/exact_numbers.h"
 #include "core/text.h"
 #include "practice/birthdays.h"
 #include "practice/cities.h"
@@ -194,6 +195,33 @@ TEST_F(PracticeRules, AFillOfTheDemonstrationThatBrokeOffIsEndedAndDoublesNothin
   session_->StoreConnection.Execute("Delete from client_remedy where id = 1");
   FillDemo(*session_, test::DataFolder());
   EXPECT_EQ(all(), filled);
+}
+
+// From 1947 on a stored offset is what the clocks of the place showed, and every comment says where
+// the time comes from.
+TEST_F(PracticeRules, TheDemonstrationNamesTheSourceOfEachTimeAndHasTheOffsetOfItsClocks) {
+  FillDemo(*session_, test::DataFolder());
+  int living = 0;
+  for (core::Result row = session_->StoreConnection.Query(
+           "Select cm.fullname, cm.birthdate, cm.offset, cm.longitude, cm.comments, cm.horary, "
+           "ct.timezone from client_master cm, city_master ct where cm.cityid = ct.id");
+       !row.AtEnd(); row.Next()) {
+    SCOPED_TRACE(row.Text("fullname"));
+    const std::string comments = row.Text("comments");
+    EXPECT_TRUE(row.Flag("horary") || core::Contains(comments, "ource: ") ||
+                core::Contains(comments, "ource of the time: ") ||
+                core::Contains(comments, "not from a record") ||
+                core::Contains(comments, "the time is invented too"))
+        << comments;
+    const core::DateTime birth = row.Moment("birthdate").value();
+    if (core::PartsOf(birth).Year >= 1947 && !row.Flag("horary")) {
+      ++living;
+      const double longitude = core::ToDouble(row.Text("longitude"));
+      EXPECT_DOUBLE_EQ(core::ToDouble(row.Text("offset")),
+                       ClocksOf(row.Text("timezone"), birth, longitude).OffsetInForce);
+    }
+  }
+  EXPECT_EQ(living, 35);
 }
 
 class Spreadsheets : public testing::Test {
