@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTableView>
@@ -119,13 +120,19 @@ void DrawToolButton(QPainter& painter, const QStyleOption& option) {
   }
 }
 
-void DrawField(QPainter& painter, const QStyleOption& option) {
+void DrawField(QPainter& painter, const QStyleOption& option, const QWidget* widget) {
   const Tokens& t = Theme::Now();
   const QStyle::State state = option.state;
   const bool enabled = state.testFlag(QStyle::State_Enabled);
   const bool focus = enabled && state.testFlag(QStyle::State_HasFocus);
   DrawBox(painter, option.rect, enabled ? t.Sheet : t.Ground, focus ? t.Accent : t.Edge,
           focus ? line::kFocus : line::kHair);
+  if (Has(widget, kRefusedField)) {
+    DrawBox(painter, option.rect, {}, t.Now, line::kHair);
+    painter.fillRect(QRect(option.rect.left(), option.rect.top() + 1, line::kChosen + 1,
+                           option.rect.height() - 2),
+                     t.Now);
+  }
 }
 
 // The mark of a radio button or a check box: an edge that stands out on every ground, and what is
@@ -187,6 +194,16 @@ QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     wanted.setHeight(std::max(wanted.height(), height::kSmallField));
   }
   return wanted;
+}
+
+// Texts of fields keep some air from their frames.
+QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                const QWidget* widget) const {
+  const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+  return element == SE_LineEditContents && frame != nullptr && frame->lineWidth > 0
+             ? rect.adjusted(space::kXs, 0, -space::kXs, 0)
+             : rect;
 }
 
 int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -256,7 +273,13 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_PanelLineEdit:
       if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
           frame != nullptr && frame->lineWidth > 0) {
-        DrawField(*painter, *option);
+        DrawField(*painter, *option, widget);
+        return;
+      }
+      break;
+    case PE_Frame:
+      if (qobject_cast<const QPlainTextEdit*>(widget) != nullptr) {
+        DrawBox(*painter, option->rect, {}, Theme::Now().Edge, line::kHair);
         return;
       }
       break;

@@ -10,6 +10,9 @@ namespace orvex::ui {
 inline constexpr const char* kFilledButton = "filled";    // the one main action of a page
 inline constexpr const char* kSegmentButton = "segment";  // one of a row of which one is chosen
 
+// Property of a field whose text was refused.
+inline constexpr const char* kRefusedField = "refused";
+
 class CalmStyle final : public QProxyStyle {
  public:
   CalmStyle();
@@ -18,6 +21,8 @@ class CalmStyle final : public QProxyStyle {
                   const QWidget* widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override;
+  QRect subElementRect(SubElement element, const QStyleOption* option,
+                       const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* result) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

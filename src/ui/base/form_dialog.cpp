@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <utility>
 
+#include "ui/base/calm_style.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/moment_edit.h"
 #include "ui/base/qt_text.h"
@@ -59,6 +60,8 @@ QHBoxLayout* FormDialog::MakeButtons(const QString& action) {
   action_ = new QPushButton(action);
   action_->setObjectName("action");
   action_->setDefault(true);
+  action_->setProperty(kFilledButton, true);
+  action_->setFont(Theme::Text(type::kText, QFont::DemiBold));
   auto* cancel = new QPushButton(tr("Cancel"));
   cancel->setObjectName("cancel");
   cancel->setAutoDefault(false);

@@ -32,6 +32,8 @@ QColor InkColor(IconInk ink, QIcon::Mode mode) {
       return t.OnAccent;
     case IconInk::Amber:
       return t.Amber;
+    case IconInk::Now:
+      return t.Now;
     case IconInk::Text:
       break;
   }

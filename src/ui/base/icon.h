@@ -10,7 +10,7 @@ namespace orvex::ui {
 inline constexpr int kWordIcon = 16;
 inline constexpr int kRailIcon = 20;
 
-enum class IconInk { Text, Quiet, Accent, OnAccent, Amber };
+enum class IconInk { Text, Quiet, Accent, OnAccent, Amber, Now };
 
 // The icon of that name, such as "rotate". An unknown name gives an icon that draws nothing; a test
 // draws all that are shipped.

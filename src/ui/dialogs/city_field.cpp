@@ -5,13 +5,17 @@
 #include <QTimer>
 
 #include "core/home.h"
+#include "ui/base/icon.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
 #include "ui/dialogs/city_popup.h"
 
 namespace orvex::ui {
 
 CityField::CityField(Workplace& place, QWidget* parent) : QLineEdit(parent), place_(place) {
   setObjectName("city");
+  setMinimumHeight(height::kField);
+  addAction(Icon("place", IconInk::Quiet), QLineEdit::LeadingPosition)->setEnabled(false);
   setPlaceholderText(tr("Type the beginning of a name"));
   connect(this, &QLineEdit::textEdited, this, &CityField::FollowText);
 }

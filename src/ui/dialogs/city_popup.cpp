@@ -34,7 +34,7 @@ class CityDelegate final : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-    return {0, option.fontMetrics.height() + kGrid};
+    return {0, option.fontMetrics.height() + kMargin - kGrid / 2};
   }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -48,11 +48,7 @@ class CityDelegate final : public QStyledItemDelegate {
     faint_ = marked ? ink_ : Theme::Muted();
     painter->save();
     QRect room = row.rect.adjusted(kGrid, 0, -kGrid, 0);
-    const bool differs = index.data(DiffersRole).toBool();
-    QFont clocks = row.font;
-    clocks.setBold(differs);
-    PaintAtRight(*painter, clocks, differs ? ink_ : faint_, index.data(ClocksRole).toString(),
-                 room);
+    PaintClocks(*painter, row.font, index, room);
     PaintAtRight(*painter, row.font, faint_, index.data(PlaceRole).toString(), room);
     PaintName(*painter, row.font, index, room);
     painter->restore();
@@ -65,6 +61,24 @@ class CityDelegate final : public QStyledItemDelegate {
     painter.setPen(color);
     painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, text);
     room.setRight(room.right() - painter.fontMetrics().horizontalAdvance(text) - 2 * kGrid);
+  }
+
+  // An offset then that is not the city's own stands out.
+  void PaintClocks(QPainter& painter, const QFont& font, const QModelIndex& index,
+                   QRect& room) const {
+    const QString clocks = index.data(ClocksRole).toString();
+    if (!index.data(DiffersRole).toBool()) {
+      PaintAtRight(painter, font, faint_, clocks, room);
+      return;
+    }
+    QFont bold = font;
+    bold.setBold(true);
+    const QString then = clocks.section(' ', 0, 0);
+    const QRect all = room;
+    PaintAtRight(painter, font, faint_, clocks.mid(then.size()), room);
+    room.setRight(room.right() + 2 * kGrid);  // one text with what stands before it
+    PaintAtRight(painter, bold, Theme::Now().Amber, then, room);
+    room.setRight(std::min(room.right(), all.right()));
   }
 
   void PaintName(QPainter& painter, const QFont& font, const QModelIndex& index, QRect room) const {
@@ -186,7 +200,7 @@ void CityPopup::ShowCities(const practice::CitySearch::Result& found, const QStr
 
 void CityPopup::DropBelow(const QWidget& field) {
   constexpr int kRows = 6;
-  const int row = list_->fontMetrics().height() + kGrid;
+  const int row = list_->fontMetrics().height() + kMargin - kGrid / 2;
   const int rows = std::clamp(list_->count(), 0, kRows);
   const int wanted = rows * row + count_->sizeHint().height() + 2 * kGrid;
   const QPoint below = field.mapTo(parentWidget(), QPoint(0, field.height()));

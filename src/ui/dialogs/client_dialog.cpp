@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 
 #include "chart/client_checks.h"
@@ -99,7 +100,8 @@ void ClientDialog::Build(const QString& title, const QString& action) {
   layout->addLayout(BuildHead());
   layout->addWidget(BuildBody(), 1);
   layout->addLayout(foot);
-  resize(79 * kGrid, 80 * kGrid);
+  constexpr QSize kUsual(79 * kGrid, 90 * kGrid);
+  resize(kUsual.boundedTo(screen()->availableSize() - QSize(kGrid, 5 * kGrid)));
 }
 
 QLayout* ClientDialog::BuildHead() {
@@ -124,11 +126,17 @@ QWidget* ClientDialog::BuildBody() {
   scroll->setWidgetResizable(true);
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setWidget(page);
+  auto* whole = new QWidget;
+  auto* column = new QVBoxLayout(whole);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(page);
+  column->addStretch(1);  // what room is left stays under the rows
+  scroll->setWidget(whole);
   return scroll;
 }
 
 void ClientDialog::AddPersonRows() {
+  name_->setMinimumHeight(height::kField);
   rows_->Add(tr("Client &Name"), name_, {name_});
   auto* genders = new QWidget;
   genders->setLayout(SwitchLayout(*genders_));

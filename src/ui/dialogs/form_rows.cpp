@@ -20,6 +20,7 @@ QLabel* MakeHint(const QString& text) {
   QPalette muted = hint->palette();
   muted.setColor(QPalette::WindowText, Theme::Muted());
   hint->setPalette(muted);
+  hint->setFont(Theme::Text(type::kHead));
   return hint;
 }
 

@@ -2,9 +2,27 @@
 
 #include "ui/base/labels.h"
 #include "ui/base/moment_edit.h"
+#include "ui/base/theme.h"
 #include "ui/dialogs/form_rows.h"
 
 namespace orvex::ui {
+
+namespace {
+
+// Says beside a field that its text was understood.
+QLabel* TickOf(const MomentEdit& field) {
+  auto* tick = new QLabel;
+  QPalette good = tick->palette();
+  good.setColor(QPalette::WindowText, Theme::Now().Good);
+  tick->setPalette(good);
+  tick->setFixedWidth(tick->fontMetrics().horizontalAdvance("✓") + 1);
+  const auto follow = [tick, &field] { tick->setText(field.IsUnderstood() ? "✓" : ""); };
+  QObject::connect(&field, &MomentEdit::Changed, tick, follow);
+  follow();
+  return tick;
+}
+
+}  // namespace
 
 MomentFields::MomentFields(const core::Clock& clock, QObject* owner)
     : QObject(owner),
@@ -21,12 +39,15 @@ MomentFields::MomentFields(const core::Clock& clock, QObject* owner)
 void MomentFields::AddTo(FormRows& rows) {
   QLabel* date = date_->MakeEcho();
   QLabel* time = time_->MakeEcho();
+  for (MomentEdit* field : {static_cast<MomentEdit*>(date_), static_cast<MomentEdit*>(time_)}) {
+    field->setMinimumHeight(height::kField);
+  }
   for (QLabel* echo : {date, time}) {
     echo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   }
-  rows.Add(tr("&Date"), date_, {date_, date},
+  rows.Add(tr("&Date"), date_, {date_, TickOf(*date_), date},
            MakeHint(tr("5.7.1990, 5 jul 1990 and 1990-07-05 are all read")));
-  rows.Add(tr("Ti&me"), time_, {time_, time, now_},
+  rows.Add(tr("Ti&me"), time_, {time_, TickOf(*time_), time, now_},
            MakeHint(tr("1430, 2:30p and 14:30:20 are all read")));
 }
 

@@ -2,8 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QStyle>
+#include <utility>
 
+#include "ui/base/calm_style.h"
+#include "ui/base/icon.h"
 #include "ui/base/named.h"
 #include "ui/base/theme.h"
 
@@ -18,7 +20,7 @@ constexpr const char* kBlockMark = "refusalBlock";
 RefusalLine::RefusalLine(QWidget* parent) : QWidget(parent), text_(Named(new QLabel, "refusal")) {
   const int size = text_->fontMetrics().height();
   auto* icon = new QLabel;
-  icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(size));
+  icon->setPixmap(Icon("warn", IconInk::Now).pixmap(size));
   QFont bold = text_->font();
   bold.setBold(true);
   text_->setFont(bold);
@@ -48,20 +50,32 @@ QWidget* RefusalLine::BlockOf(const QWidget& field) {
   return block;
 }
 
-void RefusalLine::ShowUnder(const QWidget& field, const QString& text) {
+void RefusalLine::Mark(QWidget* field) {
+  const QPointer<QWidget> before = std::exchange(field_, field);
+  for (QWidget* each : {before.data(), field}) {
+    if (each != nullptr) {
+      each->setProperty(kRefusedField, each == field);
+      each->update();
+    }
+  }
+}
+
+void RefusalLine::ShowUnder(QWidget& field, const QString& text) {
   QWidget* block = BlockOf(field);
   if (block == nullptr) {
     return;
   }
   QPalette red = palette();
-  red.setColor(QPalette::WindowText, Theme::Red());
+  red.setColor(QPalette::WindowText, Theme::Now().Now);
   text_->setPalette(red);
   text_->setText(text);
+  Mark(&field);
   block->layout()->addWidget(this);
   show();
 }
 
 void RefusalLine::Clear() {
+  Mark(nullptr);
   text_->clear();
   hide();
 }

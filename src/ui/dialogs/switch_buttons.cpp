@@ -4,7 +4,9 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include "ui/base/calm_style.h"
 #include "ui/base/named.h"
+#include "ui/base/theme.h"
 
 namespace orvex::ui {
 
@@ -13,6 +15,10 @@ QButtonGroup* MakeSwitch(QObject* owner, const std::vector<SwitchChoice>& choice
   for (const SwitchChoice& choice : choices) {
     QPushButton* button = MakeButton(choice.Name, choice.Text);
     button->setCheckable(true);
+    button->setProperty(kSegmentButton, true);
+    const QString bare = QString(choice.Text).remove('&');
+    button->setFixedWidth(button->fontMetrics().horizontalAdvance(bare) + space::kXl);
+    button->setFixedHeight(height::kSmallField);
     group->addButton(button, static_cast<int>(group->buttons().size()));
   }
   group->button(0)->setChecked(true);
