@@ -2,6 +2,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include "chart/client_saving.h"
 #include "core/settings.h"
@@ -93,6 +94,35 @@ TEST_F(ExactPageTest, WhereTheStoredChartSaysOtherwiseTheCellIsTintedAndNamed) {
     }
   }
   EXPECT_GT(tinted, 0);
+}
+
+TEST_F(ExactPageTest, AllRowsAreInSightWithoutABarOnSmallScreensOneTableAtATime) {
+  QWidget& window = OpenPage();
+  const auto expectWhole = [&](const char* name, bool shown) {
+    const auto& view = Find<TableView>(window, name);
+    ASSERT_EQ(view.isVisible(), shown) << name;
+    if (shown) {
+      EXPECT_EQ(view.verticalScrollBar()->maximum(), 0) << name << " at " << window.height();
+      EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0) << name << " at " << window.width();
+      EXPECT_TRUE(window.rect().contains(QRect(view.mapTo(&window, QPoint(0, 0)), view.size())))
+          << name;
+    }
+  };
+  for (const QSize size : {QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080)}) {
+    window.resize(size);
+    QCoreApplication::processEvents();
+    expectWhole("ExactCusps", true);
+    expectWhole("ExactPlanets", true);
+    EXPECT_FALSE(Find<QWidget>(window, "showExactCusps").isVisible());
+  }
+  window.resize(960, 540);
+  QCoreApplication::processEvents();
+  for (const bool planets : {true, false}) {
+    Press(window, planets ? "showExactPlanets" : "showExactCusps");
+    QCoreApplication::processEvents();
+    expectWhole("ExactCusps", !planets);
+    expectWhole("ExactPlanets", planets);
+  }
 }
 
 TEST_F(ExactPageTest, AnAscendantThatTheLatitudeDoesNotHaveIsSaidInThePlaceOfTheCusps) {

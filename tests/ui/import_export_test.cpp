@@ -10,11 +10,14 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QUrl>
 #include <QWindow>
 
 #include "chart/client_saving.h"
+#include "exchange/exchange_preview.h"
 #include "practice/groups.h"
 #include "support/ui_desk.h"
 #include "ui/base/open_windows.h"
@@ -181,6 +184,33 @@ TEST_F(ImportExportTest, APracticeWithoutClientsIsOfferedTheImport) {
   Press(*window_, "firstImport");
   EXPECT_FALSE(Find<QWidget>(*window_, "firstRun").isVisible());
   EXPECT_EQ(Find<TableView>(*window_, "clientList").Model().rowCount(), 2);
+}
+
+// Restored from a larger screen, the dialog keeps its buttons on this one, and what is compared in
+// sight.
+TEST_F(ImportExportTest, TheDialogStaysOnTheScreenWithItsButtonsAndOffsets) {
+  files_.ToRead = {Write("a.aaf", Birth("First"))};
+  Open();
+  for (const bool again : {false, true}) {
+    WhenOpen("importDialog", [again](QWidget& dialog) {
+      const QRect screen = dialog.screen()->availableGeometry();
+      EXPECT_LT(dialog.height(), screen.height()) << again;
+      EXPECT_LE(dialog.width(), screen.width()) << again;
+      EXPECT_TRUE(dialog.rect().contains(Find<QWidget>(dialog, "action").geometry()));
+      dialog.resize(760, 500);
+      Press(dialog, "chooseFiles");
+      const auto& births = Find<TableView>(dialog, "importBirths");
+      EXPECT_EQ(births.horizontalScrollBar()->maximum(), 0);
+      for (const exchange::PreviewColumn column :
+           {exchange::PreviewColumn::OffsetInFile, exchange::PreviewColumn::OffsetOfClocks,
+            exchange::PreviewColumn::State}) {
+        EXPECT_FALSE(births.isColumnHidden(static_cast<int>(column)));
+      }
+      dialog.resize(5000, 5000);
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Trigger("importBirths");
+  }
 }
 
 TEST_F(ImportExportTest, FilesAndFoldersDroppedOntoTheWindowOpenTheImportWithThem) {

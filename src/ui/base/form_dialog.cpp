@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <utility>
 
 #include "ui/base/calm_style.h"
@@ -19,6 +20,7 @@ namespace orvex::ui {
 
 namespace {
 
+constexpr int kTitleBar = 32;  // pixels that a desktop's frame may take above a dialog
 constexpr const char* kThrowAwayQuestion =
     "What was typed here is not saved. Do you want to throw it away?";
 
@@ -86,6 +88,10 @@ void FormDialog::showEvent(QShowEvent* event) {
   }
   if (!std::exchange(marksTexts_, true)) {
     SelectAllTextOnFocus(*this);
+  }
+  // The buttons at the foot stay on the screen.
+  if (const QScreen* on = screen()) {
+    resize(size().boundedTo(on->availableSize() - QSize(0, kTitleBar)));
   }
   QDialog::showEvent(event);
 }

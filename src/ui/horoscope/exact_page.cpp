@@ -31,7 +31,7 @@ const std::vector<ColumnPlan> kCuspColumns = {
 
 const std::vector<ColumnPlan> kPlanetColumns = {
     {"Planet",       CellKind::Chip, 104, 0},
-    {"R",            CellKind::Text,  26, 0},
+    {"R",            CellKind::Text,  32, 0},
     {"Position",     CellKind::Text, 104, 0},
     {"Longitude",    CellKind::Age,   88, 4},
     {"House",        CellKind::Text,  46, 0},
@@ -43,11 +43,14 @@ const std::vector<ColumnPlan> kPlanetColumns = {
     {"Stored",       CellKind::Text, 130, 2}};
 // clang-format on
 
+constexpr int kHeightForBoth = 530;  // below, one table at a time
+
 }  // namespace
 
 ExactPage::ExactPage(HoroscopeDocument& document)
     : HoroscopePage(document),
       ayanamsa_(new Segments({{"readKp", tr("&KP")}, {"readKpNew", tr("KP &new")}})),
+      part_(new Segments({{"showExactCusps", tr("Cusps")}, {"showExactPlanets", tr("Planets")}})),
       captions_(MakeCaptionLabel("exactCaptions")),
       message_(MakeCaptionLabel("exactMessage")) {
   auto* layout = new QVBoxLayout(this);
@@ -61,6 +64,8 @@ ExactPage::ExactPage(HoroscopeDocument& document)
   // The twelve rows and the nine share the height.
   layout->setStretchFactor(cusps_, 14);
   layout->setStretchFactor(planets_, 11);
+  connect(part_, &Segments::ChosenChanged, this, &ExactPage::Arrange);
+  setMinimumSize(1, 1);
 }
 
 QHBoxLayout* ExactPage::LayOutHead() {
@@ -75,6 +80,7 @@ QHBoxLayout* ExactPage::LayOutHead() {
   head->addWidget(name);
   head->addWidget(ayanamsa_);
   head->addWidget(captions_, 1);
+  head->addWidget(part_);
   return head;
 }
 
@@ -84,6 +90,7 @@ TableView* ExactPage::AddTable(const char* name, const QString& title,
   view->setObjectName(name);
   view->setAccessibleName(title);
   view->setSortingEnabled(false);
+  view->setMinimumSize(1, 1);
   OfferExport(Document().Place(), *view);
   auto* plan = new TablePlan(*view, columns);
   connect(plan, &TablePlan::CodeClicked, &Document(), &HoroscopeDocument::ChoosePlanet);
@@ -104,6 +111,24 @@ void ExactPage::ChooseReading(exact::Reading reading) {
   ShowModel();
 }
 
+void ExactPage::resizeEvent(QResizeEvent* event) {
+  HoroscopePage::resizeEvent(event);
+  Arrange();
+}
+
+// Both tables where they have room, else the one that is chosen. Without cusps the planets stand
+// alone under the message.
+void ExactPage::Arrange() {
+  const bool both = !hasCusps_ || height() >= kHeightForBoth * Theme::TextSize() / 100;
+  const bool cusps = part_->Chosen() == 0;
+  part_->setVisible(!both);
+  cusps_->setVisible(hasCusps_ && (both || cusps));
+  planets_->setVisible(both || !cusps);
+  for (TablePlan* plan : plans_) {
+    plan->Fit();
+  }
+}
+
 void ExactPage::ShowModel() {
   const horoscope::OpenedHoroscope& opened = Document().Opened();
   const horoscope::ExactReading reading =
@@ -114,12 +139,10 @@ void ExactPage::ShowModel() {
           .arg(Shown(reading.Ayanamsa), Shown(reading.Moment), Shown(reading.StoredMoment)));
   message_->setText(Shown(reading.Message));
   message_->setVisible(!reading.Message.empty());
-  cusps_->setVisible(reading.Message.empty());
+  hasCusps_ = reading.Message.empty();
   cusps_->SetTable(reading.Cusps);
   planets_->SetTable(reading.Planets);
-  for (TablePlan* plan : plans_) {
-    plan->Fit();
-  }
+  Arrange();
 }
 
 }  // namespace orvex::ui

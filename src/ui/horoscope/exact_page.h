@@ -21,17 +21,23 @@ class ExactPage final : public HoroscopePage {
 
   void ShowModel() override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QHBoxLayout* LayOutHead();
+  void Arrange();
   TableView* AddTable(const char* name, const QString& title,
                       const std::vector<ColumnPlan>& columns, QVBoxLayout& layout);
   void ChooseReading(exact::Reading reading);
 
   Segments* ayanamsa_;
+  Segments* part_;  // which table is in sight where both have no room
   QLabel* captions_;
   QLabel* message_;  // in the place of the cusps where there are none
   TableView* cusps_;
   TableView* planets_;
+  bool hasCusps_ = true;
   std::vector<TablePlan*> plans_;
 };
 

@@ -20,9 +20,9 @@ namespace {
 
 // clang-format off
 const std::vector<ColumnPlan> kEventColumns = {
-    {"Date",   CellKind::Text,  96, 0},
+    {"Date",   CellKind::Text, 132, 0},
     {"Matter", CellKind::Text, 100, 0},
-    {"Remark", CellKind::Text,  90, 1}};
+    {"Remark", CellKind::Text,  64, 1}};
 // clang-format on
 
 }  // namespace

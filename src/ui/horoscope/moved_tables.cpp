@@ -26,23 +26,27 @@ const std::vector<ColumnPlan> kMovedLordColumns = {
     {"Sub Sub Lord", CellKind::Chip,  86, 2}};
 
 const std::vector<ColumnPlan> kMovedCuspColumns = {
-    {"Cusp",         CellKind::Text,  40, 0},
-    {"Degree",       CellKind::Text,  60, 0},
-    {"Sign Lord",    CellKind::Text,  70, 1},
-    {"Star Lord",    CellKind::Text,  70, 0},
-    {"Sub Lord",     CellKind::Text,  70, 0},
-    {"Sub Sub Lord", CellKind::Text,  80, 2}};
+    {"Cusp",         CellKind::Text,   40, 0},
+    {"Degree",       CellKind::Degree, 76, 0},
+    {"Sign Lord",    CellKind::Chip,   80, 1},
+    {"Star Lord",    CellKind::Chip,   80, 0},
+    {"Sub Lord",     CellKind::Chip,   80, 0},
+    {"Sub Sub Lord", CellKind::Chip,   86, 2}};
 
 const std::vector<ColumnPlan> kMovedPlanetColumns = {
-    {"Planet",       CellKind::Text,  64, 0},
-    {"Degree",       CellKind::Text,  56, 0},
-    {"R",            CellKind::Text,  22, 0},
-    {"Rashi House",  CellKind::Text,  76, 4},
-    {"Chalit House", CellKind::Text,  78, 3},
-    {"Sign Lord",    CellKind::Text,  64, 1},
-    {"Star Lord",    CellKind::Text,  64, 0},
-    {"Sub Lord",     CellKind::Text,  64, 0},
-    {"Sub Sub Lord", CellKind::Text,  80, 2}};
+    {"Planet",       CellKind::Chip,   80, 0},
+    {"Degree",       CellKind::Degree, 76, 0},
+    {"R",            CellKind::Text,   22, 0},
+    {"Rashi House",  CellKind::Text,   76, 4},
+    {"Chalit House", CellKind::Text,   78, 3},
+    {"Sign Lord",    CellKind::Chip,   80, 1},
+    {"Star Lord",    CellKind::Chip,   80, 0},
+    {"Sub Lord",     CellKind::Chip,   80, 0},
+    {"Sub Sub Lord", CellKind::Chip,   86, 2}};
+
+const std::vector<ColumnPlan> kMovedDashaColumns = {
+    {"Planet",   CellKind::Chip, 80, 0},
+    {"End Date", CellKind::Text, 84, 0}};
 // clang-format on
 
 // Marks the cells that differ from those of the birth.
@@ -126,7 +130,11 @@ void MovedTables::PlanTables(Workplace& place) {
   constexpr RowBounds kFixed{height::kLeastRow, height::kLeastRow, false};
   plans_ = {new TablePlan(*lords_, kMovedLordColumns, kFixed),
             new TablePlan(*cusps_, kMovedCuspColumns, kTight),
-            new TablePlan(*planets_, kMovedPlanetColumns, kTight)};
+            new TablePlan(*planets_, kMovedPlanetColumns, kTight),
+            new TablePlan(*dashas_, kMovedDashaColumns, kTight)};
+  for (TableView* view : {cusps_, planets_, dashas_}) {
+    view->setFont(Theme::Text(type::kSmall));
+  }
   lords_->verticalHeader()->setDefaultSectionSize(
       std::max<int>(height::kLeastRow, lords_->fontMetrics().height() + space::kXs));
   lords_->FitHeightToRows();

@@ -77,7 +77,7 @@ constexpr std::array<PageEntry, 17> kPages = {{
     {"matter",        QT_TRANSLATE_NOOP("PageStack", "Matter"),        Read,   Fits::Always,   &Make<MatterPage>},
     {"fourStep",      QT_TRANSLATE_NOOP("PageStack", "Four steps"),    Read,   Fits::WithBars, &MakeFourStep},
     {"aspects",       QT_TRANSLATE_NOOP("PageStack", "Aspects"),       Read,   Fits::WithBars, &Make<AspectsPage>},
-    {"exact",         QT_TRANSLATE_NOOP("PageStack", "To the second"), Read,   Fits::WithBars, &Make<ExactPage>},
+    {"exact",         QT_TRANSLATE_NOOP("PageStack", "To the second"), Read,   Fits::Always,   &Make<ExactPage>},
     {"dasha",         QT_TRANSLATE_NOOP("PageStack", "Periods"),       Time,   Fits::Always,   &Make<DashaPage>},
     {"timeline",      QT_TRANSLATE_NOOP("PageStack", "Timeline"),      Time,   Fits::WithBars, &Make<TimelinePage>},
     {"transit",       QT_TRANSLATE_NOOP("PageStack", "Transits"),      Time,   Fits::WithBars, &Make<TransitPage>},

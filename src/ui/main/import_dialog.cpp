@@ -17,11 +17,31 @@
 #include "ui/base/message_boxes.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
-#include "ui/base/table_view.h"
+#include "ui/base/table_plan.h"
 #include "ui/base/theme.h"
 #include "ui/main/work_progress.h"
 
 namespace orvex::ui {
+
+namespace {
+
+// What is compared stays in sight in a narrow window.
+// clang-format off
+const std::vector<ColumnPlan> kBirthColumns = {
+    {"Client Name",      CellKind::Text, 120, 0},
+    {"Birth",            CellKind::Text, 160, 0},
+    {"City",             CellKind::Text, 110, 0},
+    {"Place",            CellKind::Text, 100, 2},
+    {"Latitude",         CellKind::Text,  76, 4},
+    {"Longitude",        CellKind::Text,  76, 5},
+    {"Offset in File",   CellKind::Text,  88, 0},
+    {"Offset of Clocks", CellKind::Text, 100, 0},
+    {"State",            CellKind::Text,  96, 0},
+    {"File",             CellKind::Text, 100, 3},
+    {"Line",             CellKind::Text,  40, 1}};
+// clang-format on
+
+}  // namespace
 
 ImportDialog::ImportDialog(Workplace& place, std::int32_t groupId, QWidget* parent)
     : FormDialog(place, "importDialog", parent),
@@ -30,6 +50,8 @@ ImportDialog::ImportDialog(Workplace& place, std::int32_t groupId, QWidget* pare
       source_(new ElidedLabel("importSource")),
       group_(Named(new QComboBox, "importGroup")),
       births_(Named(new TableView, "importBirths")),
+      birthsPlan_(
+          new TablePlan(*births_, kBirthColumns, {height::kLeastRow, height::kLeastRow, false})),
       refusedTitle_(MakeHeading(tr("Refused lines"))),
       refused_(Named(new TableView, "importRefused")),
       leaveOut_(Named(new QCheckBox(tr("&Leave the refused lines out and import the others")),
@@ -155,6 +177,7 @@ void ImportDialog::ShowPlan() {
   const QString more = paths_.size() > 1 ? tr(" and %1 more").arg(paths_.size() - 1) : QString();
   source_->setText(paths_.empty() ? QString() : Shown(paths_.front().string()) + more);
   births_->SetTable(exchange::PreviewTable(plan_));
+  birthsPlan_->Fit();
   refused_->SetTable(exchange::RefusedTable(plan_));
   const bool isRefused = !plan_.Refused.empty();
   refusedTitle_->setVisible(isRefused);

@@ -14,6 +14,7 @@ class QLabel;
 namespace orvex::ui {
 
 class ElidedLabel;
+class TablePlan;
 class TableView;
 class WorkProgress;
 
@@ -66,6 +67,7 @@ class ImportDialog final : public FormDialog {
   ElidedLabel* source_;
   QComboBox* group_;
   TableView* births_;
+  TablePlan* birthsPlan_;
   QLabel* refusedTitle_;
   TableView* refused_;
   QCheckBox* leaveOut_;
