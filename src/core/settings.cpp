@@ -64,6 +64,16 @@ std::optional<Refusal> CheckChoices(const Session& session, const SettingsForm& 
   return std::nullopt;
 }
 
+std::optional<Refusal> CheckTextSize(const std::string& typed) {
+  const std::optional<std::int64_t> size = ParseWhole(Trim(typed));
+  if (!size || *size < kLeastTextSize || *size > kMostTextSize) {
+    return Refusal{"The text size must be a whole number from " + WholeText(kLeastTextSize) +
+                       " to " + WholeText(kMostTextSize) + ".",
+                   MessageIcon::Information, "TextSize", kLookPage};
+  }
+  return std::nullopt;
+}
+
 std::optional<Refusal> CheckSettings(const Session& session, const SettingsForm& form) {
   if (std::optional<Refusal> refused = CheckProfile(form)) {
     return refused;
@@ -73,7 +83,10 @@ std::optional<Refusal> CheckSettings(const Session& session, const SettingsForm&
       return refused;
     }
   }
-  return CheckChoices(session, form);
+  if (std::optional<Refusal> refused = CheckChoices(session, form)) {
+    return refused;
+  }
+  return CheckTextSize(form.TextSize);
 }
 
 std::string UpdateStatement(const SettingsForm& form, std::int32_t cityId) {
@@ -93,6 +106,9 @@ std::string UpdateStatement(const SettingsForm& form, std::int32_t cityId) {
   values.emplace_back("ICGroupID", WholeText(form.InstantChartGroupId));
   values.emplace_back("ExactAyanamsa", StoredCode(kAyanamsaChoices, form.ExactAyanamsa, "kp"));
   values.emplace_back("BirthMoment", StoredCode(kBirthMomentChoices, form.BirthMoment, "S"));
+  values.emplace_back("DegreesShown", StoredCode(kShownDegreeChoices, form.DegreesShown, "S"));
+  values.emplace_back("TextSize", Trim(form.TextSize));
+  values.emplace_back("Theme", StoredCode(kThemeChoices, form.Theme, "desktop"));
   std::string changes;
   for (const auto& [column, value] : values) {
     changes += (changes.empty() ? "" : ", ") + column + " = " + value;
@@ -122,6 +138,10 @@ SettingsForm OpenSettings(const Session& session) {
   form.SortBy = sort == nullptr ? ShownText(kSortChoices, "CLN") : sort->Text;
   form.ExactAyanamsa = ShownText(kAyanamsaChoices, row.Text("ExactAyanamsa"));
   form.BirthMoment = ShownText(kBirthMomentChoices, row.Text("BirthMoment"));
+  const LookSettings look = LookOf(session);
+  form.DegreesShown = kShownDegreeChoices.at(look.DegreesInSign ? 0 : 1).Text;
+  form.TextSize = WholeText(look.TextSize);
+  form.Theme = ShownText(kThemeChoices, look.Theme);
   form.ChartPath = row.Text("chartpath");
   form.UserCityId = state.UserCityId;
   form.UserCityName = state.UserCityName;
@@ -181,6 +201,17 @@ std::string ExactAyanamsaOf(const Session& session) {
 
 char BirthMomentOf(const Session& session) {
   return SettingText(session, "BirthMoment") == "C" ? 'C' : 'S';
+}
+
+LookSettings LookOf(const Session& session) {
+  LookSettings look;
+  look.DegreesInSign = SettingText(session, "DegreesShown") != "A";
+  const std::int64_t size = ParseWhole(SettingText(session, "TextSize")).value_or(kUsualTextSize);
+  look.TextSize = static_cast<int>(std::clamp<std::int64_t>(size, kLeastTextSize, kMostTextSize));
+  if (const SettingChoice* theme = FindChoice(kThemeChoices, SettingText(session, "Theme"))) {
+    look.Theme = theme->Code;
+  }
+  return look;
 }
 
 SaveResult SaveExactAyanamsa(Session& session, const std::string& code) {

@@ -15,6 +15,7 @@ namespace orvex::core {
 // The pages of the dialog; its title is "Settings - " and the page.
 inline constexpr const char* kGeneralPage = "General";
 inline constexpr const char* kOrbitsPage = "Orbits";
+inline constexpr const char* kLookPage = "Look";
 inline constexpr const char* kProfilePage = "Profile";
 
 inline constexpr const char* kResetOrbsQuestion =
@@ -35,10 +36,19 @@ inline constexpr std::array<SettingChoice, 2> kAyanamsaChoices = {{
     {"kp", "KP"}, {"kp-new", "KP new"}}};
 inline constexpr std::array<SettingChoice, 2> kBirthMomentChoices = {{
     {"S", "Local mean time"}, {"C", "Clock time"}}};
+inline constexpr std::array<SettingChoice, 2> kShownDegreeChoices = {{
+    {"S", "In the sign"}, {"A", "As stored"}}};
+inline constexpr std::array<SettingChoice, 3> kThemeChoices = {{
+    {"desktop", "As the desktop"}, {"light", "Light"}, {"dark", "Dark"}}};
 inline constexpr std::array<SettingChoice, 6> kSortChoices = {{
     {"BHD", "Birth/Horary Date"}, {"CTY", "City"},  {"CLN", "Client Name"},
     {"CRD", "Created Date"},      {"EML", "Email"}, {"MBL", "Mobile No."}}};
 // clang-format on
+
+// The size of all texts in the windows, in per cent.
+inline constexpr int kLeastTextSize = 90;
+inline constexpr int kUsualTextSize = 100;
+inline constexpr int kMostTextSize = 140;
 
 // The choice whose code or text it is, in any case; null where there is none.
 const SettingChoice* FindChoice(std::span<const SettingChoice> choices,
@@ -52,6 +62,9 @@ struct SettingsForm {
   std::string SortBy;
   std::string ExactAyanamsa;
   std::string BirthMoment;
+  std::string DegreesShown;
+  std::string TextSize;  // a whole number of per cent
+  std::string Theme;
   std::string ChartPath;                       // empty: the default folder
   std::int32_t UserCityId = 0;                 // 0: the present city is kept
   std::string UserCityName;                    // shown beside the field
@@ -79,6 +92,15 @@ std::string ExactAyanamsaOf(const Session& session);
 
 // What a chart west of Greenwich takes: 'S' local mean time, 'C' the clock's time.
 char BirthMomentOf(const Session& session);
+
+// How the windows look.
+struct LookSettings {
+  bool DegreesInSign = true;  // else as they are stored
+  int TextSize = kUsualTextSize;
+  std::string Theme = "desktop";  // or "light", "dark"
+};
+
+LookSettings LookOf(const Session& session);
 
 // Keeps the ayanamsa of the reading to the second, "kp" or "kp-new".
 SaveResult SaveExactAyanamsa(Session& session, const std::string& code);

@@ -27,7 +27,7 @@ struct NewColumn {
 };
 
 // clang-format off
-constexpr std::array<NewColumn, 18> kNewColumns = {{
+constexpr std::array<NewColumn, 21> kNewColumns = {{
     {"settings",      "StatusBarDegreeCalc",      "text(1)"},
     {"settings",      "AstrologerName",           "text(50)"},
     {"settings",      "AstrologerOrganization",   "text(50)"},
@@ -44,6 +44,9 @@ constexpr std::array<NewColumn, 18> kNewColumns = {{
     {"settings",      "Orbit_180",                "integer"},
     {"settings",      "ExactAyanamsa",            "text(6)"},
     {"settings",      "BirthMoment",              "text(1)"},
+    {"settings",      "DegreesShown",             "text(1)"},
+    {"settings",      "TextSize",                 "integer"},
+    {"settings",      "Theme",                    "text(7)"},
     {"client_master", "HoraryQuestion",           "text(100)"},
     {"client_master", "AscDegreeType",            "text(1)"},
 }};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "chart/sign_degree.h"
 #include "core/cell_colors.h"
 #include "core/exact_numbers.h"
 #include "core/text.h"
@@ -12,6 +13,7 @@ namespace orvex::report {
 namespace {
 
 constexpr const char* kAscendantCode = "Asc";
+constexpr const char* kBetweenTips = " | ";
 
 using HouseCells = std::array<core::Cell, chart::kHouses>;
 
@@ -96,6 +98,18 @@ ChartPicture RashiPicture(const ChartCells& cells, char style) {
 
 ChartPicture ChalitPicture(const ChartCells& cells, char style) {
   return RegionalPicture({KnownStyle(style), "KP", {}}, cells.NorthKP, cells.EastKP, cells.SouthKP);
+}
+
+ChartPicture WithDegreesInSign(ChartPicture picture) {
+  for (PictureField& field : picture.Fields) {
+    const std::string stored =
+        field.Note.size() > 2 ? field.Note.substr(1, field.Note.size() - 2) : "";
+    if (const auto degree = chart::SignDegreeOf(stored)) {
+      field.Note = degree->Figures;
+      field.Tooltip += (field.Tooltip.empty() ? "" : kBetweenTips) + ("Cusp: " + stored);
+    }
+  }
+  return picture;
 }
 
 ChartPicture DivisionPicture(const vedic::DivisionChart& division, char style,

@@ -13,7 +13,7 @@ namespace orvex::report {
 
 struct PictureField {
   std::string Sign;                // number of the sign, "" where it is not known
-  std::string Note;                // the cusp's degree in brackets, "" where none is shown
+  std::string Note;                // the cusp's degree, "" where none is shown
   std::vector<std::string> Codes;  // planets with their marks, and "Asc" in East style
   std::string Tooltip;
   bool Ascendant = false;
@@ -29,6 +29,10 @@ struct ChartPicture {
 // The rashi chart and the chart of chalit houses; a style other than 'N' and 'E' counts as 'S'.
 ChartPicture RashiPicture(const ChartCells& cells, char style);
 ChartPicture ChalitPicture(const ChartCells& cells, char style);
+
+// The same picture with the cusps' degrees in their signs, "14°40'"; how they are stored is told by
+// the field.
+ChartPicture WithDegreesInSign(ChartPicture picture);
 
 // A division, with a title such as "Navamsha (D9)".
 ChartPicture DivisionPicture(const vedic::DivisionChart& division, char style,

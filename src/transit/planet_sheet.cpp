@@ -238,6 +238,18 @@ void FillLists(const Subject& subject, PlanetSheet& sheet) {
 
 }  // namespace
 
+std::vector<SheetFact> FactsOf(const PlanetSheet& sheet) {
+  std::vector<SheetFact> facts;
+  for (const core::Row& row : sheet.Sheet.Rows) {
+    for (std::size_t label = 0; label + 1 < row.Cells.size(); label += 2) {
+      if (!row.Cells[label].Text.empty()) {
+        facts.push_back({row.Cells[label].Text, row.Cells[label + 1].Text});
+      }
+    }
+  }
+  return facts;
+}
+
 PlanetSheet ShowPlanetDetails(const chart::HoroscopeModel& model, std::size_t planetRow,
                               core::DateTime today) {
   const std::string planet = chart::PlanetText(model, planetRow, PlanetColumn::Planet);

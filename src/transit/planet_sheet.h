@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "chart/horoscope_model.h"
 #include "core/clock.h"
@@ -27,6 +28,14 @@ struct PlanetSheet {
   core::Table Aspecting;
   core::Table AspectedBy;
 };
+
+struct SheetFact {
+  std::string Label;
+  std::string Value;  // "" where its source is missing
+};
+
+// The pairs of the main table, one after the other.
+std::vector<SheetFact> FactsOf(const PlanetSheet& sheet);
 
 // The sheet of a row of the planet table. A cell whose source is missing stays empty.
 // std::out_of_range for a row that the table does not have.

@@ -63,6 +63,35 @@ TEST_F(Settings, EachCheckRefusesInItsTurnWithItsPageAndField) {
   }
 }
 
+TEST_F(Settings, TheLookHasItsBoundsAndStandsAsUsualWhereNothingOrNonsenseIsStored) {
+  EXPECT_EQ(LookOf(*session_).TextSize, 100);
+  EXPECT_TRUE(LookOf(*session_).DegreesInSign);
+  EXPECT_EQ(LookOf(*session_).Theme, "desktop");
+  for (const char* typed : {"89", "141", "", "100.5", "large", "-100"}) {
+    SettingsForm form = OpenSettings(*session_);
+    form.TextSize = typed;
+    const SaveResult refused = SaveSettings(*session_, form);
+    ASSERT_TRUE(refused.Refused) << typed;
+    EXPECT_EQ(refused.Refused->Page, std::string("Look"));
+    EXPECT_EQ(refused.Refused->Field, "TextSize");
+  }
+  for (const char* typed : {"90", " 140 "}) {
+    SettingsForm form = OpenSettings(*session_);
+    form.TextSize = typed;
+    form.DegreesShown = "As stored";
+    form.Theme = "Dark";
+    ASSERT_FALSE(SaveSettings(*session_, form).Refused) << typed;
+    EXPECT_EQ(Stored("DegreesShown") + Stored("Theme"), "Adark");
+    EXPECT_FALSE(LookOf(*session_).DegreesInSign);
+  }
+  EXPECT_EQ(LookOf(*session_).TextSize, 140);
+  session_->StoreConnection.Execute(
+      "Update settings set TextSize = 4000, Theme = 'x', DegreesShown = 'x'");
+  EXPECT_EQ(LookOf(*session_).TextSize, 140);
+  EXPECT_EQ(LookOf(*session_).Theme, "desktop");
+  EXPECT_TRUE(LookOf(*session_).DegreesInSign);
+}
+
 TEST_F(Settings, WhatIsSavedStandsInTheRowAndInTheStateAtOnce) {
   SettingsForm form = OpenSettings(*session_);
   form.RahuKetuCalculation = "True";

@@ -37,6 +37,10 @@ TEST(ChartPictures, TheKpChartShowsTheDegreesOfTheCusps) {
   EXPECT_EQ(ChalitPicture(cells, 'N').Fields.at(1).Note, "(45.00)");
   EXPECT_EQ(ChalitPicture(cells, 'S').Fields.at(1).Note, "(45.00)");
   EXPECT_EQ(RashiPicture(cells, 'S').Fields.at(1).Note, "");
+  const ChartPicture inSign = WithDegreesInSign(ChalitPicture(cells, 'N'));
+  EXPECT_EQ(inSign.Fields.at(1).Note, "15°00'");
+  EXPECT_EQ(inSign.Fields.at(1).Tooltip, "Cusp: 45.00");
+  EXPECT_EQ(WithDegreesInSign(RashiPicture(cells, 'N')).Fields.at(1).Note, "");
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ inline QString RowText(const ui::TableView& view, int row) {
     const QString own = row < 0 ? view.model()->headerData(column, Qt::Horizontal).toString()
                                 : view.Model().index(row, column).data().toString();
     const bool degree = cells != nullptr && cells->KindOf(column) == ui::CellKind::Degree;
-    const auto shown = row >= 0 && degree ? ui::DegreeInSign(own) : std::nullopt;
+    const auto shown = row >= 0 && degree ? ui::ShownDegree(own) : std::nullopt;
     text += Squeezed(shown ? shown->Figures + shown->Sign : own);
   }
   return text;

@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <cmath>
+#include <set>
 
 #include "support/test_home.h"
 #include "ui/painting/chart_geometry.h"
@@ -23,7 +24,7 @@ class ChartPainting : public testing::TestWithParam<char> {
     }
     report::PictureField& field = picture.Fields.at(crowded);
     field.Ascendant = true;
-    field.Note = "(359.99)";
+    field.Note = "29°59'";
     field.Codes = {"Asc", "KE~", "VE*~", "SU", "MO*", "MA*~", "RA~", "JU*~", "SA*~", "ME*~"};
     return picture;
   }
@@ -64,9 +65,12 @@ TEST_P(ChartPainting, NinePlanetsInAnyFieldTouchNeitherEachOtherNorItsRim) {
     for (std::size_t crowded = 0; crowded < 12; ++crowded) {
       const report::ChartPicture picture = Crowded(GetParam(), crowded);
       const DrawnField drawn = LayOutChart(picture, QFont(), QRectF(0, 0, side, side)).at(crowded);
-      ASSERT_EQ(drawn.Codes.Words.size(), 11U);
+      ASSERT_EQ(drawn.Codes.Words.size(), 10U);
+      ASSERT_EQ(drawn.Codes.Note.Text, "29°59'");
+      std::vector<PlacedWord> words = drawn.Codes.Words;
+      words.push_back(drawn.Codes.Note);
       std::vector<QRectF> boxes = {drawn.SignBox};
-      for (const PlacedWord& word : drawn.Codes.Words) {
+      for (const PlacedWord& word : words) {
         for (const QPointF& corner : {word.Box.topLeft(), word.Box.topRight(),
                                       word.Box.bottomLeft(), word.Box.bottomRight()}) {
           EXPECT_TRUE(drawn.Outline.containsPoint(corner, Qt::OddEvenFill))
@@ -79,6 +83,33 @@ TEST_P(ChartPainting, NinePlanetsInAnyFieldTouchNeitherEachOtherNorItsRim) {
         boxes.push_back(word.Box);
       }
     }
+  }
+}
+
+// In a window's chart, whose planets are read at 13 pixels.
+TEST_P(ChartPainting, ADegreeStandsAloneOnItsLineAndIsAsSmallAsASignNumber) {
+  constexpr double kReadable = 13;
+  report::ChartPicture picture = Crowded(GetParam(), 0);
+  for (report::PictureField& field : picture.Fields) {
+    field.Note = "13°54'";
+    field.Codes = {"MO"};
+  }
+  picture.Fields.at(3).Codes.clear();
+  const std::set<std::size_t> wideAtFoot = GetParam() == 'N'   ? std::set<std::size_t>{5, 7}
+                                           : GetParam() == 'E' ? std::set<std::size_t>{2, 5, 7, 10}
+                                                               : std::set<std::size_t>{};
+  const auto drawn = LayOutChart(picture, QFont(), QRectF(0, 0, 264, 264), kReadable);
+  for (std::size_t place = 0; place < drawn.size(); ++place) {
+    const FieldText& text = drawn.at(place).Codes;
+    EXPECT_GE(text.NoteSize, 10) << place;
+    EXPECT_LE(text.NoteSize, 11) << place;
+    EXPECT_TRUE(drawn.at(place).Outline.boundingRect().contains(text.Note.Box)) << place;
+    if (place == 3) {
+      continue;
+    }
+    EXPECT_GE(text.PixelSize, kReadable) << place;
+    EXPECT_EQ(text.Note.Box.top() > text.Words.front().Box.top(), wideAtFoot.contains(place))
+        << place;
   }
 }
 

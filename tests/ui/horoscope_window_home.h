@@ -25,6 +25,7 @@
 #include <QToolButton>
 #include <chrono>
 #include <fstream>
+#include <functional>
 #include <iostream>
 
 #include "chart/aspects.h"
@@ -83,7 +84,33 @@ class HoroscopeWindowTest : public testing::Test {
   HoroscopeWindow& Open() {
     window_ = OpenHoroscope(place_, client_);
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window_));
+    Resize(QSize(1280, 720));
     return *window_;
+  }
+
+  // The screen of the tests is small; a user may drag a window beyond its own.
+  void Resize(const QSize& size) {
+    QCoreApplication::processEvents();  // the first look at the room of the screen
+    window_->resize(size);
+    QCoreApplication::processEvents();
+  }
+
+  // A click of the right button at a point of a widget, with what is done when the menu is open.
+  void RightClick(QWidget& widget, const QPoint& at, const std::function<void(QMenu&)>& choose) {
+    WhenMenuOpen(choose);
+    QTest::mouseClick(widget.window()->windowHandle(), Qt::RightButton, {},
+                      widget.mapTo(widget.window(), at));
+    QCoreApplication::processEvents();
+  }
+
+  void WhenMenuOpen(const std::function<void(QMenu&)>& choose) {
+    QTimer::singleShot(0, window_, [this, choose] {
+      if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+        choose(*menu);
+      } else {
+        WhenMenuOpen(choose);
+      }
+    });
   }
 
   template <typename Widget>

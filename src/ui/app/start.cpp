@@ -17,7 +17,9 @@
 #include "ui/base/message_boxes.h"
 #include "ui/base/open_windows.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_look.h"
 #include "ui/base/workplace.h"
+#include "ui/main/kept_main_window.h"
 #include "ui/main/main_window.h"
 
 namespace orvex::ui {
@@ -91,11 +93,11 @@ int RunWindows(core::Session& session, bool demo) {
   FileDialogs files;
   LayoutMemory layout(demo ? session.Place.Folder / "windows.ini" : LayoutMemory::DefaultFile());
   Workplace place{session, files, layout};
-  MainWindow window(place);
-  if (demo) {
-    window.setWindowTitle(QCoreApplication::translate("MainWindow", "Orvex+ (demonstration)"));
-  }
-  window.show();
+  TakeLook(core::LookOf(session));
+  KeptMainWindow kept(
+      place,
+      demo ? QCoreApplication::translate("MainWindow", "Orvex+ (demonstration)") : QString());
+  kept.Window().show();
   const int status = QApplication::exec();
   // Horoscopes read the session; those still open go before it does.
   DeleteOpenWindows();

@@ -8,6 +8,7 @@
 #include <QStyleOption>
 #include <QTableView>
 
+#include "ui/base/cell_painting.h"
 #include "ui/base/theme.h"
 
 namespace orvex::ui {
@@ -196,10 +197,17 @@ QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
   return wanted;
 }
 
-// Texts of fields keep some air from their frames.
+// Texts of fields keep some air from their frames; a caption begins where the texts of its column
+// do.
 QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option,
                                 const QWidget* widget) const {
-  const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+  QRect rect = QProxyStyle::subElementRect(element, option, widget);
+  const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+  if (element == SE_HeaderLabel && header != nullptr &&
+      header->textAlignment.testFlag(Qt::AlignLeft)) {
+    rect.setLeft(header->rect.left() + kCellPad);
+    rect.setRight(header->rect.right());
+  }
   const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
   return element == SE_LineEditContents && frame != nullptr && frame->lineWidth > 0
              ? rect.adjusted(space::kXs, 0, -space::kXs, 0)

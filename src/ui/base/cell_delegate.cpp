@@ -2,10 +2,13 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "ui/base/cell_text.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/table_model.h"
 #include "ui/base/theme.h"
 
 namespace orvex::ui {
@@ -18,13 +21,25 @@ QFont HouseFont(bool first) {
   return Theme::Text(type::kText, first ? QFont::Bold : QFont::Normal);
 }
 
+// A triangle that points at the name before it.
+void DrawNowArrow(QPainter& painter, const QRect& box) {
+  const QRectF room = QRectF(box).adjusted(1, 0, -1, 0);
+  const double half = room.width() / 2;
+  const QPointF tip(room.left(), room.center().y());
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(painter.pen().color());
+  painter.setPen(Qt::NoPen);
+  painter.drawPolygon(
+      QPolygonF({tip, {room.right(), tip.y() - half}, {room.right(), tip.y() + half}}));
+}
+
 QRect Centred(const QRect& cell, int left, const QSize& size) {
   return {left, cell.top() + (cell.height() - size.height()) / 2, size.width(), size.height()};
 }
 
 bool HasChips(CellKind kind) {
-  return kind == CellKind::Chip || kind == CellKind::Lord || kind == CellKind::Chips ||
-         kind == CellKind::Code || kind == CellKind::Agents;
+  return kind == CellKind::Chip || kind == CellKind::Lord || kind == CellKind::Nadi ||
+         kind == CellKind::Chips || kind == CellKind::Code || kind == CellKind::Agents;
 }
 
 // "RA KE" of "RA for SU MO, KE for VE".
@@ -84,6 +99,10 @@ std::vector<CellDelegate::Placed> CellDelegate::LayOut(const QStyleOptionViewIte
         add(' ' + others, HouseFont(false), false, true);
       }
       left += kCellPad;
+    } else if (kind == CellKind::Nadi && !piece.Houses.isEmpty()) {
+      left += kCellGap / 2;
+      add(piece.Houses, HouseFont(false), false, false);
+      left += kCellPad;
     }
   }
   if (kind == CellKind::Chips) {
@@ -93,7 +112,8 @@ std::vector<CellDelegate::Placed> CellDelegate::LayOut(const QStyleOptionViewIte
     for (const QString& mark : marks_(index)) {
       left += kCellGap;
       const QFontMetrics metrics(ChipFont());
-      const QSize size(metrics.horizontalAdvance(mark) + kCellPad, metrics.height() + 1);
+      const int wide = mark == kNowArrow ? 0 : metrics.horizontalAdvance(mark);
+      const QSize size(wide + kCellPad, metrics.height() + 1);
       placed.push_back({Centred(cell, left, size), mark, "", false, false, true});
       left += size.width();
     }
@@ -147,8 +167,12 @@ void CellDelegate::PaintPlaced(QPainter& painter, const QStyleOptionViewItem& op
     return;
   }
   if (part.Mark) {
-    const bool hot = part.Text == "R" || part.Text == "now";
+    const bool hot = part.Text == "R" || part.Text == "now" || part.Text == kNowArrow;
     painter.setPen(hot ? t.Now : t.Ink2);
+    if (part.Text == kNowArrow) {
+      DrawNowArrow(painter, part.Box);
+      return;
+    }
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(part.Box).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
     painter.setFont(ChipFont());
@@ -158,6 +182,13 @@ void CellDelegate::PaintPlaced(QPainter& painter, const QStyleOptionViewItem& op
   painter.setFont(part.Bold ? HouseFont(true) : option.font);
   painter.setPen(part.Quiet ? t.Ink2 : InkOf(option));
   painter.drawText(part.Box, Qt::AlignVCenter | Qt::AlignLeft, part.Text);
+}
+
+// A retrograde planet's name is red, beside the letter that says so.
+QColor CellDelegate::InkOfName(const QModelIndex& index) const {
+  return KindOf(index.column()) == CellKind::Chip && marks_ && marks_(index).contains("R")
+             ? Theme::Now().Now
+             : QColor();
 }
 
 void CellDelegate::PaintContents(QPainter& painter, QStyleOptionViewItem& option,
@@ -195,6 +226,10 @@ void CellDelegate::PaintContents(QPainter& painter, QStyleOptionViewItem& option
       option.text = option.text.left(1);
       PaintCellText(painter, option);
       break;
+    case CellKind::Figures:
+      option.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+      PaintCellText(painter, option);
+      break;
     case CellKind::Age:
       option.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
       option.palette.setColor(QPalette::Text, t.Ink2);
@@ -210,6 +245,9 @@ void CellDelegate::PaintContents(QPainter& painter, QStyleOptionViewItem& option
       DrawTick(painter, option.rect, option.text == "Yes");
       break;
     default:
+      if (const QColor ink = InkOfName(index); ink.isValid()) {
+        option.palette.setColor(QPalette::Text, ink);
+      }
       for (const Placed& part : LayOut(option, index)) {
         PaintPlaced(painter, option, part);
       }
@@ -221,16 +259,11 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   QStyleOptionViewItem own = option;
   initStyleOption(&own, index);
   painter->save();
-  if (KindOf(index.column()) == CellKind::Text && own.text.contains('\n')) {
-    own.palette.setColor(QPalette::HighlightedText, InkOf(own));
-    QStyledItemDelegate::paint(painter, option, index);
-  } else {
-    const QWidget* widget = option.widget;
-    QStyle& style = widget != nullptr ? *widget->style() : *QApplication::style();
-    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &own, painter, widget);
-    painter->setClipRect(own.rect);
-    PaintContents(*painter, own, index);
-  }
+  const QWidget* widget = option.widget;
+  QStyle& style = widget != nullptr ? *widget->style() : *QApplication::style();
+  style.drawPrimitive(QStyle::PE_PanelItemViewItem, &own, painter, widget);
+  painter->setClipRect(own.rect);
+  PaintContents(*painter, own, index);
   painter->setClipping(false);
   const bool ruled = index.row() == ruledRow_;
   const int rule = ruled ? line::kHead : line::kHair;
@@ -265,6 +298,17 @@ QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInd
     size.rwidth() += kCellPad;
   }
   return size;
+}
+
+bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                             const QStyleOptionViewItem& option, const QModelIndex& index) {
+  const bool told = !index.data(Qt::ToolTipRole).toString().isEmpty();
+  if (event->type() == QEvent::ToolTip && !told && KindOf(index.column()) == CellKind::Degree &&
+      ShownDegree(index.data().toString())) {
+    QToolTip::showText(event->globalPos(), PlainTip(index.data().toString()), view);
+    return true;
+  }
+  return QStyledItemDelegate::helpEvent(event, view, option, index);
 }
 
 }  // namespace orvex::ui

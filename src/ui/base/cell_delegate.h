@@ -15,6 +15,9 @@ namespace orvex::ui {
 
 struct CellPiece;
 
+// The mark of what runs now, where the word has no room.
+inline constexpr const char* kNowArrow = "◂";
+
 class CellDelegate final : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -27,7 +30,7 @@ class CellDelegate final : public QStyledItemDelegate {
   void SetKinds(std::vector<CellKind> kinds) { kinds_ = std::move(kinds); }
   CellKind KindOf(int column) const;
 
-  // The letters in a frame behind the name of a cell of kind Chip.
+  // The letters in a frame behind the name of a cell of kind Chip; kNowArrow is drawn as an arrow.
   void SetMarks(Marks marks) { marks_ = std::move(marks); }
 
   // The houses of a planet by its code, for lords that stand in their cells by name alone. Where it
@@ -59,6 +62,10 @@ class CellDelegate final : public QStyledItemDelegate {
              const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
+  // The tool tip of a degree in its sign says how it is stored.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
+
  private:
   struct Placed {
     QRect Box;
@@ -73,6 +80,7 @@ class CellDelegate final : public QStyledItemDelegate {
   bool IsUnderlined(int column) const;
   std::vector<Placed> LayOut(const QStyleOptionViewItem& option, const QModelIndex& index) const;
   void PaintPlaced(QPainter& painter, const QStyleOptionViewItem& option, const Placed& part) const;
+  QColor InkOfName(const QModelIndex& index) const;
   void PaintContents(QPainter& painter, QStyleOptionViewItem& option,
                      const QModelIndex& index) const;
   static void FitChips(std::vector<Placed>& placed, const QStyleOptionViewItem& option);

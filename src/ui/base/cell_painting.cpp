@@ -50,14 +50,23 @@ void PaintCellText(QPainter& painter, const QStyleOptionViewItem& option) {
   painter.setFont(option.font);
   painter.setPen(InkOf(option));
   const QRect room = option.rect.adjusted(kCellPad, 0, -kCellPad / 2, 0);
+  const QFontMetrics metrics(option.font);
+  const auto lines = static_cast<int>(option.text.count(QChar::LineSeparator)) + 1;
+  if (lines > 1 && lines * metrics.lineSpacing() <= room.height()) {
+    painter.drawText(room, static_cast<int>(option.displayAlignment), option.text);
+    return;
+  }
+  const QString line = QString(option.text).replace(QChar::LineSeparator, ' ');
   painter.drawText(room, static_cast<int>(option.displayAlignment) | Qt::TextSingleLine,
-                   QFontMetrics(option.font).elidedText(option.text, Qt::ElideRight, room.width()));
+                   metrics.elidedText(line, Qt::ElideRight, room.width()));
 }
 
 void PaintDegreeCell(QPainter& painter, const QStyleOptionViewItem& option) {
-  const std::optional<DegreeText> degree = DegreeInSign(option.text);
+  const std::optional<DegreeText> degree = ShownDegree(option.text);
   if (!degree) {
-    PaintCellText(painter, option);
+    QStyleOptionViewItem stored = option;
+    stored.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+    PaintCellText(painter, stored);
     return;
   }
   const int sign = kSignWidth * Theme::TextSize() / 100;

@@ -2,9 +2,8 @@
 
 #include <array>
 
-#include "core/exact_numbers.h"
+#include "chart/sign_degree.h"
 #include "ui/base/qt_text.h"
-#include "ui/painting/sign_letters.h"
 
 namespace orvex::ui {
 
@@ -25,12 +24,10 @@ constexpr std::array<PlanetWord, 9> kPlanets = {{{"Sun", "SU"},
                                                  {"Rahu", "RA"},
                                                  {"Ketu", "KE"}}};
 
-constexpr int kHundred = 100;
-constexpr int kMinutes = 60;
-constexpr int kSignDegrees = 30;
-constexpr int kCircle = 360;
-
-QString TwoDigits(int value) { return Shown(core::PaddedWhole(value, 2)); }
+bool& DegreesInSign() {
+  static bool inSign = true;
+  return inSign;
+}
 
 }  // namespace
 
@@ -74,23 +71,17 @@ std::vector<CellPiece> PiecesOf(const QString& text) {
 }
 
 std::optional<DegreeText> DegreeInSign(const QString& text) {
-  const std::optional<double> value = core::ParseNumber(Typed(text));
-  if (!value || *value < 0 || *value >= kCircle) {
-    return std::nullopt;
-  }
-  const int hundredths =
-      static_cast<int>(core::RoundToWhole(*value * kHundred)) % (kCircle * kHundred);
-  const int degrees = hundredths / kHundred;
-  const QString sign = kSignLetters.at(static_cast<std::size_t>(degrees / kSignDegrees));
-  const int within = degrees % kSignDegrees;
-  const int rest = hundredths % kHundred;
-  const int minutes = (rest * kMinutes + kHundred / 2) / kHundred;
-  // What a whole minute is stored as.
-  const bool whole = (minutes * kHundred + kMinutes / 2) / kMinutes == rest;
-  if (whole) {
-    return DegreeText{QString("%1°%2'").arg(within).arg(TwoDigits(minutes)), sign};
-  }
-  return DegreeText{QString("%1.%2").arg(within).arg(TwoDigits(rest)), sign};
+  const auto degree = chart::SignDegreeOf(Typed(text));
+  return degree ? std::optional(DegreeText{Shown(degree->Figures), Shown(degree->Sign)})
+                : std::nullopt;
+}
+
+bool ShowsDegreesInSign() { return DegreesInSign(); }
+
+void ShowDegreesInSign(bool inSign) { DegreesInSign() = inSign; }
+
+std::optional<DegreeText> ShownDegree(const QString& text) {
+  return ShowsDegreesInSign() ? DegreeInSign(text) : std::nullopt;
 }
 
 }  // namespace orvex::ui

@@ -30,4 +30,11 @@ struct DegreeText {
 // Of a degree from 0 to 360 with up to two decimals, as tables carry it; nothing for other texts.
 std::optional<DegreeText> DegreeInSign(const QString& text);
 
+// Whether all windows show degrees in their sign, as at first, or as they are stored.
+bool ShowsDegreesInSign();
+void ShowDegreesInSign(bool inSign);
+
+// As DegreeInSign; nothing also where degrees are shown as they are stored.
+std::optional<DegreeText> ShownDegree(const QString& text);
+
 }  // namespace orvex::ui

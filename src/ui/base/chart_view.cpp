@@ -26,7 +26,7 @@ ChartColors ScreenColors() {
 
 // Pixels of a planet's code that are read without effort.
 double Readable() {
-  constexpr double kUsual = 12;
+  constexpr double kUsual = 13;
   return kUsual * Theme::TextSize() / 100;
 }
 
@@ -133,8 +133,16 @@ void ChartView::CopyPicture() const {
 void ChartView::contextMenuEvent(QContextMenuEvent* event) {
   QMenu menu(this);
   menu.setObjectName("chartMenu");
-  menu.addAction(tr("&Copy chart"), this, [this] { CopyPicture(); });
+  if (fillMenu_) {
+    fillMenu_(menu);
+  } else {
+    AddCopy(menu);
+  }
   menu.exec(event->globalPos());
+}
+
+void ChartView::AddCopy(QMenu& menu) {
+  menu.addAction(tr("&Copy chart"), this, [this] { CopyPicture(); });
 }
 
 void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "report/chart_picture.h"
 #include "ui/base/theme.h"
+
+class QMenu;
 
 namespace orvex::ui {
 
@@ -25,6 +28,10 @@ class ChartView final : public QWidget {
 
   // Rings a planet by its code; "" takes the ring off.
   void SetChosen(const QString& code);
+
+  // What fills the menu of a right click, in the place of the one entry "Copy chart".
+  void SetMenu(std::function<void(QMenu&)> fill) { fillMenu_ = std::move(fill); }
+  void AddCopy(QMenu& menu);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -50,6 +57,7 @@ class ChartView final : public QWidget {
   int smallestSide_;
   report::ChartPicture picture_;
   QString chosen_;
+  std::function<void(QMenu&)> fillMenu_;
   bool secondClick_ = false;  // the release that follows ends a double click
 };
 

@@ -13,6 +13,8 @@ enum class CellKind {
   Letter,   // a word by its first letter
   Chip,     // a planet's chip and its name, with the marks of its row
   Lord,     // a chip and the planet's houses, the one that it occupies bold
+  Nadi,     // a chip and the houses that its planet signifies, none before the others
+  Figures,  // to the right
   Degree,   // a degree of the circle as degree and minute in its sign
   Chips,    // chips alone
   Marks,    // letters in frames

@@ -61,6 +61,7 @@ const std::vector<KeyEntry>& AllKeys() {
       {kHoroscope, "rectify",          "Ctrl+B",       "rectify the birth time"},
       {kHoroscope, "allColumns",       "F4",           "all columns of the tables, and back"},
       {kHoroscope, "birthPanel",       "F9",           "all captions of the birth"},
+      {kHoroscope, "closeSheet",       "Esc",          "put the sheet of a planet away that stands at the side"},
       {kHoroscope, "editClient",       "F2",           "edit the client; the window opens anew"},
       {kHoroscope, "previousClient",   "Alt+Up",       "the client before in the group"},
       {kHoroscope, "nextClient",       "Alt+Down",     "the next client of the group"},

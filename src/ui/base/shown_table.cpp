@@ -17,7 +17,7 @@ QString CellTextOf(const TableView& view, const QModelIndex& index) {
   const QString text = index.data().toString().trimmed();
   const auto* cells = qobject_cast<const CellDelegate*>(view.itemDelegate());
   if (cells != nullptr && cells->KindOf(index.column()) == CellKind::Degree) {
-    if (const std::optional<DegreeText> degree = DegreeInSign(text)) {
+    if (const std::optional<DegreeText> degree = ShownDegree(text)) {
       return degree->Figures + ' ' + degree->Sign;
     }
   }

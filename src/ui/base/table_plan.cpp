@@ -11,6 +11,16 @@
 
 namespace orvex::ui {
 
+namespace {
+
+// A figure stands where it is read; words and chips take the room.
+bool Grows(CellKind kind) {
+  return kind != CellKind::Bold && kind != CellKind::Letter && kind != CellKind::Degree &&
+         kind != CellKind::Figures && kind != CellKind::Age && kind != CellKind::Code;
+}
+
+}  // namespace
+
 TablePlan::TablePlan(TableView& view, std::vector<ColumnPlan> columns, RowBounds rows)
     : QObject(&view),
       view_(view),
@@ -23,12 +33,19 @@ TablePlan::TablePlan(TableView& view, std::vector<ColumnPlan> columns, RowBounds
   view.viewport()->installEventFilter(this);
 }
 
-int TablePlan::ColumnOf(const std::string& caption) const {
+// Of columns with one caption the plan's first is the table's first.
+std::vector<int> TablePlan::Places() const {
   const std::vector<core::Column>& columns = view_.Table().Columns;
-  const auto found = std::find_if(columns.begin(), columns.end(), [&](const core::Column& column) {
-    return column.Caption == caption;
-  });
-  return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
+  std::vector<int> places;
+  for (const ColumnPlan& planned : columns_) {
+    int place = -1;
+    for (std::size_t i = 0; i < columns.size() && place < 0; ++i) {
+      const bool free = std::count(places.begin(), places.end(), static_cast<int>(i)) == 0;
+      place = free && columns[i].Caption == planned.Caption ? static_cast<int>(i) : -1;
+    }
+    places.push_back(place);
+  }
+  return places;
 }
 
 // Widths are told for the usual text; larger text needs more. A caption and a planet with its
@@ -44,7 +61,8 @@ int TablePlan::Least(const ColumnPlan& column, int place) const {
                           : header.fontMetrics().horizontalAdvance(Shown(column.Caption)) +
                                 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin);
   const bool whole = column.Kind == CellKind::Chip || column.Kind == CellKind::Lord ||
-                     column.Kind == CellKind::Houses || column.Kind == CellKind::Code;
+                     column.Kind == CellKind::Nadi || column.Kind == CellKind::Houses ||
+                     column.Kind == CellKind::Code;
   return std::max({told, caption, whole ? WidestCell(place) : 0});
 }
 
@@ -61,9 +79,10 @@ int TablePlan::WidestCell(int column) const {
 // What every column of the plan needs in the table that is shown.
 void TablePlan::Measure() {
   needs_.clear();
-  for (const ColumnPlan& column : columns_) {
-    if (const int place = ColumnOf(column.Caption); place >= 0) {
-      needs_.push_back({place, Least(column, place), column.Rank});
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    if (places_[i] >= 0) {
+      needs_.push_back(
+          {places_[i], Least(columns_[i], places_[i]), columns_[i].Rank, Grows(columns_[i].Kind)});
     }
   }
 }
@@ -71,10 +90,10 @@ void TablePlan::Measure() {
 void TablePlan::TakeKinds() {
   std::vector<CellKind> kinds(view_.Table().Columns.size(), CellKind::Text);
   std::vector<bool> underlined(kinds.size(), false);
-  for (const ColumnPlan& column : columns_) {
-    if (const int place = ColumnOf(column.Caption); place >= 0) {
-      kinds.at(static_cast<std::size_t>(place)) = column.Kind;
-      underlined.at(static_cast<std::size_t>(place)) = column.SubLord;
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    if (places_[i] >= 0) {
+      kinds.at(static_cast<std::size_t>(places_[i])) = columns_[i].Kind;
+      underlined.at(static_cast<std::size_t>(places_[i])) = columns_[i].SubLord;
     }
   }
   cells_->SetKinds(std::move(kinds));
@@ -91,14 +110,15 @@ void TablePlan::PlaceColumns() {
     return;
   }
   int to = 0;
-  for (const ColumnPlan& column : columns_) {
-    if (const int place = ColumnOf(column.Caption); place >= 0) {
+  for (const int place : places_) {
+    if (place >= 0) {
       header.moveSection(header.visualIndex(place), to++);
     }
   }
 }
 
 void TablePlan::Fit() {
+  places_ = Places();
   TakeKinds();
   view_.setHorizontalScrollBarPolicy(all_ ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
   PlaceColumns();
@@ -132,9 +152,12 @@ void TablePlan::SetChosen(const QString& code) {
 // What the columns that may grow share, in parts of their least widths.
 void TablePlan::Spread(const std::vector<ColumnRoom>& rooms, const std::vector<bool>& shown,
                        int over) {
-  const auto grows = [&](std::size_t i) {
-    return shown[i] && !view_.WidthByHand(needs_[i].Column);
-  };
+  const auto free = [&](std::size_t i) { return shown[i] && !view_.WidthByHand(needs_[i].Column); };
+  bool words = false;
+  for (std::size_t i = 0; i < needs_.size(); ++i) {
+    words = words || (free(i) && needs_[i].Grows);
+  }
+  const auto grows = [&](std::size_t i) { return free(i) && (needs_[i].Grows || !words); };
   int spread = 0;
   for (std::size_t i = 0; i < rooms.size(); ++i) {
     spread += grows(i) ? rooms[i].Least : 0;
@@ -180,7 +203,9 @@ void TablePlan::ShareWidth() {
 
 void TablePlan::ShareHeight() {
   if (rows_.ShareRoom) {
-    const int least = std::max(rows_.Least, view_.fontMetrics().height() + space::kXs);
+    // Rows of figures alone stand closer than rows of chips.
+    const int around = rows_.Least < height::kLeastRow ? 1 : space::kXs;
+    const int least = std::max(rows_.Least, view_.fontMetrics().height() + around);
     view_.verticalHeader()->setDefaultSectionSize(FitRows(
         view_.model()->rowCount(), view_.viewport()->height(), least, std::max(least, rows_.Most)));
   }
@@ -196,8 +221,9 @@ void TablePlan::Click(const QPoint& at) {
   option.rect = view_.visualRect(index);
   option.font = view_.font();
   QString code = cells_->CodeAt(option, index, at);
-  const ColumnPlan& first = columns_.front();
-  const int name = first.Kind == CellKind::Chip ? ColumnOf(first.Caption) : -1;
+  const bool named = !places_.empty() && (columns_.front().Kind == CellKind::Chip ||
+                                          columns_.front().Kind == CellKind::Code);
+  const int name = named ? places_.front() : -1;
   if (code.isEmpty() && name >= 0) {
     code = CodeOfWord(index.siblingAtColumn(name).data().toString());
   }

@@ -52,7 +52,7 @@ class TablePlan final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  int ColumnOf(const std::string& caption) const;
+  std::vector<int> Places() const;
   int Least(const ColumnPlan& column, int place) const;
   int WidestCell(int column) const;
   void Measure();
@@ -68,12 +68,14 @@ class TablePlan final : public QObject {
     int Column = 0;
     int Least = 0;
     int Rank = 0;
+    bool Grows = true;  // takes its part of what is left over
   };
 
   TableView& view_;
   std::vector<ColumnPlan> columns_;
   std::vector<Need> needs_;
   RowBounds rows_;
+  std::vector<int> places_;  // of the plan's columns in the table; -1 where it has none
   CellDelegate* cells_;
   bool all_ = false;
   bool secondClick_ = false;  // the release that follows ends a double click

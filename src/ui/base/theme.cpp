@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QFontMetricsF>
 #include <algorithm>
+#include <optional>
 
 #include "core/cell_colors.h"
+#include "core/settings.h"
 #include "ui/base/calm_style.h"
 #include "ui/base/desktop_scheme.h"
 
@@ -12,8 +14,6 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr int kLeastTextSize = 90;
-constexpr int kMostTextSize = 140;
 constexpr double kWhole = 100;  // per cent
 
 QPalette PaletteOf(const Tokens& t) {
@@ -77,6 +77,17 @@ ThemeMode& CurrentMode() {
   return mode;
 }
 
+// What the desktop said last, and what the user wants.
+ThemeMode& DesktopMode() {
+  static ThemeMode mode = ThemeMode::Light;
+  return mode;
+}
+
+ThemeChoice& CurrentChoice() {
+  static ThemeChoice choice = ThemeChoice::Desktop;
+  return choice;
+}
+
 bool IsDark() { return CurrentMode() == ThemeMode::Dark; }
 
 QColor ColorOf(std::string_view hex) {
@@ -110,6 +121,14 @@ QColor GroundToken(std::string_view hex) {
   return {};
 }
 
+// The mode that the environment asks for, whatever the desktop and the user say.
+std::optional<ThemeMode> ForcedMode() {
+  const QString wanted = qEnvironmentVariable("ORVEX_THEME");
+  return wanted == "dark"    ? std::optional(ThemeMode::Dark)
+         : wanted == "light" ? std::optional(ThemeMode::Light)
+                             : std::nullopt;
+}
+
 }  // namespace
 
 void Theme::Apply(QApplication& application) {
@@ -117,13 +136,22 @@ void Theme::Apply(QApplication& application) {
   QApplication::setStyle(new CalmStyle);
   QApplication::setFont(TextFont(QApplication::font()));
   ApplyFonts();
-  const QString wanted = qEnvironmentVariable("ORVEX_THEME");
-  if (wanted == "dark" || wanted == "light") {
-    SetMode(wanted == "dark" ? ThemeMode::Dark : ThemeMode::Light);
+  if (const std::optional<ThemeMode> forced = ForcedMode()) {
+    SetMode(*forced);
     return;
   }
-  FollowDesktopScheme(application, ofDesktop,
-                      [](bool dark) { SetMode(dark ? ThemeMode::Dark : ThemeMode::Light); });
+  FollowDesktopScheme(application, ofDesktop, [](bool dark) {
+    DesktopMode() = dark ? ThemeMode::Dark : ThemeMode::Light;
+    Choose(CurrentChoice());
+  });
+}
+
+void Theme::Choose(ThemeChoice choice) {
+  CurrentChoice() = choice;
+  const ThemeMode wanted = choice == ThemeChoice::Desktop ? DesktopMode()
+                           : choice == ThemeChoice::Dark  ? ThemeMode::Dark
+                                                          : ThemeMode::Light;
+  SetMode(ForcedMode().value_or(wanted));
 }
 
 void Theme::SetMode(ThemeMode mode) {
@@ -163,7 +191,7 @@ QColor Theme::Label() { return Now().Ink2; }
 QColor Theme::Muted() { return Now().Ink2; }
 
 void Theme::SetTextSize(int percent) {
-  CurrentTextSize() = std::clamp(percent, kLeastTextSize, kMostTextSize);
+  CurrentTextSize() = std::clamp(percent, core::kLeastTextSize, core::kMostTextSize);
   ApplyFonts();
 }
 

@@ -17,11 +17,16 @@ namespace orvex::ui {
 inline constexpr int kGrid = space::kS;    // pixels between widgets
 inline constexpr int kMargin = space::kL;  // pixels around the contents of a dialog
 
+enum class ThemeChoice { Desktop, Light, Dark };
+
 class Theme {
  public:
   // Gives the application its style, font and palette. The mode is $ORVEX_THEME ("light", "dark"),
   // else what the desktop says; a change on the desktop is followed while the program runs.
   static void Apply(QApplication& application);
+
+  // What the user wants; $ORVEX_THEME goes before it.
+  static void Choose(ThemeChoice choice);
 
   // Another mode for all open windows.
   static void SetMode(ThemeMode mode);

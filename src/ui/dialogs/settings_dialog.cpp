@@ -8,6 +8,7 @@
 
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
+#include "ui/dialogs/look_page.h"
 #include "ui/dialogs/settings_pages.h"
 
 namespace orvex::ui {
@@ -18,12 +19,14 @@ SettingsDialog::SettingsDialog(Workplace& place, QWidget* parent)
       pages_(new QStackedWidget),
       general_(new GeneralPage(place)),
       orbits_(new OrbitsPage(place)),
-      profile_(new ProfilePage) {
+      profile_(new ProfilePage),
+      look_(new LookPage) {
   Build();
   const core::SettingsForm form = core::OpenSettings(place.Session);
   general_->Fill(form);
   orbits_->Fill(form);
   profile_->Fill(form);
+  look_->Fill(form);
   connect(orbits_, &OrbitsPage::FieldWanted, this, &SettingsDialog::FocusField);
   connect(options_, &QListWidget::currentRowChanged, this, &SettingsDialog::ShowPage);
   options_->setCurrentRow(0);
@@ -35,6 +38,7 @@ void SettingsDialog::Build() {
   AddPage(core::kGeneralPage, general_);
   AddPage(core::kOrbitsPage, orbits_);
   AddPage(core::kProfilePage, profile_);
+  AddPage(core::kLookPage, look_);
   auto* heading = new QLabel(tr("O&ption"));
   heading->setBuddy(options_);
   auto* grid = new QGridLayout;
@@ -79,6 +83,7 @@ void SettingsDialog::Save() {
   general_->CopyInto(form);
   orbits_->CopyInto(form);
   profile_->CopyInto(form);
+  look_->CopyInto(form);
   const core::SaveResult saved = core::SaveSettings(Session(), form);
   if (saved.Refused) {
     TurnToField(Shown(saved.Refused->Field));  // in sight before the message tells of it

@@ -10,6 +10,7 @@ class QStackedWidget;
 namespace orvex::ui {
 
 class GeneralPage;
+class LookPage;
 class OrbitsPage;
 class ProfilePage;
 
@@ -32,6 +33,7 @@ class SettingsDialog final : public FormDialog {
   GeneralPage* general_;
   OrbitsPage* orbits_;
   ProfilePage* profile_;
+  LookPage* look_;
 };
 
 }  // namespace orvex::ui

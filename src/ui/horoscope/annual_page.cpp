@@ -7,6 +7,7 @@
 #include <QSplitter>
 
 #include "ui/base/theme.h"
+#include "ui/horoscope/chart_menu.h"
 #include "ui/horoscope/tables_page.h"
 
 namespace orvex::ui {
@@ -22,6 +23,8 @@ AnnualPage::AnnualPage(HoroscopeDocument& document)
       year_(new QSpinBox),
       chart_(new ChartView("annualChart")),
       houses_(new CatalogueTable(document, "LalKitabYear")) {
+  houses_->KeepOrder();
+  houses_->PlanAsUsual();
   year_->setObjectName("yearOfLife");
   year_->setRange(1, kLastYear);
   year_->setKeyboardTracking(false);
@@ -32,9 +35,11 @@ AnnualPage::AnnualPage(HoroscopeDocument& document)
   halves->setStretchFactor(0, 3);
   halves->setStretchFactor(1, 2);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
   layout->addLayout(LayOutHead());
   layout->addWidget(halves, 1);
   document.Place().Layout.Remember(*halves);
+  OfferChartMenu(document, *chart_);
   connect(year_, &QSpinBox::valueChanged, this, [this](int year) { Document().ShowYear(year); });
 }
 

@@ -2,33 +2,44 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSplitter>
 
+#include "ui/base/elided_label.h"
 #include "ui/base/qt_text.h"
-#include "ui/base/theme.h"
+#include "ui/base/scaled.h"
+#include "ui/horoscope/all_columns.h"
 #include "ui/horoscope/tables_page.h"
 
 namespace orvex::ui {
 
 namespace {
 
-constexpr int kListWidth = 42 * kGrid;  // all columns of the list without a bar
+constexpr int kListWidth = 288;  // all columns of the list
 
 }  // namespace
 
 AspectsPage::AspectsPage(HoroscopeDocument& document)
     : HoroscopePage(document),
       filter_(new QComboBox),
-      summary_(MakeCaptionLabel("houseAspects")),
+      summary_(new ElidedLabel("houseAspects")),
       planets_(new CatalogueTable(document, "PlanetAspectList")),
       cusps_(new CatalogueTable(document, "AspectGrid")) {
   filter_->setObjectName("aspectFilter");
   filter_->addItems({tr("All aspects"), tr("Good aspects"), tr("Hard aspects")});
   cusps_->KeepOrder();
+  planets_->PlanAsUsual();
+  cusps_->PlanAsUsual();
+  // Twelve signs side by side.
+  cusps_->View().setFont(Theme::Text(type::kHead));
+  cusps_->View().horizontalHeader()->setFont(Theme::Text(type::kHead, QFont::DemiBold));
+  cusps_->TitleLine().addWidget(MakeAllColumnsButton({planets_, cusps_}));
   planets_->View().SetEmptyText(tr("No aspect of this kind lies within its orb."));
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
   layout->addLayout(LayOutHead());
   layout->addWidget(LayOutTables(), 1);
   Connect();
@@ -50,7 +61,8 @@ QSplitter* AspectsPage::LayOutTables() {
   tables->setObjectName("aspectTables");
   tables->addWidget(planets_);
   tables->addWidget(cusps_);
-  planets_->setMinimumWidth(kListWidth);
+  planets_->setMinimumWidth(Scaled(kListWidth));
+  tables->setSizes({Scaled(kListWidth), width() - Scaled(kListWidth)});
   tables->setStretchFactor(0, 0);
   tables->setStretchFactor(1, 1);
   Document().Place().Layout.Remember(*tables);

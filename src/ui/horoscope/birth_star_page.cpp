@@ -3,10 +3,12 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <array>
 
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
+#include "ui/horoscope/all_columns.h"
 #include "ui/horoscope/field_label.h"
 #include "ui/horoscope/tables_page.h"
 
@@ -37,8 +39,11 @@ constexpr std::array<Fact, 6> kFacts = {{
 
 BirthStarPage::BirthStarPage(HoroscopeDocument& document)
     : HoroscopePage(document), stars_(new CatalogueTable(document, "StarTable")) {
+  stars_->PlanAsUsual();
+  stars_->TitleLine().addWidget(MakeAllColumnsButton({stars_}));
   stars_->View().setSelectionMode(QAbstractItemView::SingleSelection);
   auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
   layout->addLayout(LayOutFacts());
   layout->addSpacing(kMargin);
   layout->addWidget(stars_, 1);

@@ -96,7 +96,9 @@ QWidget* BirthSteps::LayOutEntries(int side) {
   note->setFont(Theme::Text(type::kSmall));
   note->setWordWrap(true);
   QWidget* time = LayOutTime();
-  time->setVisible(!document_.Model().Horary);
+  if (document_.Model().Horary) {
+    time->hide();
+  }
   QVBoxLayout* column = Column(*entries);
   column->addWidget(time);
   column->addWidget(LayOutPlace());
@@ -127,7 +129,7 @@ QWidget* BirthSteps::LayOutTime() {
   BindKeys(*later_, KeysOf("Horoscope", "later"));
   auto* step = new FieldLabel(tr("&Step"));
   step->setBuddy(amount_);
-  auto* unit = new FieldLabel(tr("&Unit"));
+  auto* unit = new FieldLabel(tr("U&nit"));
   unit->setBuddy(unit_);
   auto* time = new QWidget;
   QVBoxLayout* column = Column(*time);

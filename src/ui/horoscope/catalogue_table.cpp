@@ -8,8 +8,10 @@
 #include <stdexcept>
 
 #include "chart/planet_marks.h"
+#include "ui/base/elided_label.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
+#include "ui/horoscope/table_plans.h"
 
 namespace orvex::ui {
 
@@ -43,7 +45,9 @@ CatalogueTable::CatalogueTable(HoroscopeDocument& document, const char* name)
   view_->setObjectName(name);
   view_->setAccessibleName(entry_.Title);
   OfferExport(document_.Place(), *view_);
-  view_->RememberWidths(document.Place().Layout);
+  if (KeepsWidths(entry_.Name)) {
+    view_->RememberWidths(document.Place().Layout);
+  }
   connect(view_, &TableView::TagActivated, this, [this] { Activate(view_->currentIndex()); });
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -62,6 +66,32 @@ TablePlan& CatalogueTable::SetPlan(std::vector<ColumnPlan> columns, RowBounds ro
   connect(&document_, &HoroscopeDocument::PlanetChosen, plan_, &TablePlan::SetChosen);
   plan_->SetChosen(document_.ChosenPlanet());
   return *plan_;
+}
+
+TablePlan& CatalogueTable::PlanAsUsual() {
+  usualPlan_ = true;
+  TablePlan& plan = SetPlan({}, RowsFirstRead(entry_.Name));
+  plan.Cells().SetMarks(MarksOfPlanet);
+  return plan;
+}
+
+int CatalogueTable::WidthFirstRead() const {
+  return ui::WidthFirstRead(entry_.Name, entry_.Of(document_.Model()));
+}
+
+void CatalogueTable::SetNote(const QString& note) {
+  if (note_ == nullptr) {
+    note_ = new ElidedLabel("note");
+    note_->setFont(Theme::Text(type::kSmall));
+    note_->setMinimumWidth(1);
+    titleLine_->insertSpacing(1, space::kS);
+    titleLine_->insertWidget(2, note_, 1);
+    titleLine_->setStretch(3, 0);
+  }
+  QPalette quiet = note_->palette();
+  quiet.setColor(QPalette::WindowText, Theme::Now().Ink2);
+  note_->setPalette(quiet);
+  note_->setText(note);
 }
 
 int CatalogueTable::HeightOfHead() const {
@@ -86,14 +116,14 @@ void CatalogueTable::ShowTable(const core::Table& table) {
   QHeaderView& header = *view_->horizontalHeader();
   header.setStretchLastSection(false);
   view_->SetTable(table);
+  if (usualPlan_) {
+    plan_->SetColumns(ColumnsFirstRead(entry_.Name, table));
+  }
   if (plan_ != nullptr) {
     plan_->Fit();
     return;
   }
   header.setStretchLastSection(!table.Columns.empty() && !table.Columns.back().Centred);
-  if (growsRows_) {
-    view_->resizeRowsToContents();
-  }
 }
 
 }  // namespace orvex::ui

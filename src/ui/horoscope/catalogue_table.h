@@ -14,6 +14,8 @@ class QLabel;
 
 namespace orvex::ui {
 
+class ElidedLabel;
+
 class CatalogueTable final : public QWidget {
   Q_OBJECT
 
@@ -33,15 +35,21 @@ class CatalogueTable final : public QWidget {
   TablePlan& SetPlan(std::vector<ColumnPlan> columns, RowBounds rows = {});
   TablePlan* Plan() { return plan_; }
 
+  // Shows first what the plans of the catalogue's tables say, with the marks of planets.
+  TablePlan& PlanAsUsual();
+
+  // What the columns of the usual plan like to have, in pixels at the usual text size.
+  int WidthFirstRead() const;
+
+  // A few quiet words behind the title; "" for none.
+  void SetNote(const QString& note);
+
   // The line with the title, for what stands at its right.
   QHBoxLayout& TitleLine() { return *titleLine_; }
   QLabel& Title() { return *title_; }
 
   // The height in pixels of what stands above the rows.
   int HeightOfHead() const;
-
-  // Rows as high as their texts, for cells of several lines.
-  void GrowRows() { growsRows_ = true; }
 
   // The order of the rows has a meaning: a click on a header changes nothing.
   void KeepOrder() { view_->setSortingEnabled(false); }
@@ -59,8 +67,9 @@ class CatalogueTable final : public QWidget {
   QLabel* title_;
   QHBoxLayout* titleLine_;
   TableView* view_;
+  ElidedLabel* note_ = nullptr;
   TablePlan* plan_ = nullptr;
-  bool growsRows_ = false;
+  bool usualPlan_ = false;
 };
 
 // The row of the planet that a text begins with, by name or code: "Venus (8 1)", "VE (8 1)", "VE*";

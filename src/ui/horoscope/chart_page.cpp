@@ -7,26 +7,27 @@
 #include <algorithm>
 
 #include "chart/horoscope_model.h"
-#include "ui/base/icon.h"
-#include "ui/base/keys.h"
-#include "ui/base/named.h"
+#include "ui/base/cell_text.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/scaled.h"
 #include "ui/base/segments.h"
 #include "ui/base/theme.h"
+#include "ui/horoscope/all_columns.h"
 #include "ui/horoscope/birth_panel.h"
+#include "ui/horoscope/chart_menu.h"
+#include "ui/horoscope/ruling_line.h"
 
 namespace orvex::ui {
 
 namespace {
 
 // Pixels at the usual text size.
-constexpr int kLeastSideWidth = 192;
+constexpr int kLeastSideWidth = 200;
 constexpr int kMostSideWidth = 250;
 constexpr double kSidePart = 0.168;  // of the width
 constexpr int kNarrowWidth = 900;    // below, one chart and one table
 constexpr int kNarrowHeight = 540;
-constexpr int kRoomForSide = 1000;
+constexpr int kRoomForSide = 1100;  // of the window
 constexpr int kLeastSide = 160;
 constexpr double kChartPart = 0.232;  // of the width
 constexpr double kOneChartPart = 0.30;
@@ -38,50 +39,6 @@ QLabel* SmallTitle(const QString& text) {
   return title;
 }
 
-// The column of a table without its captions' rank: what a KP reading looks at stays longest.
-// clang-format off
-std::vector<ColumnPlan> PlanetColumns() {
-  return {{"Planet",       CellKind::Chip,   112, 0},
-          {"In",           CellKind::Bold,    28, 0},
-          {"Owner",        CellKind::Text,    46, 4},
-          {"Degree",       CellKind::Degree,  78, 0},
-          {"Sign Lord",    CellKind::Lord,    70, 2},
-          {"Star Lord",    CellKind::Lord,    70, 0},
-          {"Sub Lord",     CellKind::Lord,    70, 0},
-          {"Sub Sub Lord", CellKind::Lord,    78, 1},
-          {"S/T/U",        CellKind::Letter,  40, 3},
-          {"Nakshatra",    CellKind::Text,   104, 5},
-          {"Pada",         CellKind::Text,    40, 6},
-          {"Type",         CellKind::Text,    90, 7},
-          {"Gunas",        CellKind::Text,    90, 8}};
-}
-
-std::vector<ColumnPlan> CuspColumns() {
-  return {{"House",         CellKind::Bold,    46, 0},
-          {"Degree",        CellKind::Degree,  82, 0},
-          {"Sign Lord",     CellKind::Lord,    62, 2},
-          {"Star Lord",     CellKind::Lord,    62, 0},
-          {"Sub Lord",      CellKind::Lord,    86, 0, true},
-          {"Sub Sub Lord",  CellKind::Lord,    84, 1},
-          {"Nakshatra",     CellKind::Text,   104, 4},
-          {"Pada",          CellKind::Text,    40, 5},
-          {"Planet(s) Sig", CellKind::Chips,  164, 0}};
-}
-// clang-format on
-
-// The marks behind a planet's name, from the last columns of its row.
-QStringList MarksOf(const QModelIndex& index) {
-  QStringList marks;
-  for (const chart::PlanetColumn column :
-       {chart::PlanetColumn::R, chart::PlanetColumn::C, chart::PlanetColumn::DbEx}) {
-    const QString mark = index.siblingAtColumn(static_cast<int>(column)).data().toString();
-    if (!mark.isEmpty()) {
-      marks << mark;
-    }
-  }
-  return marks;
-}
-
 }  // namespace
 
 ChartPage::ChartPage(HoroscopeDocument& document)
@@ -91,21 +48,21 @@ ChartPage::ChartPage(HoroscopeDocument& document)
       planets_(new CatalogueTable(document, "PlanetTable")),
       cusps_(new CatalogueTable(document, "CuspTable")),
       ruling_(new CatalogueTable(document, "RulingPlanets")),
+      rulingLine_(new RulingLine(document)),
       birth_(new BirthPanel(document)),
       style_(new Segments(
           {{"styleNorth", tr("North")}, {"styleEast", tr("East")}, {"styleSouth", tr("South")}})),
       whichChart_(new Segments({{"showRashi", tr("Rashi")}, {"showChalit", tr("Chalit")}})),
       whichTable_(new Segments({{"showPlanets", tr("Planets")}, {"showCusps", tr("Cusps")}})),
       whose_(new Segments({{"rulingOfBirth", tr("At birth")}, {"rulingOfNow", tr("Now")}})),
-      allColumns_(MakeButton("allColumns", tr("All columns"))),
+      allColumns_(MakeAllColumnsButton({planets_, cusps_})),
       rashiTitle_(SmallTitle(tr("Rashi"))),
       chalitTitle_(SmallTitle(tr("Chalit"))) {
   PlanTables();
   auto* layout = new QHBoxLayout(this);
-  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
-  layout->setSpacing(space::kM + 2);
-  layout->addWidget(charts_ = LayOutCharts());
-  layout->addWidget(LayOutTables(), 1);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kS, space::kXs);
+  layout->setSpacing(space::kM);
+  layout->addLayout(LayOutMiddle(), 1);
   layout->addWidget(side_ = LayOutSide());
   setMinimumSize(1, 1);
   Connect();
@@ -115,14 +72,30 @@ void ChartPage::PlanTables() {
   planets_->KeepOrder();
   cusps_->KeepOrder();
   ruling_->KeepOrder();
-  planets_->SetPlan(PlanetColumns()).Cells().SetMarks(MarksOf);
-  cusps_->SetPlan(CuspColumns()).Cells().SetHouses([this](const QString& code) {
+  planets_->PlanAsUsual();
+  cusps_->PlanAsUsual().Cells().SetHouses([this](const QString& code) {
     const auto row = chart::RowOfCode(Model(), Typed(code));
     return row ? Shown(chart::HouseList(Model(), *row)) : QString();
   });
   ruling_->View().setFont(Theme::Text(type::kSmall));
-  ruling_->SetPlan({{"Description", CellKind::Text, 98, 0}, {"Planet", CellKind::Chip, 84, 0}});
+  ruling_->SetPlan({{"Description", CellKind::Text, 102, 0}, {"Planet", CellKind::Chip, 84, 0}});
   ruling_->View().horizontalHeader()->hide();
+}
+
+// The charts beside the tables, and under both what has no room at the side.
+QVBoxLayout* ChartPage::LayOutMiddle() {
+  auto* upper = new QHBoxLayout;
+  upper->setSpacing(space::kM);
+  upper->addWidget(charts_ = LayOutCharts());
+  upper->addWidget(LayOutTables(), 1);
+  rulingFoot_ = new QHBoxLayout;
+  rulingFoot_->setSpacing(space::kM);
+  rulingFoot_->addWidget(rulingLine_, 1);
+  auto* middle = new QVBoxLayout;
+  middle->setSpacing(space::kXs);
+  middle->addLayout(upper, 1);
+  middle->addLayout(rulingFoot_);
+  return middle;
 }
 
 QWidget* ChartPage::LayOutCharts() {
@@ -145,11 +118,6 @@ QWidget* ChartPage::LayOutCharts() {
 }
 
 QWidget* ChartPage::LayOutTables() {
-  allColumns_->setFlat(true);
-  allColumns_->setCheckable(true);
-  allColumns_->setIcon(Icon("columns"));
-  allColumns_->setFixedHeight(height::kSmallField);
-  BindKeys(*allColumns_, KeysOf("Horoscope", "allColumns"));
   auto* head = new QHBoxLayout;
   head->setSpacing(space::kXs);
   head->addWidget(whichTable_);
@@ -185,11 +153,11 @@ void ChartPage::Connect() {
   });
   connect(whichChart_, &Segments::ChosenChanged, this, &ChartPage::Arrange);
   connect(whichTable_, &Segments::ChosenChanged, this, &ChartPage::Arrange);
-  connect(allColumns_, &QPushButton::toggled, this, &ChartPage::ShowAllColumns);
   for (CatalogueTable* table : {planets_, cusps_, ruling_}) {
     connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
   }
   for (ChartView* chart : {rashi_, chalit_}) {
+    OfferChartMenu(Document(), *chart);
     connect(chart, &ChartView::CodeActivated, this, [this](const QString& code) {
       if (const auto row = PlanetOfText(Model(), code)) {
         emit PlanetActivated(*row);
@@ -200,16 +168,12 @@ void ChartPage::Connect() {
   }
 }
 
-void ChartPage::ShowAllColumns(bool all) {
-  planets_->Plan()->ShowAll(all);
-  cusps_->Plan()->ShowAll(all);
-}
-
 void ChartPage::ShowModel() {
   const report::ChartCells cells = report::BuildChartCells(Model());
   const char style = Document().Style();
   rashi_->SetPicture(report::RashiPicture(cells, style));
-  chalit_->SetPicture(report::ChalitPicture(cells, style));
+  const report::ChartPicture chalit = report::ChalitPicture(cells, style);
+  chalit_->SetPicture(ShowsDegreesInSign() ? report::WithDegreesInSign(chalit) : chalit);
   style_->Choose(style == 'N' ? 0 : style == 'E' ? 1 : 2);
   planets_->ShowModel();
   cusps_->ShowModel();
@@ -227,6 +191,7 @@ void ChartPage::ShowRulingPlanets() {
   } else {
     ruling_->ShowModel();
   }
+  rulingLine_->ShowTable(ruling_->View().Table());
 }
 
 bool ChartPage::ShowsBirth() const { return isVisible() && birth_->isVisible(); }
@@ -238,16 +203,41 @@ void ChartPage::resizeEvent(QResizeEvent* event) {
 
 void ChartPage::Arrange() {
   const bool one = width() < Scaled(kNarrowWidth) || height() < Scaled(kNarrowHeight);
-  const int room = height() - 2 * space::kXs;
+  ArrangeRulers();
+  const int room = RoomForTables();
   const int title = rashiTitle_->minimumHeight();
   const double part = one ? kOneChartPart : kChartPart;
   const int high = one ? room - title : (room - 2 * title - space::kXs) / 2;
   const int side = std::max(kLeastSide, std::min(high, static_cast<int>(width() * part)));
   ArrangeCharts(side, one);
   ArrangeTables(one);
+}
+
+// The ruling planets as a table at the side with the birth, or as one line under the tables. The
+// switch between birth and now goes with them.
+void ChartPage::ArrangeRulers() {
+  const bool beside = window()->width() >= Scaled(kRoomForSide);
   side_->setFixedWidth(std::clamp(static_cast<int>(width() * kSidePart), Scaled(kLeastSideWidth),
                                   Scaled(kMostSideWidth)));
-  side_->setVisible(width() >= Scaled(kRoomForSide));
+  if (rulersBeside_ == beside) {
+    return;
+  }
+  rulersBeside_ = beside;
+  if (beside) {
+    ruling_->TitleLine().addWidget(whose_);
+  } else {
+    rulingFoot_->addWidget(whose_);
+  }
+  whose_->show();
+  side_->setVisible(beside);
+  rulingLine_->setVisible(!beside);
+}
+
+// The height that charts and tables have, in pixels.
+int ChartPage::RoomForTables() const {
+  const bool beside = rulersBeside_.value_or(true);
+  const int foot = beside ? 0 : rulingFoot_->sizeHint().height() + space::kXs;
+  return height() - 2 * space::kXs - foot;
 }
 
 void ChartPage::ArrangeCharts(int side, bool one) {
@@ -274,8 +264,8 @@ void ChartPage::ArrangeTables(bool one) {
     planets_->setMaximumHeight(QWIDGETSIZE_MAX);
   } else if (planets + cusps > 0) {
     const int heads = planets_->HeightOfHead() + cusps_->HeightOfHead();
-    const int row = std::clamp((height() - 2 * space::kXs - heads) / (planets + cusps), 1,
-                               Scaled(height::kMostRow));
+    const int row =
+        std::clamp((RoomForTables() - heads) / (planets + cusps), 1, Scaled(height::kMostRow));
     planets_->setFixedHeight(planets_->HeightOfHead() + planets * row);
   }
   const int rulers = static_cast<int>(ruling_->View().Table().Rows.size());

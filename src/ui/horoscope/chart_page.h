@@ -8,10 +8,12 @@
 
 class QHBoxLayout;
 class QPushButton;
+class QVBoxLayout;
 
 namespace orvex::ui {
 
 class BirthPanel;
+class RulingLine;
 class Segments;
 
 class ChartPage final : public HoroscopePage {
@@ -29,6 +31,7 @@ class ChartPage final : public HoroscopePage {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  QVBoxLayout* LayOutMiddle();
   QWidget* LayOutCharts();
   QWidget* LayOutTables();
   QWidget* LayOutSide();
@@ -37,14 +40,16 @@ class ChartPage final : public HoroscopePage {
   void Arrange();
   void ArrangeCharts(int side, bool one);
   void ArrangeTables(bool one);
+  void ArrangeRulers();
+  int RoomForTables() const;
   void ShowRulingPlanets();
-  void ShowAllColumns(bool all);
 
   ChartView* rashi_;
   ChartView* chalit_;
   CatalogueTable* planets_;
   CatalogueTable* cusps_;
   CatalogueTable* ruling_;
+  RulingLine* rulingLine_;
   BirthPanel* birth_;
   Segments* style_;
   Segments* whichChart_;
@@ -55,7 +60,8 @@ class ChartPage final : public HoroscopePage {
   QLabel* chalitTitle_;
   QWidget* charts_ = nullptr;
   QWidget* side_ = nullptr;
-  QWidget* rulingHome_ = nullptr;
+  QHBoxLayout* rulingFoot_ = nullptr;
+  std::optional<bool> rulersBeside_;  // at the side of the charts; nothing before the first look
 };
 
 }  // namespace orvex::ui

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QToolTip>
@@ -10,6 +11,7 @@
 #include "ui/base/moment_edit.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/scaled.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/life_strip.h"
 #include "ui/horoscope/period_columns.h"
@@ -21,6 +23,7 @@ namespace {
 constexpr int kListRows = 10;   // with the head
 constexpr int kCountRows = 12;  // with head and title
 constexpr int kDateWidth = 130;
+constexpr int kRoomForNow = 290;  // of a list; below, an arrow stands for the word
 
 // The row that the list marks becomes the current one, so that the arrow keys go on from there.
 void StandOnMarkedRow(TableView& view) {
@@ -64,25 +67,28 @@ void DashaPage::PlanTables() {
     CatalogueTable& list = *lists_.at(level);
     list.KeepOrder();
     list.View().setSelectionMode(QAbstractItemView::SingleSelection);
-    TablePlan& plan = list.SetPlan({{"Planet", CellKind::Chip, 116, 0},
-                                    {"End Date", CellKind::Age, 84, 0},
-                                    {kAgeColumn, CellKind::Age, 60, 1},
+    TablePlan& plan = list.SetPlan({{"Planet", CellKind::Chip, 96, 0},
+                                    {"End Date", CellKind::Figures, 84, 0},
+                                    {kAgeColumn, CellKind::Age, 66, 1},
                                     {kStartColumn, CellKind::Age, 84, 2}},
                                    tight);
     plan.Cells().SetMarks([this, &list](const QModelIndex& index) {
       const core::Row& row = list.View().Table().Rows.at(list.View().Model().TableRow(index.row()));
       const core::DateTime today = Document().Place().Session.Time.Today();
-      return StateOf(row, today) == PeriodState::Runs ? QStringList{tr("now")} : QStringList();
+      return StateOf(row, today) == PeriodState::Runs
+                 ? QStringList{saysNow_ ? tr("now") : kNowArrow}
+                 : QStringList();
     });
   }
   periods_->KeepOrder();
-  periods_->SetPlan({{"Description", CellKind::Text, 96, 0},
-                     {"Dasha", CellKind::Lord, 110, 0},
-                     {"Bhukti", CellKind::Lord, 110, 0},
-                     {"Antara", CellKind::Lord, 110, 0},
-                     {"Sookshma", CellKind::Lord, 110, 0}},
+  periods_->SetPlan({{"Description", CellKind::Text, 92, 0},
+                     {"Dasha", CellKind::Lord, 90, 0},
+                     {"Bhukti", CellKind::Lord, 90, 0},
+                     {"Antara", CellKind::Lord, 90, 0},
+                     {"Sookshma", CellKind::Lord, 90, 0}},
                     tight);
   houses_->KeepOrder();
+  houses_->SetNote(tr("how often each house is named"));
   std::vector<ColumnPlan> counts = {{"House", CellKind::Text, 130, 0}};
   for (int house = 1; house <= static_cast<int>(chart::kHouses); ++house) {
     counts.push_back({Typed(WholeText(house)), CellKind::Heat, 26, 0});
@@ -94,7 +100,7 @@ void DashaPage::AddTools() {
   date_->setPlaceholderText(tr("Go to a date"));
   date_->setAccessibleName(date_->placeholderText());
   date_->setToolTip(tr("A date such as 5.9.2031, 2031-09-05 or 5 Sep 2031; Enter goes there"));
-  date_->setFixedWidth(kDateWidth * Theme::TextSize() / 100);
+  date_->setFixedWidth(Scaled(kDateWidth));
   connect(date_, &QLineEdit::returnPressed, this, &DashaPage::GoToTyped);
   connect(date_, &DateEdit::DayPicked, this, &DashaPage::GoToTyped);
   QPushButton* running = MakeButton("runningPeriods", tr("Running periods"));
@@ -117,9 +123,9 @@ QHBoxLayout* DashaPage::LayOutLists() {
 
 QHBoxLayout* DashaPage::LayOutSummaries() {
   auto* summaries = new QHBoxLayout;
-  summaries->setSpacing(space::kXl);
-  summaries->addWidget(periods_, 6);
-  summaries->addWidget(houses_, 5);
+  summaries->setSpacing(space::kL);
+  summaries->addWidget(periods_, 13);
+  summaries->addWidget(houses_, 10);
   return summaries;
 }
 
@@ -137,12 +143,45 @@ void DashaPage::GoToTyped() {
 
 void DashaPage::Connect(std::size_t level) {
   TableView& view = lists_.at(level)->View();
+  view.installEventFilter(this);
   connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this, level, &view](const QModelIndex& current) {
             if (!showing_ && current.isValid()) {
               OpenLater(level, view.Model().TableRow(current.row()));
             }
           });
+}
+
+bool DashaPage::eventFilter(QObject* watched, QEvent* event) {
+  const auto* pressed =
+      event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+  const int by = pressed == nullptr                ? 0
+                 : pressed->key() == Qt::Key_Right ? 1
+                 : pressed->key() == Qt::Key_Left  ? -1
+                                                   : 0;
+  const bool plain = by != 0 && (pressed->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  for (std::size_t level = 0; plain && level < lists_.size(); ++level) {
+    if (watched == &lists_.at(level)->View()) {
+      const std::size_t next =
+          level + static_cast<std::size_t>(by);  // before the first: very large
+      if (next < lists_.size()) {
+        lists_.at(next)->View().setFocus(Qt::OtherFocusReason);
+      }
+      return true;
+    }
+  }
+  return HoroscopePage::eventFilter(watched, event);
+}
+
+void DashaPage::resizeEvent(QResizeEvent* event) {
+  HoroscopePage::resizeEvent(event);
+  const bool room = width() / static_cast<int>(lists_.size()) >= Scaled(kRoomForNow);
+  if (room != saysNow_) {
+    saysNow_ = room;
+    for (CatalogueTable* list : lists_) {
+      list->Plan()->Fit();
+    }
+  }
 }
 
 void DashaPage::OpenLater(std::size_t level, std::size_t row) {
@@ -161,6 +200,23 @@ void DashaPage::ShowList(std::size_t level) {
   const core::DateTime today = Document().Place().Session.Time.Today();
   lists_.at(level)->ShowTable(WithAges(*lists.at(level), Model().Birth, today));
   StandOnMarkedRow(lists_.at(level)->View());
+  lists_.at(level)->SetNote(PathTo(level));
+}
+
+// "of Venus / Mercury", the chosen periods above a list.
+QString DashaPage::PathTo(std::size_t level) const {
+  const chart::DashaTree& tree = Model().Periods;
+  const std::array<const core::Table*, 3> above = {&tree.DashaList, &tree.BhuktiList,
+                                                   &tree.AntaraList};
+  QStringList names;
+  for (std::size_t i = 0; i < level && i < above.size(); ++i) {
+    if (const auto row = chart::SelectedRow(*above.at(i))) {
+      const std::size_t planet = i == 0 ? core::Table::Index(chart::DashaColumn::Planet)
+                                        : core::Table::Index(chart::PeriodColumn::Planet);
+      names << Shown(above.at(i)->Rows.at(*row).Cells.at(planet).Text);
+    }
+  }
+  return names.isEmpty() ? QString() : tr("of %1").arg(names.join(" / "));
 }
 
 void DashaPage::ShowModel() {

@@ -22,12 +22,18 @@ class DashaPage final : public HoroscopePage {
 
   void ShowModel() override;
 
+ protected:
+  // Left and Right go from list to list.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QHBoxLayout* LayOutLists();
   QHBoxLayout* LayOutSummaries();
   void PlanTables();
   void AddTools();
   void ShowList(std::size_t level);
+  QString PathTo(std::size_t level) const;
   void GoToTyped();
   void Connect(std::size_t level);
   void OpenLater(std::size_t level, std::size_t row);
@@ -37,6 +43,7 @@ class DashaPage final : public HoroscopePage {
   CatalogueTable* periods_;
   CatalogueTable* houses_;
   DateEdit* date_;
+  bool saysNow_ = true;   // in words what runs, else by an arrow
   bool showing_ = false;  // the model is being shown: a row that becomes current was not picked
 };
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <array>
 #include <optional>
 #include <string>
 
@@ -17,6 +18,18 @@ namespace orvex::ui {
 
 // The three choices of the list of aspects.
 enum class AspectFilter { All, Good, Hard };
+
+// The styles of charts in the order in which a window turns to the next one.
+struct StyleName {
+  char Style;
+  const char* Name;  // with its letter in menus
+};
+
+inline constexpr std::array<StyleName, 3> kChartStyles = {{
+    {'N', QT_TRANSLATE_NOOP("QObject", "&North Indian")},
+    {'E', QT_TRANSLATE_NOOP("QObject", "&East Indian")},
+    {'S', QT_TRANSLATE_NOOP("QObject", "&South Indian")},
+}};
 
 // What the page of a matter shows: which matter, judged when, with the periods of which span.
 struct JudgedMatter {

@@ -1,11 +1,9 @@
 #include "ui/horoscope/horoscope_window.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QMenu>
-#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolButton>
@@ -14,15 +12,17 @@
 #include <array>
 #include <chrono>
 
-#include "chart/relations.h"
+#include "ui/base/chart_view.h"
 #include "ui/base/elided_label.h"
-#include "ui/base/guide.h"
-#include "ui/base/icon.h"
 #include "ui/base/keys.h"
 #include "ui/base/qt_text.h"
+#include "ui/base/scaled.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_look.h"
+#include "ui/base/window_room.h"
 #include "ui/dialogs/client_dialog.h"
 #include "ui/horoscope/birth_panel.h"
+#include "ui/horoscope/chart_menu.h"
 #include "ui/horoscope/divisional_dialog.h"
 #include "ui/horoscope/export_runner.h"
 #include "ui/horoscope/head_pane.h"
@@ -31,6 +31,7 @@
 #include "ui/horoscope/neighbour_client.h"
 #include "ui/horoscope/page_stack.h"
 #include "ui/horoscope/planet_sheet_dialog.h"
+#include "ui/horoscope/planet_sheet_panel.h"
 
 namespace orvex::ui {
 
@@ -38,33 +39,14 @@ namespace {
 
 constexpr int kUsualWidth = 160 * kGrid;
 constexpr int kUsualHeight = 90 * kGrid;
-constexpr int kRoomForList = 1100;  // below, the pages are a box in the head
+constexpr int kRoomForList = 1100;   // below, the pages are a box in the head
+constexpr int kRoomForSheet = 1700;  // below, the sheet of a planet is a dialog
 constexpr int kBirthWidth = 240;
-
-struct StyleName {
-  char Style;
-  const char* Name;
-};
-
-constexpr std::array<StyleName, 3> kStyles = {{
-    {'N', QT_TRANSLATE_NOOP("HoroscopeWindow", "North Indian")},
-    {'E', QT_TRANSLATE_NOOP("HoroscopeWindow", "East Indian")},
-    {'S', QT_TRANSLATE_NOOP("HoroscopeWindow", "South Indian")},
-}};
-
-std::size_t PlaceOfStyle(char style) {
-  const auto found = std::find_if(kStyles.begin(), kStyles.end(),
-                                  [&](const StyleName& name) { return name.Style == style; });
-  return found == kStyles.end() ? 0 : static_cast<std::size_t>(found - kStyles.begin());
-}
 
 }  // namespace
 
 HoroscopeWindow::HoroscopeWindow(Workplace& place, horoscope::OpenedHoroscope opened)
     : document_(place, std::move(opened)),
-      head_(new HeadPane(document_)),
-      pages_(new PageStack(document_)),
-      birth_(new BirthPanel(document_)),
       status_(new ElidedLabel("statusText")),
       told_(new QTimer(this)),
       exports_(new ExportRunner(place, this)) {
@@ -72,6 +54,7 @@ HoroscopeWindow::HoroscopeWindow(Workplace& place, horoscope::OpenedHoroscope op
   setAttribute(Qt::WA_DeleteOnClose);
   MakeHeadActions();
   MakeMoreActions();
+  MakeContents();
   LayOut();
   Connect();
   ShowModel();
@@ -97,25 +80,51 @@ void HoroscopeWindow::changeEvent(QEvent* event) {
   // Cells keep the colours of the palette in which they were filled.
   if (event->type() == QEvent::PaletteChange && isVisible()) {
     pages_->ShowModel();
+    sheet_->ShowModel();
   }
+}
+
+bool HoroscopeWindow::HasRoomForSheet() const { return width() >= Scaled(kRoomForSheet); }
+
+bool HoroscopeWindow::event(QEvent* event) {
+  if (event->type() == LookChanged()) {
+    MakeContentsAnew();
+    return true;
+  }
+  return QMainWindow::event(event);
 }
 
 void HoroscopeWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  const bool narrow = width() < kRoomForList * Theme::TextSize() / 100;
-  pages_->SetNarrow(narrow);
-  head_->SetNarrow(narrow);
+  FollowWidth();
 }
 
-void HoroscopeWindow::LayOut() {
-  setContextMenuPolicy(Qt::NoContextMenu);
+void HoroscopeWindow::FollowWidth() {
+  const bool narrow = width() < Scaled(kRoomForList);
+  pages_->SetNarrow(narrow);
+  head_->SetNarrow(narrow);
+  if (!HasRoomForSheet()) {
+    sheet_->hide();
+  }
+}
+
+// Everything between title and status line; what stood there before goes.
+void HoroscopeWindow::MakeContents() {
+  head_ = new HeadPane(document_);
+  pages_ = new PageStack(document_);
+  birth_ = new BirthPanel(document_);
+  sheet_ = new PlanetSheetPanel(document_);
   head_->AddBefore(pages_->Box());
-  birth_->setFixedWidth(kBirthWidth * Theme::TextSize() / 100);
+  for (QAction* action : headActions_) {
+    head_->AddButton(action)->setAccessibleName(WithKeys(action->toolTip(), {}));
+  }
+  birth_->setFixedWidth(Scaled(kBirthWidth));
   birth_->hide();
   auto* body = new QHBoxLayout;
   body->setSpacing(space::kS);
   body->addWidget(pages_, 1);
   body->addWidget(birth_);
+  body->addWidget(sheet_);
   auto* middle = new QWidget;
   middle->setMinimumSize(1, 1);
   auto* layout = new QVBoxLayout(middle);
@@ -124,17 +133,35 @@ void HoroscopeWindow::LayOut() {
   layout->addWidget(head_);
   layout->addLayout(body, 1);
   setCentralWidget(middle);
+  connect(pages_, &PageStack::PlanetActivated, this, &HoroscopeWindow::ShowPlanetSheet);
+  connect(pages_, &PageStack::Told, this, &HoroscopeWindow::Tell);
+  connect(head_, &HeadPane::ResetWanted, this, [this] { document_.Rotate(1); });
+}
+
+// Fonts and measures have changed: the same page and panels in the new ones.
+void HoroscopeWindow::MakeContentsAnew() {
+  const QString page = pages_->CurrentName();
+  const bool birth = !birth_->isHidden();
+  MakeContents();
+  status_->setFont(Theme::Text(type::kHead));
+  pages_->Turn(page);
+  ShowBirthPanel(birth);
+  ShowModel();
+  FollowWidth();
+}
+
+void HoroscopeWindow::LayOut() {
+  setContextMenuPolicy(Qt::NoContextMenu);
   setMinimumSize(window::kLeastWidth, window::kLeastHeight);
   status_->setFont(Theme::Text(type::kHead));
   statusBar()->setSizeGripEnabled(false);
+  statusBar()->setContentsMargins(space::kS, 0, space::kM, 0);
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(exports_->Line());
   if (!document_.Place().Layout.RestoreWindow(*this)) {
     resize(kUsualWidth, kUsualHeight);
   }
-  if (const QScreen* on = screen()) {
-    resize(size().boundedTo(on->availableSize()));
-  }
+  KeepOnScreen(*this);
 }
 
 void HoroscopeWindow::Connect() {
@@ -144,12 +171,9 @@ void HoroscopeWindow::Connect() {
             EditClientWith(
                 [birth, comment](ClientDialog& dialog) { dialog.ProposeBirth(birth, comment); });
           });
-  connect(pages_, &PageStack::PlanetActivated, this, &HoroscopeWindow::ShowPlanetSheet);
-  connect(pages_, &PageStack::Told, this, &HoroscopeWindow::Tell);
   told_->setSingleShot(true);
   connect(told_, &QTimer::timeout, this,
           [this] { status_->setText(Shown(document_.Model().Captions.StatusBar)); });
-  connect(head_, &HeadPane::ResetWanted, this, [this] { document_.Rotate(1); });
   auto* reports = findChild<QMenu*>("exportMenu");
   connect(exports_, &ExportRunner::Began, this, [this, reports] {
     status_->setText("Exporting Horoscope...Please Wait");
@@ -161,147 +185,6 @@ void HoroscopeWindow::Connect() {
   });
 }
 
-QAction* HoroscopeWindow::AddAction(const QString& text, const char* name, const char* icon) {
-  auto* action = new QAction(text, this);
-  action->setObjectName(name);
-  action->setShortcut(KeysOf("Horoscope", name));
-  action->setToolTip(WithKeys(text, action->shortcut()));
-  if (icon != nullptr) {
-    action->setIcon(Icon(icon));
-  }
-  addAction(action);
-  return action;
-}
-
-// The buttons of the head.
-void HoroscopeWindow::MakeHeadActions() {
-  QAction* rotate = AddAction(tr("&Rotate"), "rotationMenu", "rotate");
-  rotate->setMenu(rotationMenu_ = MakeRotationMenu());
-  QAction* divisions = AddAction(tr("&Divisional charts"), "divisions", "divisions");
-  connect(divisions, &QAction::triggered, this, &HoroscopeWindow::ShowDivisions);
-  auto* print = new QAction(Icon("print"), tr("&Print"), this);
-  print->setObjectName("print");
-  print->setToolTip(tr("Print"));
-  print->setMenu(MakePrintMenu());
-  QAction* exporting = AddAction(tr("E&xport"), "exportMenu", "export");
-  exporting->setMenu(MakeExportMenu());
-  auto* more = new QAction(Icon("menu"), QString(), this);
-  more->setObjectName("more");
-  more->setToolTip(tr("More"));
-  more->setMenu(more_ = new QMenu(this));
-  more_->setObjectName("moreMenu");
-  for (QAction* action : {rotate, divisions, print, exporting, more}) {
-    head_->AddButton(action)->setAccessibleName(WithKeys(action->toolTip(), {}));
-  }
-}
-
-// What is done seldom, in the last menu.
-void HoroscopeWindow::MakeMoreActions() {
-  const auto add = [this](const QString& text, const char* name, auto deed) {
-    QAction* action = AddAction(text, name);
-    connect(action, &QAction::triggered, this, deed);
-    more_->addAction(action);
-    return action;
-  };
-  style_ = add(tr("Next &style"), "nextStyle", &HoroscopeWindow::NextStyle);
-  more_->addMenu(MakeStyleMenu());
-  birthPanel_ = add(tr("&Birth"), "birthPanel", [this] { ShowBirthPanel(birth_->isHidden()); });
-  QAction* rectify = add(tr("Rectify birth &time"), "rectify", [this] { Turn("birthTime"); });
-  rectify->setVisible(!document_.Model().Horary);
-  rectify->setEnabled(!document_.Model().Horary);
-  add(tr("Judge a &matter"), "judgeMatter", &HoroscopeWindow::JudgeMatter);
-  more_->addSeparator();
-  add(tr("&Edit client"), "editClient", &HoroscopeWindow::EditClient);
-  add(tr("&Previous client"), "previousClient", [this] { GoToClient(-1); });
-  add(tr("&Next client"), "nextClient", [this] { GoToClient(1); });
-  more_->addMenu(MakeWindowsMenu());
-  more_->addSeparator();
-  add(tr("&Guide"), "guide", [this] { OpenGuide(document_.Place()); });
-  add(tr("&Close"), "close", [this] { close(); });
-}
-
-QMenu* HoroscopeWindow::MakeWindowsMenu() {
-  auto* menu = new QMenu(tr("Open &windows"), this);
-  menu->setObjectName("windowsMenu");
-  connect(menu, &QMenu::aboutToShow, this, [menu] {
-    menu->clear();
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-      if (auto* open = qobject_cast<HoroscopeWindow*>(widget); open && open->isVisible()) {
-        menu->addAction(open->windowTitle().replace('&', "&&"), open, [open] {
-          open->raise();
-          open->activateWindow();
-        });
-      }
-    }
-  });
-  return menu;
-}
-
-QMenu* HoroscopeWindow::MakeStyleMenu() {
-  auto* menu = new QMenu(tr("Style of &charts"), this);
-  menu->setObjectName("styleMenu");
-  for (const StyleName& style : kStyles) {
-    menu->addAction(tr(style.Name), this, [this, style] { document_.SetStyle(style.Style); });
-  }
-  return menu;
-}
-
-QMenu* HoroscopeWindow::MakeRotationMenu() {
-  auto* menu = new QMenu(this);
-  menu->setObjectName("rotationMenu");
-  auto* houses = new QActionGroup(this);
-  for (int house = 1; house <= static_cast<int>(chart::kHouses); ++house) {
-    // The digit works as a key; who is read from the house stands behind.
-    QAction* action =
-        menu->addAction((house < 10 ? "&" : "") + Shown(chart::HouseWithRelation(house)), this,
-                        [this, house] { document_.Rotate(house); });
-    action->setCheckable(true);
-    action->setData(house);
-    houses->addAction(action);
-  }
-  menu->addSeparator();
-  QAction* reset = AddAction(tr("Reset to First House"), "resetRotation");
-  connect(reset, &QAction::triggered, this, [this] { document_.Rotate(1); });
-  menu->addAction(reset);
-  return menu;
-}
-
-QMenu* HoroscopeWindow::MakePrintMenu() {
-  auto* menu = new QMenu(this);
-  menu->setObjectName("printMenu");
-  const auto add = [this, menu](const QString& text, const char* name, auto deed) {
-    QAction* action = AddAction(text, name);
-    connect(action, &QAction::triggered, this, deed);
-    menu->addAction(action);
-  };
-  add(tr("&Page in sight…"), "printPage", &HoroscopeWindow::PrintPage);
-  add(tr("&KP sheet…"), "printSheet", &HoroscopeWindow::PrintSheet);
-  return menu;
-}
-
-QMenu* HoroscopeWindow::MakeExportMenu() {
-  auto* menu = new QMenu(this);
-  menu->setObjectName("exportMenu");
-  for (const DetailName& detail : kReportDetails) {
-    menu->addAction(tr("Report: %1").arg(NameOf(detail)), this,
-                    [this, detail] { Export(detail.Detail, false); });
-  }
-  menu->addSeparator();
-  for (const DetailName& detail : kReportDetails) {
-    menu->addAction(tr("PDF: %1").arg(NameOf(detail)), this,
-                    [this, detail] { Export(detail.Detail, true); });
-  }
-  menu->addSeparator();
-  menu->addAction(tr("PDF: KP sheet…"), this,
-                  [this] { exports_->WriteSheet(*this, SheetOfWindow(document_)); });
-  return menu;
-}
-
-void HoroscopeWindow::NextStyle() {
-  const std::size_t next = (PlaceOfStyle(document_.Style()) + 1) % kStyles.size();
-  document_.SetStyle(kStyles.at(next).Style);
-}
-
 void HoroscopeWindow::ShowModel() {
   const chart::HoroscopeCaptions& captions = document_.Model().Captions;
   setWindowTitle(Shown(captions.Title));
@@ -310,6 +193,7 @@ void HoroscopeWindow::ShowModel() {
   }
   head_->ShowModel();
   birth_->ShowModel();
+  sheet_->ShowModel();
   pages_->ShowModel();
   told_->stop();
   status_->setText(Shown(captions.StatusBar));
@@ -334,6 +218,10 @@ void HoroscopeWindow::Tell(const QString& words) {
 }
 
 void HoroscopeWindow::ShowPlanetSheet(std::size_t row) {
+  if (HasRoomForSheet()) {
+    sheet_->ShowPlanet(row);
+    return;
+  }
   const core::DateTime today = document_.Place().Session.Time.Today();
   auto* sheet =
       new PlanetSheetDialog(transit::ShowPlanetDetails(document_.Model(), row, today), this);
@@ -347,6 +235,9 @@ void HoroscopeWindow::ShowDivisions() {
     divisions = new DivisionalDialog(document_.Opened(), document_.Style(), this);
     divisions->setAttribute(Qt::WA_DeleteOnClose);
     OfferPrint(document_.Place(), *divisions);
+    for (ChartView* chart : divisions->findChildren<ChartView*>()) {
+      OfferChartMenu(document_, *chart);
+    }
     connect(&document_, &HoroscopeDocument::Changed, divisions,
             [this, divisions] { divisions->ShowModel(document_.Opened(), document_.Style()); });
   }

@@ -19,6 +19,7 @@ class ElidedLabel;
 class ExportRunner;
 class HeadPane;
 class PageStack;
+class PlanetSheetPanel;
 
 class HoroscopeWindow final : public QMainWindow {
   Q_OBJECT
@@ -43,16 +44,22 @@ class HoroscopeWindow final : public QMainWindow {
   // Turns to the page "Matter" with the keys in its first field.
   void JudgeMatter();
 
-  // Opens the sheet of a row of the planet table.
+  // Shows the sheet of a row of the planet table: at the side where the window is wide, else in a
+  // dialog.
   void ShowPlanetSheet(std::size_t row);
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void MakeContents();
+  void MakeContentsAnew();
   void LayOut();
+  void FollowWidth();
+  bool HasRoomForSheet() const;
   void Connect();
   QAction* AddAction(const QString& text, const char* name, const char* icon = nullptr);
   void MakeHeadActions();
@@ -77,9 +84,11 @@ class HoroscopeWindow final : public QMainWindow {
   void Unregister();
 
   HoroscopeDocument document_;
-  HeadPane* head_;
-  PageStack* pages_;
-  BirthPanel* birth_;
+  std::vector<QAction*> headActions_;
+  HeadPane* head_ = nullptr;
+  PageStack* pages_ = nullptr;
+  BirthPanel* birth_ = nullptr;
+  PlanetSheetPanel* sheet_ = nullptr;
   ElidedLabel* status_;
   QTimer* told_;
   ExportRunner* exports_;

@@ -106,6 +106,9 @@ void LifeStrip::PaintToday(QPainter& painter, std::size_t level, const Look& loo
   const QRect box = RowBox(level, look.Width);
   const int x = XOf(level, picture_.Today, look.Width);
   painter.fillRect(QRect(x - 1, box.top() - 2, line::kHead, box.height() + 4), t.Now);
+  if (level > 0) {
+    return;  // the dates stand there
+  }
   painter.setPen(t.Now);
   painter.setFont(look.Bold);
   const QString word = tr("today");
@@ -130,13 +133,59 @@ void LifeStrip::PaintAges(QPainter& painter, const Look& look) const {
   }
 }
 
+// From the chosen dasha to its bhuktis.
+void LifeStrip::PaintCone(QPainter& painter, const Look& look) const {
+  const std::optional<std::size_t> chosen = picture_.Levels.front().Chosen;
+  if (!chosen || picture_.Levels.at(1).Periods.empty()) {
+    return;
+  }
+  const QRect from = BarBox({0, *chosen}, look.Width);
+  const QRect to = RowBox(1, look.Width);
+  painter.save();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(look.Colors.Sunk);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawPolygon(QPolygon({{from.left(), from.bottom() + 1},
+                                {from.right() + 1, from.bottom() + 1},
+                                {to.right() + 1, to.top()},
+                                {to.left(), to.top()}}));
+  painter.restore();
+}
+
+// Where the bhuktis begin and the last one ends, "Nov 2010"; those that find room.
+void LifeStrip::PaintStarts(QPainter& painter, const Look& look) const {
+  painter.setFont(look.Words);
+  painter.setPen(look.Colors.Ink2);
+  const QRect box = RowBox(1, look.Width);
+  int free = 0;
+  const auto write = [&](core::DateTime day, int x, int until) {
+    const QString month = Shown(core::LongDateText(day, true)).section(' ', 1);
+    const int wide = painter.fontMetrics().horizontalAdvance(month);
+    const int left = std::clamp(x - wide / 2, 0, look.Width - wide);
+    if (left >= free && left + wide <= until) {
+      painter.drawText(QRect(left, box.bottom() + 1, wide, kWords), Qt::AlignCenter, month);
+      free = left + wide + space::kS;
+    }
+  };
+  const std::vector<TimelinePeriod>& periods = picture_.Levels.at(1).Periods;
+  const int forLast = painter.fontMetrics().horizontalAdvance("Nov 2000") + space::kS;
+  for (const TimelinePeriod& period : periods) {
+    write(period.Start, XOf(1, period.Start, look.Width), look.Width - forLast);
+  }
+  write(periods.back().End, box.right(), look.Width);
+}
+
 void LifeStrip::Paint(QPainter& painter, const Look& look) const {
+  PaintCone(painter, look);
   PaintAges(painter, look);
   for (std::size_t level = 0; level < kRows; ++level) {
     if (!picture_.Levels.at(level).Periods.empty()) {
       PaintBars(painter, level, look);
       PaintToday(painter, level, look);
     }
+  }
+  if (!picture_.Levels.at(1).Periods.empty()) {
+    PaintStarts(painter, look);
   }
 }
 

@@ -50,6 +50,8 @@ class LifeStrip final : public QWidget, public PrintsItself {
   void PaintBars(QPainter& painter, std::size_t level, const Look& look) const;
   void PaintToday(QPainter& painter, std::size_t level, const Look& look) const;
   void PaintAges(QPainter& painter, const Look& look) const;
+  void PaintCone(QPainter& painter, const Look& look) const;
+  void PaintStarts(QPainter& painter, const Look& look) const;
 
   HoroscopeDocument& document_;
   TimelinePicture picture_;

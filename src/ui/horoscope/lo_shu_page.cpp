@@ -9,12 +9,9 @@ LoShuPage::LoShuPage(HoroscopeDocument& document)
                             {"LoShuTitle", "Numerology"},
                             {{"LoShuGrid", "LoShuAnalysis"}, {"LoShuPlanes"}}}) {
   CatalogueTable& grid = TableOf("LoShuGrid");
-  grid.GrowRows();
   grid.KeepOrder();
   grid.View().horizontalHeader()->hide();
-  grid.View().horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   grid.View().setShowGrid(true);
-  grid.View().setAlternatingRowColors(false);
   grid.View().setSelectionMode(QAbstractItemView::NoSelection);
 }
 

@@ -2,7 +2,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QListWidget>
+#include <QPainter>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -20,6 +20,7 @@
 #include "ui/horoscope/exact_page.h"
 #include "ui/horoscope/lo_shu_page.h"
 #include "ui/horoscope/matter_page.h"
+#include "ui/horoscope/page_list.h"
 #include "ui/horoscope/remedies_page.h"
 #include "ui/horoscope/tables_page.h"
 #include "ui/horoscope/timeline_page.h"
@@ -86,31 +87,26 @@ constexpr std::array<PageEntry, 17> kPages = {{
     {"birthStar",     QT_TRANSLATE_NOOP("PageStack", "Birth star"),    Tables, Fits::WithBars, &Make<BirthStarPage>},
     {"annual",        QT_TRANSLATE_NOOP("PageStack", "Annual chart"),  Tables, Fits::WithBars, &Make<AnnualPage>},
     {"loShu",         QT_TRANSLATE_NOOP("PageStack", "Lo Shu"),        Tables, Fits::WithBars, &Make<LoShuPage>},
-    {"vastu",         QT_TRANSLATE_NOOP("PageStack", "Vastu"),         Tables, Fits::WithBars, &Make<VastuPage>},
+    {"vastu",         QT_TRANSLATE_NOOP("PageStack", "Vastu"),         Tables, Fits::Always,   &Make<VastuPage>},
     {"remedies",      QT_TRANSLATE_NOOP("PageStack", "Remedies"),      Client, Fits::WithBars, &Make<RemediesPage>},
     {"birthTime",     QT_TRANSLATE_NOOP("PageStack", "Birth time"),    Client, Fits::WithBars, &Make<BirthTimePage>},
 }};
 // clang-format on
 
-constexpr int kPlaceRole = Qt::UserRole;
-
-std::optional<std::size_t> PlaceOf(const QListWidgetItem* item) {
-  const QVariant place = item == nullptr ? QVariant() : item->data(kPlaceRole);
-  return place.isValid() ? std::optional(static_cast<std::size_t>(place.toInt())) : std::nullopt;
-}
+constexpr std::string_view kRemedies = "remedies";
 
 }  // namespace
 
 PageStack::PageStack(HoroscopeDocument& document)
     : document_(document),
-      list_(new QListWidget),
+      list_(new PageList),
       box_(new QComboBox),
       stack_(new QStackedWidget),
       slots_(kPages.size()) {
   LayOut();
   Connect();
   Turn(document.Place().Layout.ChosenEntry(*list_));
-  if (!PlaceOf(list_->currentItem())) {
+  if (!list_->PlaceOf(list_->currentRow())) {
     Turn(kPages.front().Name);
   }
 }
@@ -118,30 +114,24 @@ PageStack::PageStack(HoroscopeDocument& document)
 void PageStack::LayOut() {
   list_->setObjectName("pages");
   list_->setAccessibleName(tr("Pages"));
-  list_->setFrameShape(QFrame::NoFrame);
-  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  list_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   box_->setObjectName("pageBox");
   box_->setAccessibleName(tr("Pages"));
   for (int group = 0; group < static_cast<int>(kGroups.size()); ++group) {
     AddGroup(group);
   }
-  list_->setFixedWidth(list_->sizeHintForColumn(0) + space::kXl + space::kS);
+  list_->setFixedWidth(list_->WidthOfTitles());
   // A page never makes the window larger than the screen.
   stack_->setMinimumSize(1, 1);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
+  layout->setSpacing(line::kHair);
   layout->addWidget(list_);
   layout->addWidget(stack_, 1);
 }
 
 // A caption, which cannot be chosen, and the pages under it.
 void PageStack::AddGroup(int group) {
-  auto* caption = new QListWidgetItem(tr(kGroups.at(static_cast<std::size_t>(group))), list_);
-  caption->setFlags(Qt::NoItemFlags);
-  caption->setFont(Theme::Text(type::kHead, QFont::DemiBold));
-  caption->setSizeHint({0, list_->fontMetrics().height() + space::kS});
+  list_->AddCaption(tr(kGroups.at(static_cast<std::size_t>(group))));
   for (std::size_t place = 0; place < kPages.size(); ++place) {
     if (kPages.at(place).InGroup == group) {
       AddPage(place);
@@ -150,11 +140,9 @@ void PageStack::AddGroup(int group) {
 }
 
 void PageStack::AddPage(std::size_t place) {
-  auto* item = new QListWidgetItem(tr(kPages.at(place).Title), list_);
-  item->setData(kPlaceRole, static_cast<int>(place));
-  item->setSizeHint(list_->fontMetrics().size(Qt::TextSingleLine, item->text()) +
-                    QSize(2 * space::kM, space::kXs + 1));
-  box_->addItem(item->text(), static_cast<int>(place));
+  const QString title = tr(kPages.at(place).Title);
+  list_->AddPage(title, place);
+  box_->addItem(title, static_cast<int>(place));
   stack_->addWidget(new QWidget);
 }
 
@@ -178,7 +166,7 @@ void PageStack::Connect() {
 
 void PageStack::Turn(const QString& name) {
   for (int row = 0; row < list_->count(); ++row) {
-    const std::optional<std::size_t> place = PlaceOf(list_->item(row));
+    const std::optional<std::size_t> place = list_->PlaceOf(row);
     if (place && name == kPages.at(*place).Name) {
       list_->setCurrentRow(row);
     }
@@ -190,16 +178,18 @@ void PageStack::Move(int by) {
   int row = list_->currentRow();
   do {
     row = (row + by + rows) % rows;
-  } while (!PlaceOf(list_->item(row)));
+  } while (!list_->PlaceOf(row));
   list_->setCurrentRow(row);
 }
 
 HoroscopePage* PageStack::Current() const { return slots_.at(current_).Page; }
 
+QString PageStack::CurrentName() const { return kPages.at(current_).Name; }
+
 QString PageStack::CurrentTitle() const { return tr(kPages.at(current_).Title); }
 
 void PageStack::TurnToRow(int row) {
-  if (const std::optional<std::size_t> place = PlaceOf(list_->item(row))) {
+  if (const std::optional<std::size_t> place = list_->PlaceOf(row)) {
     ShowPage(*place);
   }
 }
@@ -249,7 +239,22 @@ void PageStack::ShowModel() {
   for (Slot& slot : slots_) {
     slot.Stale = true;
   }
+  ShowCountOfRemedies();
   ShowPage(current_);
+}
+
+void PageStack::ShowCountOfRemedies() {
+  const auto remedies = static_cast<int>(document_.Model().RemedyTable.Rows.size());
+  for (std::size_t place = 0; place < kPages.size(); ++place) {
+    if (kPages.at(place).Name == kRemedies) {
+      list_->SetCount(place, remedies == 0 ? QString() : WholeText(remedies));
+    }
+  }
+}
+
+// The hairline between the list and the page.
+void PageStack::paintEvent(QPaintEvent* /*event*/) {
+  QPainter(this).fillRect(rect(), Theme::Now().Rule2);
 }
 
 }  // namespace orvex::ui

@@ -7,10 +7,11 @@
 #include "ui/horoscope/horoscope_page.h"
 
 class QComboBox;
-class QListWidget;
 class QStackedWidget;
 
 namespace orvex::ui {
+
+class PageList;
 
 class PageStack final : public QWidget {
   Q_OBJECT
@@ -26,6 +27,7 @@ class PageStack final : public QWidget {
   QComboBox* Box() { return box_; }
   void SetNarrow(bool narrow);
 
+  QString CurrentName() const;
   QString CurrentTitle() const;
 
   // Shows the model again: the page in sight now, the others when they come into sight.
@@ -38,6 +40,9 @@ class PageStack final : public QWidget {
   // Another page came into sight.
   void Turned();
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   void LayOut();
   void Connect();
@@ -47,6 +52,7 @@ class PageStack final : public QWidget {
   void TurnToRow(int row);
   void ShowPage(std::size_t place);
   void Move(int by);
+  void ShowCountOfRemedies();
 
   struct Slot {
     HoroscopePage* Page = nullptr;
@@ -54,7 +60,7 @@ class PageStack final : public QWidget {
   };
 
   HoroscopeDocument& document_;
-  QListWidget* list_;
+  PageList* list_;
   QComboBox* box_;
   QStackedWidget* stack_;
   std::vector<Slot> slots_;  // in the order of the pages

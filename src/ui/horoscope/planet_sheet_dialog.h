@@ -1,4 +1,4 @@
-// The sheet of a planet: all that an open horoscope knows of it.
+// The sheet of a planet before a window that has no room for it at its side.
 #pragma once
 
 #include <QDialog>
@@ -7,17 +7,11 @@
 
 namespace orvex::ui {
 
-class TableView;
-
 class PlanetSheetDialog final : public QDialog {
   Q_OBJECT
 
  public:
   PlanetSheetDialog(const transit::PlanetSheet& sheet, QWidget* parent);
-
- private:
-  TableView* MakeFacts(const transit::PlanetSheet& sheet);
-  QWidget* MakeLists(const transit::PlanetSheet& sheet);
 };
 
 }  // namespace orvex::ui

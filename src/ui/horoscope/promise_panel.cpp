@@ -74,7 +74,7 @@ QString PromisePanel::CuspNote(const judgement::Matter& matter) const {
     return {};
   }
   const auto text = [&](chart::CuspColumn column) { return Shown(cusps.At(row, column).Text); };
-  const std::optional<DegreeText> degree = DegreeInSign(text(chart::CuspColumn::Degree));
+  const std::optional<DegreeText> degree = ShownDegree(text(chart::CuspColumn::Degree));
   return (degree ? degree->Figures + ' ' + degree->Sign : text(chart::CuspColumn::Degree)) + ", " +
          text(chart::CuspColumn::Nakshatra) + ' ' + text(chart::CuspColumn::Pada);
 }

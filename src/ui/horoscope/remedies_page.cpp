@@ -32,11 +32,13 @@ RemediesPage::RemediesPage(HoroscopeDocument& document)
       add_(MakeButton(tr("&Add remedy…"), "addRemedy")),
       edit_(MakeButton(tr("E&dit…"), "editRemedy")),
       delete_(MakeButton(tr("De&lete"), "deleteRemedy")) {
+  remedies_->PlanAsUsual();
   remedies_->View().SetEmptyText(
       tr("No remedy was given to this client yet. Press “Add remedy” to write down the first."));
   remedies_->View().setSelectionMode(QAbstractItemView::SingleSelection);
   comments_->setWordWrap(true);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
   layout->addWidget(remedies_, 1);
   layout->addLayout(LayOutButtons());
   layout->addWidget(comments_);

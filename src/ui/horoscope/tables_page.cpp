@@ -1,6 +1,8 @@
 #include "ui/horoscope/tables_page.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -8,6 +10,7 @@
 
 #include "ui/base/qt_text.h"
 #include "ui/base/theme.h"
+#include "ui/horoscope/all_columns.h"
 
 namespace orvex::ui {
 
@@ -24,6 +27,7 @@ std::string chart::HoroscopeCaptions::*CaptionOf(const std::string& name) {
 TablesPage::TablesPage(HoroscopeDocument& document, const PagePlan& plan)
     : HoroscopePage(document) {
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
   for (const char* name : plan.Captions) {
     QLabel* label = MakeCaptionLabel(name);
     captions_.emplace_back(label, CaptionOf(name));
@@ -35,20 +39,30 @@ TablesPage::TablesPage(HoroscopeDocument& document, const PagePlan& plan)
     rows->addWidget(MakeRow(plan, row));
   }
   layout->addWidget(rows, 1);
+  OfferAllColumns(plan.Tables.front().size());
   document.Place().Layout.Remember(*rows);
 }
 
 QSplitter* TablesPage::MakeRow(const PagePlan& plan, std::size_t row) {
   auto* splitter = new QSplitter(Qt::Horizontal);
   splitter->setObjectName(QString(plan.Name) + "Row" + WholeText(static_cast<int>(row)));
+  QList<int> wanted;
   for (const char* name : plan.Tables.at(row)) {
     auto* table = new CatalogueTable(Document(), name);
+    table->PlanAsUsual();
     connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
     tables_.push_back(table);
+    wanted << table->WidthFirstRead();
     splitter->addWidget(table);
   }
+  splitter->setSizes(wanted);
   Document().Place().Layout.Remember(*splitter);
   return splitter;
+}
+
+// At the right end of the first row of tables.
+void TablesPage::OfferAllColumns(std::size_t inFirstRow) {
+  tables_.at(inFirstRow - 1)->TitleLine().addWidget(MakeAllColumnsButton(tables_));
 }
 
 CatalogueTable& TablesPage::TableOf(const char* name) {

@@ -31,6 +31,7 @@ class TablesPage : public HoroscopePage {
   CatalogueTable& TableOf(const char* name);
 
  private:
+  void OfferAllColumns(std::size_t inFirstRow);
   QSplitter* MakeRow(const PagePlan& plan, std::size_t row);
 
   std::vector<std::pair<QLabel*, std::string chart::HoroscopeCaptions::*>> captions_;

@@ -1,9 +1,10 @@
 #include "ui/horoscope/transit_page.h"
 
+#include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "ui/base/qt_text.h"
+#include "ui/base/theme.h"
 #include "ui/transit/transit_details_dialog.h"
 
 namespace orvex::ui {
@@ -13,9 +14,11 @@ TransitPage::TransitPage(HoroscopeDocument& document)
   auto* again = new QPushButton(tr("Read the sky &again"));
   again->setObjectName("readSky");
   connect(again, &QPushButton::clicked, this, [this] { Document().ReadSkyAgain(); });
-  static_cast<QVBoxLayout*>(layout())->addWidget(again, 0, Qt::AlignLeft);
+  again->setFixedHeight(height::kSmallField);
+  again->setAutoDefault(false);
   // A planet of now leads to its hours, one of the birth to its sheet.
   CatalogueTable& now = TableOf("TransitNow");
+  now.TitleLine().addWidget(again);
   disconnect(&now, &CatalogueTable::PlanetActivated, this, nullptr);
   connect(&now, &CatalogueTable::PlanetActivated, this, [this, &now] {
     const QModelIndex planet = now.View().currentIndex().siblingAtColumn(0);

@@ -1,9 +1,12 @@
 #include "ui/horoscope/vastu_page.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
 #include <QSplitter>
 
 #include "ui/base/theme.h"
+#include "ui/horoscope/all_columns.h"
 #include "ui/horoscope/field_label.h"
 #include "ui/horoscope/tables_page.h"
 #include "ui/painting/report_document.h"
@@ -18,10 +21,15 @@ VastuPage::VastuPage(HoroscopeDocument& document)
              new VastuSide(PlanSide::South), new VastuSide(PlanSide::West)},
       impacts_(new CatalogueTable(document, "ImpactTable")),
       hits_(new CatalogueTable(document, "HitsTable")) {
+  impacts_->PlanAsUsual();
+  hits_->PlanAsUsual();
+  hits_->TitleLine().addWidget(MakeAllColumnsButton({impacts_, hits_}));
   impacts_->View().SetEmptyText(tr("No square or opposition strikes a house."));
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(space::kM + 2, space::kXs, space::kM + 2, space::kXs);
   layout->addWidget(LayOutPlan());
   layout->addWidget(LayOutTables(), 1);
+  setMinimumSize(1, 1);
   for (CatalogueTable* table : {impacts_, hits_}) {
     connect(table, &CatalogueTable::PlanetActivated, this, &HoroscopePage::PlanetActivated);
   }
@@ -54,6 +62,7 @@ QSplitter* VastuPage::LayOutTables() {
   tables->setObjectName("vastuTables");
   tables->addWidget(impacts_);
   tables->addWidget(hits_);
+  tables->setMinimumHeight(1);
   Document().Place().Layout.Remember(*tables);
   return tables;
 }

@@ -16,7 +16,7 @@ using vedic::PlanSide;
 constexpr int kPadsOfSide = 8;
 constexpr int kDepth = 4;
 constexpr int kCellWidth = 64;
-constexpr double kTextSize = 0.9;  // the longest deity fits its cell on a small screen
+constexpr int kLeastCell = 40;
 
 // From the outer edge inwards.
 enum Ring { kSectors, kNames, kOuter, kInner };
@@ -27,6 +27,12 @@ VastuSide::VastuSide(PlanSide side) : side_(side) {
   constexpr std::array<const char*, 4> kObjectNames = {"vastuNorth", "vastuEast", "vastuSouth",
                                                        "vastuWest"};
   setObjectName(kObjectNames.at(static_cast<std::size_t>(side)));
+  constexpr std::array<const char*, 4> kNames = {
+      QT_TRANSLATE_NOOP("VastuSide", "Pads of the north"),
+      QT_TRANSLATE_NOOP("VastuSide", "Pads of the east"),
+      QT_TRANSLATE_NOOP("VastuSide", "Pads of the south"),
+      QT_TRANSLATE_NOOP("VastuSide", "Pads of the west")};
+  setAccessibleName(tr(kNames.at(static_cast<std::size_t>(side))));
   setRowCount(IsUpright() ? kPadsOfSide : kDepth);
   setColumnCount(IsUpright() ? kDepth : kPadsOfSide);
   setEditTriggers(NoEditTriggers);
@@ -35,14 +41,17 @@ VastuSide::VastuSide(PlanSide side) : side_(side) {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideNone);
-  QFont small = font();
-  small.setPointSizeF(small.pointSizeF() * kTextSize);
-  setFont(small);
+  setFont(Theme::Text(type::kHead));  // the longest deity fits its cell on a small screen
   horizontalHeader()->hide();
   verticalHeader()->hide();
-  horizontalHeader()->setMinimumSectionSize(kCellWidth);
+  horizontalHeader()->setMinimumSectionSize(IsUpright() ? kLeastCell : kCellWidth);
   horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  for (const int narrow : {ColumnOf(0, kSectors), ColumnOf(0, Ring::kNames)}) {
+    if (IsUpright()) {
+      horizontalHeader()->setSectionResizeMode(narrow, QHeaderView::ResizeToContents);
+    }
+  }
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   ShowSectors();
 }

@@ -11,6 +11,7 @@
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_look.h"
 #include "ui/base/window_print.h"
 #include "ui/dialogs/about_box.h"
 #include "ui/dialogs/cities_dialog.h"
@@ -272,9 +273,19 @@ void MainWindow::PrintPage() {
                    PrintoutOf(*pages_->currentWidget(), {title, {}, {}}, place_.Session));
 }
 
+MainWindow::Place MainWindow::InSight() const {
+  return {pages_->currentIndex(), lists_->Group(), lists_->Client()};
+}
+
+void MainWindow::Show(const Place& place) {
+  lists_->ShowGroup(place.Group, place.Client);
+  pages_->Turn(static_cast<MainPage>(place.Page));
+}
+
 void MainWindow::OpenSettings() {
   SettingsDialog dialog(place_, this);
   if (dialog.exec() == QDialog::Accepted) {
+    TakeLook(core::LookOf(place_.Session));
     sky_->Refresh();
     firstRun_->ShowCity();
     lists_->ReloadClients();

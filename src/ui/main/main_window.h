@@ -33,6 +33,15 @@ class MainWindow final : public QMainWindow {
  public:
   explicit MainWindow(Workplace& place);
 
+  // What is in sight of the window.
+  struct Place {
+    int Page = 0;
+    std::int32_t Group = 0;
+    std::int32_t Client = 0;
+  };
+  Place InSight() const;
+  void Show(const Place& place);
+
  protected:
   // Ends the program, whatever other windows are open.
   void closeEvent(QCloseEvent* event) override;

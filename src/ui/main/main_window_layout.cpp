@@ -1,7 +1,6 @@
 // Where the parts of the main window stand.
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <array>
@@ -9,6 +8,7 @@
 #include "ui/base/job_line.h"
 #include "ui/base/scaled.h"
 #include "ui/base/theme.h"
+#include "ui/base/window_room.h"
 #include "ui/main/client_commands.h"
 #include "ui/main/clients_page.h"
 #include "ui/main/first_run.h"
@@ -81,9 +81,7 @@ void MainWindow::LayOut() {
   if (!place_.Layout.RestoreWindow(*this)) {
     resize(kUsualWidth, kUsualHeight);
   }
-  if (const QScreen* on = screen()) {
-    resize(size().boundedTo(on->availableSize()));
-  }
+  KeepOnScreen(*this);
 }
 
 void MainWindow::AddPages() {

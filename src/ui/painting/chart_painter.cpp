@@ -14,10 +14,9 @@ namespace {
 // Parts of the chart's side.
 constexpr double kLargestText = 0.044;
 constexpr double kSmallestText = 0.018;
-constexpr double kSignText = 0.030;
+constexpr double kSignText = 0.036;  // and of the cusps' degrees
 constexpr double kMiddleText = 0.046;
-constexpr double kNoteText = 0.8;  // of the planets' size
-constexpr double kReadableSign = 0.8;
+constexpr double kReadableSign = 0.77;  // of a planet with room
 constexpr double kBorderLine = 0.0055;
 constexpr double kInnerLine = 0.0030;
 
@@ -25,6 +24,12 @@ QFont Sized(const QFont& font, double pixels) {
   QFont sized = font;
   sized.setPixelSize(std::max(1, static_cast<int>(pixels)));
   return sized;
+}
+
+QFont CodeFont(const QFont& font) {
+  QFont bold = font;
+  bold.setWeight(QFont::Bold);
+  return bold;
 }
 
 double SignText(double side, double readable) {
@@ -49,12 +54,8 @@ QRectF NumberBox(const QPointF& tip, const QString& number, const QFontMetricsF&
   return box;
 }
 
-// The degree of the cusp and the planets, in the order in which they are set.
-QStringList WordsOf(const report::PictureField& field) {
+QStringList CodesOf(const report::PictureField& field) {
   QStringList words;
-  if (!field.Note.empty()) {
-    words.append(QString::fromStdString(field.Note));
-  }
   for (const std::string& code : field.Codes) {
     words.append(QString::fromStdString(code));
   }
@@ -67,15 +68,14 @@ void PaintField(QPainter& painter, const DrawnField& drawn, const report::Pictur
   painter.setPen(colors.Muted);
   painter.drawText(drawn.SignBox, Qt::AlignCenter | Qt::TextDontClip,
                    QString::fromStdString(field.Sign));
-  QFont codes = Sized(font, drawn.Codes.PixelSize);
-  codes.setWeight(QFont::DemiBold);
-  const QFont degree = Sized(font, drawn.Codes.PixelSize * kNoteText);
+  if (!drawn.Codes.Note.Text.isEmpty()) {
+    painter.setFont(Sized(font, drawn.Codes.NoteSize));
+    painter.drawText(drawn.Codes.Note.Box, Qt::AlignCenter | Qt::TextDontClip,
+                     drawn.Codes.Note.Text);
+  }
+  painter.setFont(Sized(CodeFont(font), drawn.Codes.PixelSize));
   for (const PlacedWord& word : drawn.Codes.Words) {
-    const bool note = word.Text.startsWith('(');
-    painter.setFont(note ? degree : codes);
-    painter.setPen(note                                         ? colors.Muted
-                   : word.Text.contains(chart::kRetrogradeMark) ? colors.Retrograde
-                                                                : colors.Text);
+    painter.setPen(word.Text.contains(chart::kRetrogradeMark) ? colors.Retrograde : colors.Text);
     painter.drawText(word.Box, Qt::AlignCenter | Qt::TextDontClip, word.Text);
   }
 }
@@ -115,9 +115,8 @@ QRectF ChartSquare(const QRectF& area) {
 std::array<DrawnField, 12> LayOutChart(const report::ChartPicture& picture, const QFont& font,
                                        const QRectF& square, double readable) {
   const ChartGeometry& geometry = GeometryOf(picture.Style);
-  const QFontMetricsF signMetrics(Sized(font, SignText(square.width(), readable)));
-  QFont codeFont = font;
-  codeFont.setWeight(QFont::DemiBold);
+  const double small = SignText(square.width(), readable);
+  const QFontMetricsF signMetrics(Sized(font, small));
   std::array<DrawnField, 12> drawn;
   for (std::size_t i = 0; i < drawn.size(); ++i) {
     const report::PictureField& field = picture.Fields.at(i);
@@ -125,9 +124,10 @@ std::array<DrawnField, 12> LayOutChart(const report::ChartPicture& picture, cons
     place.Outline = Placed(square, geometry.Fields.at(i).Outline);
     place.SignBox = NumberBox(Placed(square, geometry.Fields.at(i).Tip),
                               QString::fromStdString(field.Sign), signMetrics);
-    place.Codes = LayOutWords(WordsOf(field), place.Outline, {place.SignBox}, codeFont,
-                              square.width() * kSmallestText,
-                              std::max(square.width() * kLargestText, readable));
+    place.Codes =
+        LayOutWords(CodesOf(field), {QString::fromStdString(field.Note), font, small},
+                    place.Outline, {place.SignBox}, CodeFont(font), square.width() * kSmallestText,
+                    std::max(square.width() * kLargestText, readable));
   }
   return drawn;
 }

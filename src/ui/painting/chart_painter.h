@@ -23,7 +23,8 @@ struct ChartColors {
 ChartColors PrintColors();
 ChartColors DarkColors();
 
-// What a drawn field holds: no two boxes overlap, and none leaves the field while it can be helped.
+// What a drawn field holds, its cusp's degree beside the codes: no two boxes overlap, and none
+// leaves the field while it can be helped.
 struct DrawnField {
   QPolygonF Outline;
   QRectF SignBox;

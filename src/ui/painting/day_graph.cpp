@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "chart/sign_degree.h"
 #include "chart/zodiac_lookups.h"
-#include "ui/painting/sign_letters.h"
 
 namespace orvex::ui {
 
@@ -68,8 +68,8 @@ DayGraphLayout LayOutDayGraph(const MonthPicture& picture, const DayRows& rows, 
                   rows.Height, DaysRun::Down};
   for (std::size_t i = 0; i < layout.Signs.size(); ++i) {
     const auto sign = static_cast<int>(i) + 1;
-    layout.Signs.at(i) =
-        LabelAt(kSignLetters.at(i), head, {layout.Scale.SignBox(sign).center().x(), rows.Head / 2});
+    layout.Signs.at(i) = LabelAt(chart::kSignLetters.at(i), head,
+                                 {layout.Scale.SignBox(sign).center().x(), rows.Head / 2});
   }
   for (const transit::PlanetSeries& series : picture.Series) {
     layout.Lines.push_back(LineOf(series, layout.Scale));

@@ -9,7 +9,8 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr double kSteps = 24;  // sizes tried between the largest and the smallest
+constexpr double kSteps = 24;        // sizes tried between the largest and the smallest
+constexpr double kTightLine = 0.94;  // of the font's height
 
 struct Span {
   double Left = 0;
@@ -53,14 +54,29 @@ Span Room(const QPolygonF& outline, const std::vector<QRectF>& taken, double top
   return room;
 }
 
+// The note as it stands in one size of the words.
+struct NoteLine {
+  QString Text;
+  double Width = 0;
+  double Height = 0;  // 0 without a note
+  bool Below = false;
+};
+
 struct Setting {
   const QStringList& Words;
   std::vector<double> Widths;  // of the words; measuring one costs more than all the rest
   const QPolygonF& Outline;
   const std::vector<QRectF>& Taken;
+  NoteLine Note;
   double LineHeight;
   double Blank;
   double Margin;
+};
+
+// What was set: the words and the note.
+struct SetText {
+  std::vector<PlacedWord> Words;
+  PlacedWord Note;
 };
 
 double WidthOf(const Setting& setting, std::size_t word) { return setting.Widths.at(word); }
@@ -81,12 +97,26 @@ void SetLine(const Setting& setting, std::size_t from, std::size_t end, const Sp
   }
 }
 
-// The words in `lines` lines from a height on; nothing where they do not fit.
-std::optional<std::vector<PlacedWord>> TrySetting(const Setting& setting, int lines, double top) {
-  std::vector<PlacedWord> placed;
+// The note in the middle of the room between two heights; false where it does not fit.
+bool SetNote(const Setting& setting, double top, SetText& placed) {
+  const NoteLine& note = setting.Note;
+  const Span room = Room(setting.Outline, setting.Taken, top, top + note.Height, setting.Margin);
+  placed.Note = {note.Text,
+                 {(room.Left + room.Right - note.Width) / 2, top, note.Width, note.Height}};
+  return note.Width <= room.Width();
+}
+
+// The note and the words in `lines` lines from a height on; nothing where they do not fit.
+std::optional<SetText> TrySetting(const Setting& setting, int lines, double top) {
+  SetText placed;
+  const double noteTop = setting.Note.Below ? top + lines * setting.LineHeight : top;
+  if (setting.Note.Height > 0 && !SetNote(setting, noteTop, placed)) {
+    return std::nullopt;
+  }
+  const double wordsTop = setting.Note.Below ? top : top + setting.Note.Height;
   std::size_t next = 0;
   for (int i = 0; i < lines && next < setting.Widths.size(); ++i) {
-    const double lineTop = top + i * setting.LineHeight;
+    const double lineTop = wordsTop + i * setting.LineHeight;
     const Span room =
         Room(setting.Outline, setting.Taken, lineTop, lineTop + setting.LineHeight, setting.Margin);
     const std::size_t first = next;
@@ -94,7 +124,7 @@ std::optional<std::vector<PlacedWord>> TrySetting(const Setting& setting, int li
     while (next < setting.Widths.size() && width + WidthOf(setting, next) <= room.Width()) {
       width += WidthOf(setting, next++) + setting.Blank;
     }
-    SetLine(setting, first, next, room, lineTop, placed);
+    SetLine(setting, first, next, room, lineTop, placed.Words);
   }
   if (next < setting.Widths.size()) {
     return std::nullopt;
@@ -102,43 +132,74 @@ std::optional<std::vector<PlacedWord>> TrySetting(const Setting& setting, int li
   return placed;
 }
 
-// Fewest lines first, and heights from the middle of the outline outwards.
-std::optional<std::vector<PlacedWord>> Fit(const Setting& setting) {
-  const QRectF bounds = setting.Outline.boundingRect();
-  const double free = bounds.height() - 2 * setting.Margin;
-  for (int lines = 1; lines * setting.LineHeight <= free; ++lines) {
-    const double slack = (free - lines * setting.LineHeight) / 2;
-    const double middle = bounds.top() + setting.Margin + slack;
-    const double step = std::max(setting.LineHeight / 6, 0.25);
-    for (double away = 0; away <= slack; away += step) {
-      for (const double top : {middle - away, middle + away}) {
-        if (auto placed = TrySetting(setting, lines, top)) {
-          return placed;
-        }
+// So many lines, at heights from the middle of the outline outwards.
+std::optional<SetText> FitLines(const Setting& setting, int lines, double free) {
+  const double slack = (free - lines * setting.LineHeight) / 2;
+  const double middle = setting.Outline.boundingRect().top() + setting.Margin + slack;
+  const double step = std::max(setting.LineHeight / 6, 0.25);
+  for (double away = 0; away <= slack; away += step) {
+    for (const double top : {middle - away, middle + away}) {
+      if (auto placed = TrySetting(setting, lines, top)) {
+        return placed;
       }
     }
   }
   return std::nullopt;
 }
 
-std::vector<PlacedWord> Stacked(const Setting& setting) {
-  std::vector<PlacedWord> placed;
+// Fewest lines first, in a field that is much higher than wide most lines.
+std::optional<SetText> Fit(const Setting& setting) {
+  constexpr double kTall = 1.5;
   const QRectF bounds = setting.Outline.boundingRect();
-  const double height = setting.LineHeight * static_cast<double>(setting.Words.size());
+  const double free = bounds.height() - 2 * setting.Margin - setting.Note.Height;
+  const int least = setting.Words.isEmpty() ? 0 : 1;
+  const int most = std::min(static_cast<int>(free / setting.LineHeight),
+                            std::max(least, static_cast<int>(setting.Words.size())));
+  const bool tall = bounds.height() > kTall * bounds.width();
+  for (int step = 0; least + step <= most; ++step) {
+    if (auto placed = FitLines(setting, tall ? most - step : least + step, free)) {
+      return placed;
+    }
+  }
+  return std::nullopt;
+}
+
+SetText Stacked(const Setting& setting) {
+  SetText placed;
+  const QRectF bounds = setting.Outline.boundingRect();
+  const double height =
+      setting.LineHeight * static_cast<double>(setting.Words.size()) + setting.Note.Height;
   double top = bounds.center().y() - height / 2;
+  placed.Note = {
+      setting.Note.Text,
+      {bounds.center().x() - setting.Note.Width / 2, top, setting.Note.Width, setting.Note.Height}};
+  top += setting.Note.Height;
   for (std::size_t word = 0; word < setting.Widths.size(); ++word) {
-    SetLine(setting, word, word + 1, {bounds.left(), bounds.right()}, top, placed);
+    SetLine(setting, word, word + 1, {bounds.left(), bounds.right()}, top, placed.Words);
     top += setting.LineHeight;
   }
   return placed;
 }
 
+// Beside words of that size.
+NoteLine NoteBeside(const FieldNote& note, const QPolygonF& outline, double words) {
+  if (note.Text.isEmpty()) {
+    return {};
+  }
+  QFont font = note.Font;
+  font.setPixelSize(std::max(1, static_cast<int>(std::min(note.PixelSize, words))));
+  const QFontMetricsF metrics(font);
+  const QRectF bounds = outline.boundingRect();
+  return {note.Text, metrics.horizontalAdvance(note.Text), metrics.height() * kTightLine,
+          Chord(outline, bounds.bottom()).Width() > Chord(outline, bounds.top()).Width()};
+}
+
 }  // namespace
 
-FieldText LayOutWords(const QStringList& words, const QPolygonF& outline,
+FieldText LayOutWords(const QStringList& words, const FieldNote& note, const QPolygonF& outline,
                       const std::vector<QRectF>& taken, const QFont& font, double smallest,
                       double largest) {
-  if (words.isEmpty()) {
+  if (words.isEmpty() && note.Text.isEmpty()) {
     return {largest, {}};
   }
   QFont sized = font;
@@ -149,14 +210,21 @@ FieldText LayOutWords(const QStringList& words, const QPolygonF& outline,
     std::vector<double> widths;
     std::transform(words.begin(), words.end(), std::back_inserter(widths),
                    [&](const QString& word) { return metrics.horizontalAdvance(word); });
-    const Setting setting{words,      std::move(widths),       outline,
-                          taken,      metrics.height() * 0.94, metrics.horizontalAdvance(' ') * 1.3,
+    const Setting setting{words,
+                          std::move(widths),
+                          outline,
+                          taken,
+                          NoteBeside(note, outline, size),
+                          metrics.height() * kTightLine,
+                          metrics.horizontalAdvance(' ') * 1.3,
                           size * 0.22};
-    if (auto placed = Fit(setting)) {
-      return {static_cast<double>(sized.pixelSize()), std::move(*placed)};
+    std::optional<SetText> placed = Fit(setting);
+    if (!placed && step == static_cast<int>(kSteps)) {
+      placed = Stacked(setting);
     }
-    if (step == static_cast<int>(kSteps)) {
-      return {static_cast<double>(sized.pixelSize()), Stacked(setting)};
+    if (placed) {
+      return {static_cast<double>(sized.pixelSize()), std::move(placed->Words),
+              std::min(note.PixelSize, size), std::move(placed->Note)};
     }
   }
 }

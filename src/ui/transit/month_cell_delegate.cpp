@@ -3,10 +3,10 @@
 #include <QAbstractItemView>
 #include <QPainter>
 
+#include "chart/sign_degree.h"
 #include "ui/base/planet_chip.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/scaled.h"
-#include "ui/painting/sign_letters.h"
 
 namespace orvex::ui {
 
@@ -59,7 +59,7 @@ void PaintCurrent(QPainter& painter, const QStyleOptionViewItem& option) {
 }  // namespace
 
 QString SignTag(int sign) {
-  return WholeText(sign) + ' ' + kSignLetters.at(static_cast<std::size_t>(sign - 1));
+  return WholeText(sign) + ' ' + chart::kSignLetters.at(static_cast<std::size_t>(sign - 1));
 }
 
 int DrawSignTag(QPainter& painter, const QRect& row, const QString& text) {
@@ -121,7 +121,7 @@ int MonthCellDelegate::LeastDayWidth() {
 int MonthCellDelegate::LeastPlanetWidth() {
   constexpr int kGap = 2;
   int tag = 0;
-  for (std::size_t sign = 1; sign <= kSignLetters.size(); ++sign) {
+  for (std::size_t sign = 1; sign <= chart::kSignLetters.size(); ++sign) {
     tag = std::max(tag, WidthIn(ChipFont(), SignTag(static_cast<int>(sign))));
   }
   return kInset + tag + 2 * kTagPad + kGap + WidthIn(DegreeFont(), "29.97") + kDegreePad;
