@@ -197,17 +197,10 @@ QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
   return wanted;
 }
 
-// Texts of fields keep some air from their frames; a caption begins where the texts of its column
-// do.
+// Texts of fields keep some air from their frames.
 QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option,
                                 const QWidget* widget) const {
-  QRect rect = QProxyStyle::subElementRect(element, option, widget);
-  const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
-  if (element == SE_HeaderLabel && header != nullptr &&
-      header->textAlignment.testFlag(Qt::AlignLeft)) {
-    rect.setLeft(header->rect.left() + kCellPad);
-    rect.setRight(header->rect.right());
-  }
+  const QRect rect = QProxyStyle::subElementRect(element, option, widget);
   const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
   return element == SE_LineEditContents && frame != nullptr && frame->lineWidth > 0
              ? rect.adjusted(space::kXs, 0, -space::kXs, 0)
@@ -231,6 +224,15 @@ void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, 
   }
   if (element == CE_HeaderEmptyArea) {
     DrawHeadSection(*painter, *option, widget);
+    return;
+  }
+  // A caption begins where the texts of its column do.
+  if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+      element == CE_HeaderLabel && header != nullptr &&
+      header->textAlignment.testFlag(Qt::AlignLeft)) {
+    QStyleOptionHeader moved = *header;
+    moved.rect.translate(kCellPad - space::kXs / 2, 0);
+    QProxyStyle::drawControl(element, &moved, painter, widget);
     return;
   }
   if (element == CE_PushButtonLabel && Has(widget, kFilledButton)) {

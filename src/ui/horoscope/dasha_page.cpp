@@ -68,8 +68,8 @@ void DashaPage::PlanTables() {
     list.KeepOrder();
     list.View().setSelectionMode(QAbstractItemView::SingleSelection);
     TablePlan& plan = list.SetPlan({{"Planet", CellKind::Chip, 96, 0},
-                                    {"End Date", CellKind::Figures, 84, 0},
-                                    {kAgeColumn, CellKind::Age, 66, 1},
+                                    {"End Date", CellKind::Figures, 90, 0},
+                                    {kAgeColumn, CellKind::Age, 64, 1},
                                     {kStartColumn, CellKind::Age, 84, 2}},
                                    tight);
     plan.Cells().SetMarks([this, &list](const QModelIndex& index) {

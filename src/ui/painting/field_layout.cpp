@@ -191,7 +191,7 @@ NoteLine NoteBeside(const FieldNote& note, const QPolygonF& outline, double word
   const QFontMetricsF metrics(font);
   const QRectF bounds = outline.boundingRect();
   return {note.Text, metrics.horizontalAdvance(note.Text), metrics.height() * kTightLine,
-          Chord(outline, bounds.bottom()).Width() > Chord(outline, bounds.top()).Width()};
+          Chord(outline, bounds.bottom()).Width() > Chord(outline, bounds.top()).Width() + 1};
 }
 
 }  // namespace
