@@ -16,6 +16,7 @@
 #include "ui/base/open_windows.h"
 #include "ui/horoscope/horoscope_window.h"
 #include "ui/main/main_window.h"
+#include "ui/transit/transit_details_dialog.h"
 
 namespace orvex::ui {
 namespace {
@@ -85,7 +86,17 @@ TEST_F(GuideTest, TheKeysOfTheGuideAreThoseOfTheWindows) {
     pages.setCurrentRow(page);
   }
   EXPECT_EQ(Told("Horoscope"), Present(*horoscope));
-  for (const char* told : {"Main window", "Horoscope"}) {
+  TransitDetailsDialog day(place_, transit::Planet::Moon, session_->Time.Today());
+  Keys known = Told(kTransits);
+  known.merge(Told(kTables));
+  const Keys present = Present(day);
+  for (const std::string& key : Told(kTransits)) {
+    EXPECT_TRUE(present.contains(key)) << key;
+  }
+  for (const std::string& key : present) {
+    EXPECT_TRUE(known.contains(key)) << key;
+  }
+  for (const char* told : {"Main window", "Horoscope", kTransits, kTables}) {
     EXPECT_TRUE(core::Contains(core::ReadTextFile(test::GuideSource() / "keys.md"),
                                Typed(GuideTableOfKeys(told))))
         << told;

@@ -76,6 +76,15 @@ const std::vector<KeyEntry>& AllKeys() {
       {kHoroscope, "exportMenu",       "Ctrl+E",       "export the report"},
       {kHoroscope, "guide",            "F1",           "this guide"},
       {kHoroscope, "close",            "Ctrl+W",       "close"},
+      {kTransits, "previousDay",       "Alt+Left",     "the day before, in the day of a planet"},
+      {kTransits, "nextDay",           "Alt+Right",    "the day after"},
+      {kTransits, "backToHours",       "Alt+Up",       "from the minutes back to the hours"},
+      {kTables, "openChosen",          "Return",       "open the chosen row, as a double click does"},
+      {kTables, "editChosen",          "F2",           "edit the chosen row"},
+      {kTables, "deleteChosen",        "Del",          "delete the chosen row, with a question"},
+      {kTables, "copyChosen",          "Ctrl+C",       "copy the table, or the chosen rows of several"},
+      {kTables, "leave",               "Esc",          "leave a dialog, a popup or a field that narrows"},
+      {kTables, "printDialog",         "Ctrl+P",       "print what a dialog with tables shows"},
   };
   return kKeys;
 }
@@ -117,6 +126,12 @@ void BindKeys(QAbstractButton& button, const QKeySequence& keys) {
   button.setToolTip(WithKeys(button.text(), keys));
   auto* shortcut = new QShortcut(keys, &button);
   QObject::connect(shortcut, &QShortcut::activated, &button, &QAbstractButton::click);
+}
+
+QShortcut* KeyInList(QWidget& list, const char* name) {
+  auto* shortcut = new QShortcut(KeysOf(kTables, name), &list);
+  shortcut->setContext(Qt::WidgetShortcut);
+  return shortcut;
 }
 
 QString GuideTableOfKeys(const QString& window) {

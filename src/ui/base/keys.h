@@ -7,11 +7,16 @@
 #include <vector>
 
 class QAbstractButton;
+class QShortcut;
+class QWidget;
 
 namespace orvex::ui {
 
-// The heading of the main window's keys.
+// The headings of keys that are asked for by name: those of the main window, of the day of a
+// planet, and those that mean the same in every list and dialog.
 inline constexpr const char* kMainWindow = "Main window";
+inline constexpr const char* kTransits = "Transits";
+inline constexpr const char* kTables = "Tables and dialogs";
 
 struct KeyEntry {
   const char* Window;  // the heading of the guide's page
@@ -32,6 +37,9 @@ QString WithKeys(const QString& text, const QKeySequence& keys);
 // Gives a button its key, which presses it at once, and a tool tip that says so. The key works
 // while the button is in sight.
 void BindKeys(QAbstractButton& button, const QKeySequence& keys);
+
+// A key of every list, "editChosen" or "deleteChosen", which works while that list has the focus.
+QShortcut* KeyInList(QWidget& list, const char* name);
 
 // The table under a heading of the guide's page, as Markdown.
 QString GuideTableOfKeys(const QString& window);

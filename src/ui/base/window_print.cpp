@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "ui/base/keys.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/shown_page.h"
 #include "ui/painting/page_fonts.h"
@@ -58,7 +59,7 @@ Printout PrintoutOf(const QWidget& widget, const PrintedHead& head, const core::
 QAction* OfferPrint(Workplace& place, QWidget& dialog) {
   auto* print = new QAction(QAction::tr("&Print…"), &dialog);
   print->setObjectName("printPage");
-  print->setShortcut(QKeySequence::Print);
+  print->setShortcut(KeysOf(kTables, "printDialog"));
   QObject::connect(print, &QAction::triggered, &dialog, [&place, &dialog] {
     PrintWithPreview(place, dialog,
                      PrintoutOf(dialog, {dialog.windowTitle(), {}, {}}, place.Session));

@@ -3,9 +3,11 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <memory>
 
 #include "practice/cities.h"
+#include "ui/base/keys.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
 #include "ui/base/theme.h"
@@ -32,6 +34,8 @@ void CitiesDialog::Build() {
   search_->setPlaceholderText(tr("Type to narrow the list"));
   search_->setClearButtonEnabled(true);
   list_->setObjectName("cityList");
+  list_->setAccessibleName(tr("Cities"));
+  search_->setAccessibleName(tr("Narrow the list of cities"));
   list_->setSelectionMode(QAbstractItemView::SingleSelection);
   list_->SetStretchColumn(0);
   list_->SetEmptyText(tr("No city of that name. Add it below."));
@@ -64,6 +68,7 @@ void CitiesDialog::Connect() {
           [this](const QString& tag) { edit_->setEnabled(!tag.isEmpty()); });
   connect(list_, &TableView::TagActivated, this, [this] { EditCity(); });
   connect(edit_, &QPushButton::clicked, this, [this] { EditCity(); });
+  connect(KeyInList(*list_, "editChosen"), &QShortcut::activated, edit_, &QPushButton::click);
   connect(add_, &QPushButton::clicked, this, [this] { AddCity(); });
 }
 

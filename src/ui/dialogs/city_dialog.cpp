@@ -34,6 +34,7 @@ CityDialog::CityDialog(Workplace& place, std::int32_t cityId, QWidget* parent)
   AcceptAngle(*latitude_, core::ReadTypedLatitude);
   AcceptAngle(*longitude_, core::ReadTypedLongitude);
   zones_->setObjectName("timeZone");
+  zones_->setAccessibleName(tr("Time zone"));
   zones_->setSelectionMode(QAbstractItemView::SingleSelection);
   zones_->setMinimumSize(56 * kGrid, 24 * kGrid);
   connect(zones_, &TableView::TagChosen, this, [this] { TakeOffset(); });

@@ -32,6 +32,8 @@ void CityList::Build() {
   search_->setObjectName("citySearch");
   search_->setClearButtonEnabled(true);
   list_->setObjectName("cityList");
+  list_->setAccessibleName(tr("Cities"));
+  search_->setAccessibleName(tr("Name of a city"));
   list_->setSelectionMode(QAbstractItemView::SingleSelection);
   list_->SetStretchColumn(0);
   searchPause_.setSingleShot(true);

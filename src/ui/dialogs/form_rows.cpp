@@ -1,5 +1,6 @@
 #include "ui/dialogs/form_rows.h"
 
+#include <QAbstractButton>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,9 +10,14 @@
 
 namespace orvex::ui {
 
+// A screen reader looks for a caption beside its field only; this one may stand elsewhere.
 QLabel* MakeFieldCaption(const QString& text, QWidget* field) {
   auto* caption = new QLabel(text);
   caption->setBuddy(field);
+  const bool says = qobject_cast<QAbstractButton*>(field) != nullptr;
+  if (!text.isEmpty() && !says && field->accessibleName().isEmpty()) {
+    field->setAccessibleName(QString(text).remove('&'));
+  }
   return caption;
 }
 

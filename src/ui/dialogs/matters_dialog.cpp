@@ -7,6 +7,7 @@
 
 #include "judgement/matters.h"
 #include "ui/base/export_table.h"
+#include "ui/base/keys.h"
 #include "ui/base/message_boxes.h"
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
@@ -63,14 +64,8 @@ void MattersDialog::Connect() {
   connect(add_, &QPushButton::clicked, this, &MattersDialog::Add);
   connect(edit_, &QPushButton::clicked, this, &MattersDialog::Edit);
   connect(delete_, &QPushButton::clicked, this, &MattersDialog::Delete);
-  // As in every list.
-  const auto press = [this](Qt::Key key, QPushButton* button) {
-    auto* keys = new QShortcut(key, list_);
-    keys->setContext(Qt::WidgetShortcut);
-    connect(keys, &QShortcut::activated, button, &QPushButton::click);
-  };
-  press(Qt::Key_F2, edit_);
-  press(Qt::Key_Delete, delete_);
+  connect(KeyInList(*list_, "editChosen"), &QShortcut::activated, edit_, &QPushButton::click);
+  connect(KeyInList(*list_, "deleteChosen"), &QShortcut::activated, delete_, &QPushButton::click);
 }
 
 void MattersDialog::Load(std::int32_t chosen) {

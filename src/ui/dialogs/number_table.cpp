@@ -29,6 +29,7 @@ NumberTable::NumberTable(Workplace& place, QWidget* parent)
   setWindowTitle(tr("Table of the 249 numbers"));
   auto* search = Named(new QLineEdit, "numberSearch");
   search->setPlaceholderText(tr("Type to narrow the list: a number, a sign, a lord"));
+  search->setAccessibleName(tr("Narrow the list"));
   search->setClearButtonEnabled(true);
   list_->setAccessibleName(tr("Table of the 249 numbers"));
   list_->setSelectionMode(QAbstractItemView::SingleSelection);

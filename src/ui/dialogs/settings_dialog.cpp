@@ -34,6 +34,7 @@ SettingsDialog::SettingsDialog(Workplace& place, QWidget* parent)
 
 void SettingsDialog::Build() {
   options_->setObjectName("option");
+  options_->setAccessibleName(tr("Option"));
   options_->setMaximumWidth(18 * kGrid);
   AddPage(core::kGeneralPage, general_);
   AddPage(core::kOrbitsPage, orbits_);

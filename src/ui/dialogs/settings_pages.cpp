@@ -84,6 +84,7 @@ void GeneralPage::Build() {
 }
 
 QWidget* GeneralPage::BuildChartPath() {
+  chartPath_->setAccessibleName(tr("Chart path"));
   chartPath_->setPlaceholderText(Shown(place_.Session.Place.ChartFolder().string()));
   QPushButton* button = PlainButton(tr("Bro&wse…"), "chooseChartPath");
   connect(button, &QPushButton::clicked, this, [this] { ChooseChartPath(); });

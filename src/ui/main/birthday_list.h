@@ -24,6 +24,7 @@ class BirthdayList final : public QWidget {
   bool FollowDay();
 
   const core::Table& Table() const;
+  TableView& List() { return *list_; }
 
  private:
   Workplace& place_;

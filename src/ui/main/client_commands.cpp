@@ -65,9 +65,7 @@ QAction* ClientCommands::Make(const char* name, const QString& text,
 }
 
 void ClientCommands::DeleteIn(TableView& list, QAction& deletes) {
-  auto* key = new QShortcut(KeysOf(kMainWindow, "deleteChosen"), &list);
-  key->setContext(Qt::WidgetShortcut);
-  connect(key, &QShortcut::activated, &deletes, &QAction::trigger);
+  connect(KeyInList(list, "deleteChosen"), &QShortcut::activated, &deletes, &QAction::trigger);
 }
 
 // In the list of groups the key that edits means the group.

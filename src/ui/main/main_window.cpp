@@ -156,11 +156,15 @@ void MainWindow::Connect() {
   connect(&transits_->Page(), &TransitGridPage::TitleChanged, this, [this] { ShowPageTitle(); });
   connect(commands_, &ClientCommands::PageWanted, this,
           [this] { pages_->Turn(MainPage::Clients); });
-  for (QAction* action : {commands_->View, commands_->Report, commands_->EditClient,
-                          commands_->DeleteClient, commands_->MoveClient}) {
-    search_->Results().AddMenuAction(action);
+  for (TableView* list : {&search_->Results(), &today_->Birthdays().List()}) {
+    for (QAction* action : {commands_->View, commands_->Report, commands_->EditClient,
+                            commands_->DeleteClient, commands_->MoveClient}) {
+      list->AddMenuAction(action);
+    }
+    commands_->DeleteIn(*list, *commands_->DeleteClient);
   }
-  commands_->DeleteIn(search_->Results(), *commands_->DeleteClient);
+  connect(&today_->Birthdays().List(), &TableView::TagActivated, commands_->View,
+          &QAction::trigger);
   clients_->Card().SetActions({commands_->View,
                                commands_->EditClient,
                                commands_->Report,
@@ -216,8 +220,9 @@ void MainWindow::FollowPage() {
       transits_->Horas().FocusDate();
       break;
     case MainPage::Today:
+      commands_->ActOn(&today_->Birthdays().List());
       today_->setFocus();
-      break;
+      return;
   }
   commands_->ActOnNothing();
 }

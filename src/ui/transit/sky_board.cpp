@@ -5,10 +5,12 @@
 #include <QLabel>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "report/chart_picture.h"
 #include "report/sky_chart.h"
 #include "ui/base/chart_view.h"
+#include "ui/base/elided_label.h"
 #include "ui/base/export_table.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/table_view.h"
@@ -19,13 +21,15 @@ namespace orvex::ui {
 
 namespace {
 
-constexpr int kSmallestChart = 24 * kGrid;
+constexpr int kSmallestChart = 18 * kGrid;
+constexpr int kLeastHoras = 14 * kGrid;
 constexpr int kHalf = 45 * kGrid;
 
-QLabel* PlainLabel(const char* name) {
+QLabel* LinesLabel(const char* name) {
   auto* label = new QLabel;
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
   return label;
 }
 
@@ -45,12 +49,12 @@ void PaintBand(QWidget& band, const std::string& rgb) {
 SkyBoard::SkyBoard(Workplace& place, Side side)
     : place_(place),
       band_(new QWidget),
-      title_(PlainLabel("skyTitle")),
-      day_(PlainLabel("skyDay")),
-      city_(PlainLabel("skyCity")),
-      moon_(PlainLabel("skyMoon")),
-      ganapathi_(PlainLabel("skyGanapathiRuling")),
-      next_(PlainLabel("skyNextChange")),
+      title_(new ElidedLabel("skyTitle")),
+      day_(new ElidedLabel("skyDay")),
+      city_(new ElidedLabel("skyCity")),
+      moon_(new ElidedLabel("skyMoon")),
+      ganapathi_(new ElidedLabel("skyGanapathiRuling")),
+      next_(LinesLabel("skyNextChange")),
       chart_(new ChartView("skyChart", kSmallestChart)),
       panchang_(MakeTable("panchang", tr("Panchang"))),
       planets_(MakeTable("skyPlanets", tr("Sky View"))) {
@@ -153,10 +157,11 @@ void SkyBoard::ShowView(const panchang::SkyView& view) {
   planets_->SetTable(view.SkyPlanets);
 }
 
-// The list takes the room of its columns, the chart what is left.
+// The list takes the room of its columns where there is so much, the chart what is left.
 void SkyBoard::ShowHoras(TableView& list, const core::Table& horas) {
   list.SetTable(horas);
-  list.setFixedWidth(list.sizeHint().width());
+  list.setMinimumWidth(std::min(kLeastHoras, list.sizeHint().width()));
+  list.setMaximumWidth(list.sizeHint().width());
 }
 
 void SkyBoard::ShowHeader(const panchang::SkyCaptions& captions) {

@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 
 #include "ui/base/export_table.h"
+#include "ui/base/keys.h"
 #include "ui/base/labels.h"
 #include "ui/base/moment_edit.h"
 #include "ui/base/named.h"
@@ -77,20 +78,25 @@ void TransitDetailsDialog::LayOut() {
 
 QWidget* TransitDetailsDialog::BuildPlanet() {
   title_->setFont(Theme::HeadingFont());
+  title_->setWordWrap(true);
   today_->setText(tr("&Today"));
   backToHours_->setText(tr("&Back to the hours"));
   hours_->setToolTip(tr("A click on an hour shows its minutes"));
   tables_->addWidget(hours_);
   tables_->addWidget(minutes_);
   auto* days = new QHBoxLayout;
+  // A small window cuts the dates, which the tips tell.
+  for (QPushButton* day : {previous_, next_}) {
+    day->setMinimumWidth(16 * kGrid);
+  }
   days->addWidget(previous_);
   days->addWidget(next_);
-  days->addWidget(today_);
   days->addStretch();
   auto* hour = new QHBoxLayout;
   hour->addWidget(hour_);
   hour->addWidget(backToHours_);
   hour->addStretch();
+  hour->addWidget(today_);
   auto* half = new QWidget;
   auto* column = new QVBoxLayout(half);
   column->setContentsMargins(0, 0, 0, 0);
@@ -136,14 +142,14 @@ void TransitDetailsDialog::Connect() {
     ShowMinutes(Shown(hours_->Model().TagOf(index.row())));
   });
   connect(hours_, &TableView::TagActivated, this, &TransitDetailsDialog::ShowMinutes);
-  connect(new QShortcut(tr("Alt+Left"), this), &QShortcut::activated, previous_,
-          &QPushButton::click);
-  connect(new QShortcut(tr("Alt+Right"), this), &QShortcut::activated, next_, &QPushButton::click);
-  connect(new QShortcut(tr("Alt+Up"), this), &QShortcut::activated, backToHours_,
-          &QPushButton::click);
-  previous_->setToolTip(tr("Previous day (Alt+Left)"));
-  next_->setToolTip(tr("Next day (Alt+Right)"));
-  backToHours_->setToolTip(tr("Alt+Up"));
+  const auto bind = [this](const char* name, QPushButton* button, const QString& words) {
+    const QKeySequence keys = KeysOf(kTransits, name);
+    connect(new QShortcut(keys, this), &QShortcut::activated, button, &QPushButton::click);
+    button->setToolTip(WithKeys(words, keys));
+  };
+  bind("previousDay", previous_, {});
+  bind("nextDay", next_, {});
+  bind("backToHours", backToHours_, tr("Back to the hours"));
 }
 
 void TransitDetailsDialog::ShowDay(transit::Planet planet, core::DateTime date) {
@@ -155,8 +161,10 @@ void TransitDetailsDialog::ShowDay(transit::Planet planet, core::DateTime date) 
   hours_->setAccessibleName(Shown(details.Title));
   hours_->SetTable(details.Hours);
   previous_->setText(Shown(details.PreviousDay.Caption));
+  previous_->setToolTip(WithKeys(previous_->text(), KeysOf(kTransits, "previousDay")));
   previous_->setEnabled(details.PreviousDay.Enabled);
   next_->setText(Shown(details.NextDay.Caption));
+  next_->setToolTip(WithKeys(next_->text(), KeysOf(kTransits, "nextDay")));
   next_->setEnabled(details.NextDay.Enabled);
   today_->setVisible(details.TodayLink);
   changes_->SetTable(details.Changes);
