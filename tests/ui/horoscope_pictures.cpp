@@ -9,6 +9,7 @@
 
 #include "chart/client_saving.h"
 #include "practice/remedies.h"
+#include "support/picture_program.h"
 #include "support/test_home.h"
 #include "ui/base/picture.h"
 #include "ui/base/qt_text.h"
@@ -19,9 +20,6 @@
 
 namespace orvex::ui {
 namespace {
-
-constexpr int kSmallWidth = 1366;
-constexpr int kSmallHeight = 768;
 
 std::int32_t AddClient(core::Session& session, const std::string& birth) {
   chart::ClientForm form = chart::OpenAddClient(session);
@@ -38,7 +36,7 @@ std::int32_t AddClient(core::Session& session, const std::string& birth) {
 
 void WritePages(HoroscopeWindow& window, const std::filesystem::path& folder) {
   auto& pages = *window.findChild<QListWidget*>("pages");
-  window.resize(kSmallWidth, kSmallHeight);
+  window.resize(test::PictureSize());
   for (int page = 0; page < pages.count(); ++page) {
     if (!pages.item(page)->flags().testFlag(Qt::ItemIsEnabled)) {
       continue;

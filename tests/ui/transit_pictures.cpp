@@ -19,7 +19,6 @@
 #include "ui/base/theme.h"
 #include "ui/main/main_window.h"
 #include "ui/transit/find_transit_dialog.h"
-#include "ui/transit/hora_view.h"
 #include "ui/transit/transit_details_dialog.h"
 #include "ui/transit/transit_grid_page.h"
 
@@ -38,11 +37,9 @@ void Measure(const char* what, QWidget& window, Deed deed) {
 }
 
 void WriteGrid(Workplace& place, const std::filesystem::path& folder) {
-  constexpr int kWidth = 1366;
-  constexpr int kHeight = 740;  // what a title bar and a panel leave of 768
   MainWindow window(place);
   auto& page = *window.findChild<TransitGridPage*>();
-  window.resize(kWidth, kHeight);
+  window.resize(test::PictureSize());
   window.show();
   QCoreApplication::processEvents();
   window.findChild<QAction*>("foldSky")->trigger();
@@ -81,6 +78,14 @@ void WriteFind(Workplace& place, const std::filesystem::path& folder) {
   WritePicture(find, folder / "find-transit-found.png");
 }
 
+void WriteHoras(Workplace& place, const std::filesystem::path& file) {
+  MainWindow window(place);
+  window.resize(test::PictureSize());
+  window.show();
+  window.findChild<QAction*>("hora")->trigger();
+  WritePicture(window, file);
+}
+
 void WriteAll(const std::filesystem::path& folder) {
   test::TestHome home;
   const std::unique_ptr<core::Session> session = home.Start();
@@ -90,7 +95,7 @@ void WriteAll(const std::filesystem::path& folder) {
   WriteGrid(place, folder);
   WriteDetails(place, folder);
   WriteFind(place, folder);
-  WritePicture(*std::make_unique<HoraView>(place), folder / "hora.png");
+  WriteHoras(place, folder / "hora.png");
 }
 
 }  // namespace

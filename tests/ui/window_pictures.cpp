@@ -1,5 +1,6 @@
-// Writes pictures of the main window and of every dialog into a folder: window_pictures FOLDER.
-// The size of the pictures follows QT_SCALE_FACTOR, the palette ORVEX_THEME.
+// Writes pictures of the main window, filled with the demonstration, and of every dialog into a
+// folder: window_pictures FOLDER. The size of the window follows ORVEX_PICTURE_SIZE, that of the
+// pictures QT_SCALE_FACTOR, the palette ORVEX_THEME.
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -11,20 +12,24 @@
 #include <QTest>
 #include <memory>
 
-#include "chart/client_saving.h"
+#include "practice/demo_home.h"
 #include "practice/groups.h"
-#include "practice/remedies.h"
+#include "support/data_folder.h"
 #include "support/picture_program.h"
 #include "support/test_home.h"
 #include "ui/base/moment_edit.h"
 #include "ui/base/picture.h"
+#include "ui/base/qt_text.h"
+#include "ui/base/table_view.h"
 #include "ui/base/theme.h"
 #include "ui/dialogs/about_box.h"
 #include "ui/dialogs/cities_dialog.h"
 #include "ui/dialogs/city_dialog.h"
 #include "ui/dialogs/client_dialog.h"
 #include "ui/dialogs/group_dialog.h"
+#include "ui/dialogs/matters_dialog.h"
 #include "ui/dialogs/move_dialog.h"
+#include "ui/dialogs/number_table.h"
 #include "ui/dialogs/pick_city_dialog.h"
 #include "ui/dialogs/remedy_dialog.h"
 #include "ui/dialogs/settings_dialog.h"
@@ -33,34 +38,34 @@
 namespace orvex::ui {
 namespace {
 
-std::int32_t AddClient(test::TestHome& home, core::Session& session, const std::string& name,
-                       const std::string& birth) {
-  home.Clock.Set(home.Clock.Now() + std::chrono::seconds(1));
-  chart::ClientForm form = chart::OpenAddClient(session);
-  chart::SelectCity(session, 1, form);
-  form.FullName = name;
-  form.Birth = test::Moment(birth);
-  form.Email = "client@example.org";
-  form.Comments = "Asked for the years of work.";
-  return chart::SaveNewClient(session, form, 1).Id;
-}
-
-constexpr int kWidth = 1366;
-constexpr int kHeight = 740;  // what a title bar and a panel leave of 768
-
-void WriteMain(Workplace& place, const std::filesystem::path& file) {
+// With a client chosen in the list of her group; 0 for none.
+void WriteMain(Workplace& place, const std::filesystem::path& file, std::int32_t client) {
   constexpr int kRest = 400;  // milliseconds, after which the card of the client stands
   MainWindow window(place);
-  window.resize(kWidth, kHeight);
+  window.resize(test::PictureSize());
   window.show();
+  QCoreApplication::processEvents();
+  if (client != 0) {
+    const std::int32_t group = practice::GroupOfClient(place.Session, client);
+    window.findChild<TableView*>("groupList")->SelectTag(Typed(WholeText(group)));
+    window.findChild<TableView*>("clientList")->SelectTag(Typed(WholeText(client)));
+  }
   QTest::qWait(kRest);
+  WritePicture(window, file);
+}
+
+void WriteToday(Workplace& place, const std::filesystem::path& file) {
+  MainWindow window(place);
+  window.resize(test::PictureSize());
+  window.show();
+  window.findChild<QAction*>("showToday")->trigger();
   WritePicture(window, file);
 }
 
 // Both modes of the search, each with something found.
 void WriteSearch(Workplace& place, const std::filesystem::path& folder) {
   MainWindow window(place);
-  window.resize(kWidth, kHeight);
+  window.resize(test::PictureSize());
   window.show();
   QCoreApplication::processEvents();
   window.findChild<QAction*>("searchClients")->trigger();
@@ -126,6 +131,8 @@ void WriteDialogs(Workplace& place, std::int32_t client, const std::filesystem::
   write(new GroupDialog(place), "group.png");
   write(new MoveDialog(place, client, "Asha Rao", "General"), "move.png");
   write(RemedyDialog::ForNew(place, client), "remedy.png");
+  write(new MattersDialog(place, 0), "matters.png");
+  write(new NumberTable(place), "numbers.png");
   write(new AboutBox, "about.png");
   write(new UpdateBox, "update.png");
   WriteSettings(place, folder);
@@ -137,14 +144,13 @@ void WriteAll(const std::filesystem::path& folder) {
   FileDialogs files;
   LayoutMemory layout(home.Place.Folder / "windows.ini");
   Workplace place{*session, files, layout};
-  WriteMain(place, folder / "first-run.png");
-  const std::int32_t client = AddClient(home, *session, "Asha Rao", "1943-11-24 10:00:00");
-  AddClient(home, *session, "Ravi Iyer", "1981-02-01 06:10:00");
-  AddClient(home, *session, "Meera Krishnan", "1975-08-30 21:45:00");
-  practice::AddGroup(*session, "Students");
-  practice::SaveNewRemedy(
-      *session, {1, "Restless sleep", "Water to the Sun at dawn", session->Time.Today()}, client);
-  WriteMain(place, folder / "main.png");
+  WriteMain(place, folder / "first-run.png", 0);
+  practice::FillDemo(*session, test::DataFolder());
+  const auto client = static_cast<std::int32_t>(
+      session->StoreConnection.Query("Select id from client_master where fullname = 'Asha Rao'")
+          .Integer("id"));
+  WriteMain(place, folder / "main.png", client);
+  WriteToday(place, folder / "today.png");
   WriteSearch(place, folder);
   WriteDialogs(place, client, folder);
 }
