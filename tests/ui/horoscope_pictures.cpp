@@ -47,7 +47,9 @@ void WritePages(HoroscopeWindow& window, const std::filesystem::path& folder) {
   }
   window.Turn("chart");
   window.ShowPlanetSheet(2);
-  WritePicture(*window.findChild<PlanetSheetDialog*>(), folder / "sheet.png");
+  // At the side of a wide window, else before it.
+  QWidget* sheet = window.findChild<PlanetSheetDialog*>();
+  WritePicture(sheet != nullptr ? *sheet : window, folder / "sheet.png");
 }
 
 long ResidentKilobytes() {
