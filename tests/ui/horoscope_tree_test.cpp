@@ -190,6 +190,16 @@ TEST_F(HoroscopeTreeTest, NoPageHasABarAcrossAtTheSizesOfSmallScreens) {
       }
     });
   }
+  // As small as it goes, the summaries of the periods stand one at a time.
+  Resize(QSize(960, 540));
+  window_->Turn("dasha");
+  for (const char* summary : {"houseCount", "selectedPeriods"}) {
+    QTest::mouseClick(&Find<QPushButton>(summary), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Find<TableView>("DBAHouseCount").isVisible(), summary == std::string("houseCount"));
+    EXPECT_EQ(Find<TableView>("DBAPeriods").isVisible(), summary == std::string("selectedPeriods"));
+    ExpectNoBar(*window_, summary);
+  }
 }
 
 // What is read in a sitting stands on a small screen, two columns of one caption among it.

@@ -12,6 +12,7 @@
 #include "ui/base/named.h"
 #include "ui/base/qt_text.h"
 #include "ui/base/scaled.h"
+#include "ui/base/segments.h"
 #include "ui/base/theme.h"
 #include "ui/horoscope/life_strip.h"
 #include "ui/horoscope/period_columns.h"
@@ -23,7 +24,8 @@ namespace {
 constexpr int kListRows = 10;   // with the head
 constexpr int kCountRows = 12;  // with head and title
 constexpr int kDateWidth = 130;
-constexpr int kRoomForNow = 290;  // of a list; below, an arrow stands for the word
+constexpr int kRoomForSummaries = 1050;  // summaries
+constexpr int kRoomForNow = 290;         // of a list; below, an arrow stands for the word
 
 // The row that the list marks becomes the current one, so that the arrow keys go on from there.
 void StandOnMarkedRow(TableView& view) {
@@ -45,7 +47,9 @@ DashaPage::DashaPage(HoroscopeDocument& document)
              new CatalogueTable(document, "SookshmaList")},
       periods_(new CatalogueTable(document, "DBAPeriods")),
       houses_(new CatalogueTable(document, "DBAHouseCount")),
-      date_(new DateEdit("goToDate")) {
+      date_(new DateEdit("goToDate")),
+      summary_(new Segments(
+          {{"selectedPeriods", tr("Selected periods")}, {"houseCount", tr("House count")}})) {
   PlanTables();
   AddTools();
   auto* layout = new QVBoxLayout(this);
@@ -59,6 +63,8 @@ DashaPage::DashaPage(HoroscopeDocument& document)
     Connect(level);
   }
   connect(strip_, &LifeStrip::PeriodChosen, this, &DashaPage::OpenLater);
+  connect(summary_, &Segments::ChosenChanged, this, &DashaPage::ArrangeSummaries);
+  periods_->TitleLine().insertWidget(0, summary_);
 }
 
 void DashaPage::PlanTables() {
@@ -173,8 +179,23 @@ bool DashaPage::eventFilter(QObject* watched, QEvent* event) {
   return HoroscopePage::eventFilter(watched, event);
 }
 
+// Both beside each other, or the one that the switch in its title says.
+void DashaPage::ArrangeSummaries() {
+  const bool both = width() >= Scaled(kRoomForSummaries);
+  const bool houses = summary_->Chosen() == 1;
+  if (!both) {
+    (houses ? houses_ : periods_)->TitleLine().insertWidget(0, summary_);
+  }
+  summary_->setVisible(!both);
+  periods_->Title().setVisible(both);
+  houses_->Title().setVisible(both);
+  periods_->setVisible(both || !houses);
+  houses_->setVisible(both || houses);
+}
+
 void DashaPage::resizeEvent(QResizeEvent* event) {
   HoroscopePage::resizeEvent(event);
+  ArrangeSummaries();
   const bool room = width() / static_cast<int>(lists_.size()) >= Scaled(kRoomForNow);
   if (room != saysNow_) {
     saysNow_ = room;

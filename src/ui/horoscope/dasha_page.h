@@ -13,6 +13,7 @@ namespace orvex::ui {
 
 class DateEdit;
 class LifeStrip;
+class Segments;
 
 class DashaPage final : public HoroscopePage {
   Q_OBJECT
@@ -35,6 +36,7 @@ class DashaPage final : public HoroscopePage {
   void ShowList(std::size_t level);
   QString PathTo(std::size_t level) const;
   void GoToTyped();
+  void ArrangeSummaries();
   void Connect(std::size_t level);
   void OpenLater(std::size_t level, std::size_t row);
 
@@ -43,6 +45,7 @@ class DashaPage final : public HoroscopePage {
   CatalogueTable* periods_;
   CatalogueTable* houses_;
   DateEdit* date_;
+  Segments* summary_;     // which of the two stands in a window without room for both
   bool saysNow_ = true;   // in words what runs, else by an arrow
   bool showing_ = false;  // the model is being shown: a row that becomes current was not picked
 };

@@ -52,7 +52,7 @@ QWidget* VastuPage::LayOutPlan() {
   grid->addWidget(sides_[3], 1, 0);
   grid->addWidget(note, 1, 1);
   grid->setColumnStretch(0, 4);
-  grid->setColumnStretch(1, 8);
+  grid->setColumnStretch(1, 9);
   grid->setColumnStretch(2, 4);
   return plan;
 }

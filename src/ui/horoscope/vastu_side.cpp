@@ -44,7 +44,7 @@ VastuSide::VastuSide(PlanSide side) : side_(side) {
   setFont(Theme::Text(type::kHead));  // the longest deity fits its cell on a small screen
   horizontalHeader()->hide();
   verticalHeader()->hide();
-  horizontalHeader()->setMinimumSectionSize(IsUpright() ? kLeastCell : kCellWidth);
+  horizontalHeader()->setMinimumSectionSize(kLeastCell);
   horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   for (const int narrow : {ColumnOf(0, kSectors), ColumnOf(0, Ring::kNames)}) {
