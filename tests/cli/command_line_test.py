@@ -272,6 +272,15 @@ class CommandLine(CommandLineTest):
                                         "--latitude", "-33.5", "--longitude", "-74.00597", "--json"))
         self.assertEqual((chart["moment"]["Hour"], chart["moment"]["Minute"]), (19, 26))
 
+    def test_a_month_tells_its_changes_beside_its_table(self):
+        tables = json.loads(self.succeed("grid", "2026", "11", "--json"))["tables"]
+        self.assertEqual(list(tables), ["Grid", "Changes"])
+        self.assertEqual([column["caption"] for column in tables["Changes"]["columns"]],
+                         ["Date", "Time", "Planet", "Change"])
+        rows = [[cell["text"] for cell in row["cells"]] for row in tables["Changes"]["rows"]]
+        self.assertIn(["13 Nov 2026", "Mercury", "Mercury turns direct"],
+                      [[row[0], *row[2:]] for row in rows])
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -223,6 +223,8 @@ TEST_F(DialogTest, SettingsAreCheckedFieldByFieldAndTakenAtOnce) {
   SettingsDialog dialog(place_);
   Show(dialog);
   EXPECT_EQ(dialog.windowTitle(), "Settings - General");
+  const auto& words = Find<QLabel>(dialog, "birthMomentWords");
+  EXPECT_GE(words.height(), words.heightForWidth(words.width())) << "no line of it is cut";
   auto& moment = Find<QComboBox>(dialog, "BirthMoment");
   EXPECT_EQ(moment.currentText(), "Local mean time");
   moment.setFocus();

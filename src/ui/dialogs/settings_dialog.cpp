@@ -52,7 +52,7 @@ void SettingsDialog::Build() {
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->addLayout(grid, 1);
   layout->addLayout(MakeButtons(tr("&Update")));
-  resize(84 * kGrid, 50 * kGrid);
+  resize(84 * kGrid, 56 * kGrid);
 }
 
 void SettingsDialog::AddPage(const char* name, QWidget* page) {

@@ -80,7 +80,8 @@ void GeneralPage::Build() {
   form->addRow(tr("Chart path:"), BuildChartPath());
   form->addRow(tr("Current city:"), BuildCity());
   form->addRow(tr("&Instant chart group:"), group_);
-  form->addRow(tr("&Births west of Greenwich:"), BuildBirthMoment());
+  form->addRow(tr("&Births west of Greenwich:"), birthMoment_);
+  form->addRow(QString(), BuildMomentWords());
 }
 
 QWidget* GeneralPage::BuildChartPath() {
@@ -98,19 +99,15 @@ QWidget* GeneralPage::BuildCity() {
   return BesideButton(city_, button);
 }
 
-QWidget* GeneralPage::BuildBirthMoment() {
-  auto* words = new QLabel(
+QLabel* GeneralPage::BuildMomentWords() {
+  auto* words = Named<QLabel>("birthMomentWords");
+  words->setText(
       tr("The moment of the stored chart: by the local mean time of the longitude, or by the "
          "clock's time less its offset, as the sky was. A chart that is stored changes only when "
          "its client is saved again."));
   words->setWordWrap(true);
-  auto* part = new QWidget;
-  auto* layout = new QVBoxLayout(part);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(birthMoment_);
-  layout->addWidget(words);
   birthMoment_->setAccessibleDescription(words->text());
-  return part;
+  return words;
 }
 
 void GeneralPage::FillGroups() {

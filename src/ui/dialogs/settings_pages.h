@@ -28,7 +28,7 @@ class GeneralPage final : public QWidget {
   void FillGroups();
   QWidget* BuildChartPath();
   QWidget* BuildCity();
-  QWidget* BuildBirthMoment();
+  QLabel* BuildMomentWords();
   void ChooseChartPath();
   void ChooseCity();
 

@@ -20,7 +20,7 @@ namespace {
 const std::vector<ColumnPlan> kCuspColumns = {
     {"House",        CellKind::Text,  46, 0},
     {"Position",     CellKind::Text, 104, 0},
-    {"Longitude",    CellKind::Age,   88, 4},
+    {"Longitude",    CellKind::Text,  88, 4},
     {"Sign Lord",    CellKind::Chip,  76, 3},
     {"Star Lord",    CellKind::Chip,  76, 0},
     {"Sub Lord",     CellKind::Chip,  76, 0},
@@ -33,7 +33,7 @@ const std::vector<ColumnPlan> kPlanetColumns = {
     {"Planet",       CellKind::Chip, 104, 0},
     {"R",            CellKind::Text,  32, 0},
     {"Position",     CellKind::Text, 104, 0},
-    {"Longitude",    CellKind::Age,   88, 4},
+    {"Longitude",    CellKind::Text,  88, 4},
     {"House",        CellKind::Text,  46, 0},
     {"Sign Lord",    CellKind::Chip,  76, 3},
     {"Star Lord",    CellKind::Chip,  76, 0},

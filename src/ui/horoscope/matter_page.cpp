@@ -50,8 +50,8 @@ const std::vector<ColumnPlan> kGradeColumns = {
 const std::vector<ColumnPlan> kTestColumns = {
     {"Planet",     CellKind::Code,   46, 0},
     {"Grade",      CellKind::Bold,   40, 0},
-    {"Supporting", CellKind::Houses, 96, 1},
-    {"Denying",    CellKind::Houses, 96, 2},
+    {"Supporting", CellKind::Houses, 64, 1},
+    {"Denying",    CellKind::Houses, 64, 2},
     {"Ruling",     CellKind::Words, 120, 0},
     {"Star",       CellKind::Tick,   34, 0},
     {"Sub",        CellKind::Tick,   34, 0},
